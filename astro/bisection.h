@@ -1,0 +1,45 @@
+#pragma once
+
+#include <cmath>
+
+namespace veyruna::astro {
+
+/// The end of every search for a moment, in days: about 8.6 seconds.
+inline constexpr double phaseTolerance = 0.0001;
+
+/// Halves the interval from `low` to `high` until it is no longer than phaseTolerance and returns
+/// the middle of what is left. `crossingIsBefore(t)` says whether the moment sought lies in the
+/// half that ends at `t`. Ends also where neighbouring doubles leave nothing to halve.
+template <class CrossingIsBefore>
+double bisect(double low, double high, CrossingIsBefore crossingIsBefore) {
+  double middle = (low + high) / 2.0;
+  while (std::abs(high - low) > phaseTolerance) {
+    if (crossingIsBefore(middle)) {
+      high = middle;
+    } else {
+      low = middle;
+    }
+    const double next = (low + high) / 2.0;
+    if (next == middle) {
+      break;
+    }
+    middle = next;
+  }
+  return middle;
+}
+
+/// The moment between `low` and `high` at which `signAt(t)` (only its sign counts) changes.
+/// `signAtLow` is its value at `low`. An exact zero moves the low end, for good.
+template <class SignAt>
+double bisectSignChange(double low, double high, double signAtLow, SignAt signAt) {
+  return bisect(low, high, [&](double t) {
+    const double sign = signAt(t);
+    const bool changesBefore = (signAtLow < 0.0 && sign > 0.0) || (signAtLow > 0.0 && sign < 0.0);
+    if (!changesBefore) {
+      signAtLow = sign;
+    }
+    return changesBefore;
+  });
+}
+
+}  // namespace veyruna::astro

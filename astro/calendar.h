@@ -1,0 +1,32 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+/// The world's calendar: 12 months of 30 days, 360 days a year, no leap rule.
+/// A moment is a base time: days, 0.0 at noon of day 1 of month 1 of year 1.
+namespace veyruna::astro {
+
+inline constexpr int monthsPerYear = 12;
+inline constexpr int daysPerMonth = 30;
+inline constexpr int daysPerYear = 360;
+
+inline constexpr std::array<std::string_view, monthsPerYear> monthNames = {
+    "Brenwic", "Tolma",  "Dovri", "Ambro", "Fiskel", "Ulvenhar",
+    "Cendo",   "Virela", "Grend", "Oskam", "Rulig",  "Thaven"};
+
+/// Base time of a clock reading in standard time. `monthIndex` counts from 0 to 11, `dayIndex` from
+/// 0 to 29, `hour` from 0 to 24 with a fraction whose seconds are dropped. Nothing is clamped: what
+/// lies outside simply continues the sum.
+double standardBaseTime(std::int64_t year, std::int64_t monthIndex, std::int64_t dayIndex,
+                        double hour);
+
+/// "720-01-01 12:00 OST": the standard-time reading of a base time, rounded to the second and then
+/// cut to the minute. Before the first midnight (−0.5) the fields turn negative. A base time whose
+/// seconds overflow 64 bits is a broken invariant.
+std::string calendarLabel(double baseTime);
+void appendCalendarLabel(std::string& out, double baseTime);
+
+}  // namespace veyruna::astro

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "astro/vec3d.h"
+
+namespace veyruna::astro {
+
+/// longitude + the turn of the sky since base time `t` (days), radians; the sum is not reduced.
+double localSiderealAngle(double t, double longitude);
+
+/// The observer's horizon at one moment: what toHorizon needs, computed once for many bodies.
+class HorizonFrame {
+ public:
+  /// Base time in days, longitude (positive east) and latitude (positive north) in radians.
+  HorizonFrame(double t, double longitude, double latitude);
+
+  /// Azimuth (`phi`, from the south point toward the west, in [0, 2π)) and altitude (`theta`) of an
+  /// equatorial direction.
+  [[nodiscard]] Vec3D toHorizon(const Vec3D& equatorial) const;
+
+  /// The components of the same direction, without its angles: z is the sine of the altitude.
+  [[nodiscard]] std::array<double, 3> toHorizonComponents(const Vec3D& equatorial) const;
+
+ private:
+  double siderealAngle_;
+  RotationMatrix toHorizon_;
+};
+
+/// Azimuth and altitude of an equatorial direction for an observer; see HorizonFrame.
+Vec3D toHorizon(const Vec3D& equatorial, double t, double longitude, double latitude);
+
+}  // namespace veyruna::astro

@@ -1,0 +1,92 @@
+// E elongation of the moon from the sun, β ecliptic latitude of the moon.
+#include "astro/lunar_events.h"
+
+#include <array>
+#include <cmath>
+#include <string_view>
+
+#include "astro/angle.h"
+#include "astro/arc.h"
+#include "astro/bisection.h"
+#include "astro/calendar.h"
+#include "astro/lunar_phases.h"
+#include "astro/moon.h"
+#include "astro/sun.h"
+
+namespace veyruna::astro {
+
+namespace {
+
+/// Below these elongations the moon can cover the sun: wholly (1.70°), in part (2.54°).
+constexpr double totalSolarLimit = 0.029670597283903602;
+constexpr double partialSolarLimit = 0.044331363000655974;
+
+/// Above these the world can shade the moon: wholly (179.65°), for the most (179.11°), in the
+/// penumbra (178.42°).
+constexpr double fullLunarLimit = 3.135484001207813;
+constexpr double mostlyLunarLimit = 3.1260592232470437;
+constexpr double penumbralLunarLimit = 3.1140164514082826;
+
+/// A latitude this small (radians) at an interval's start is a crossing by itself.
+constexpr double onEcliptic = 0.0001;
+
+std::string_view eventCode(double separation) {
+  if (separation < totalSolarLimit) {
+    return "  TS ";
+  }
+  if (separation < partialSolarLimit) {
+    return "  PS ";
+  }
+  if (separation > fullLunarLimit) {
+    return " FUL ";
+  }
+  if (separation > mostlyLunarLimit) {
+    return " FPL ";
+  }
+  if (separation > penumbralLunarLimit) {
+    return " PPL ";
+  }
+  return {};
+}
+
+/// Whether sun and moon can be aligned at any moment of [start, start + step]. Both move uniformly,
+/// so the elongation at the start tells; the margin covers rounding.
+bool alignmentIsPossible(double start, double step) {
+  constexpr double margin = 1e-4;
+  const double reach = (moonMeanMotion - sunMeanMotion) * twoPi * std::abs(step) + margin;
+  const double separation = std::abs(elongation(start, newMoonElongation));
+  return separation < partialSolarLimit + reach || separation > penumbralLunarLimit - reach;
+}
+
+}  // namespace
+
+std::string lunarEventText(double t) {
+  const double e = elongation(t, newMoonElongation);
+  const std::string_view code = eventCode(std::abs(e));
+  if (code.empty()) {
+    return {};
+  }
+  std::string text(code);
+  appendCalendarLabel(text, t);
+  text += ' ';
+  Arc(e).appendDegMinSecText(text);
+  text += ' ';
+  return text;
+}
+
+std::string nodeEclipseEvent(double start, double step) {
+  if (!alignmentIsPossible(start, step)) {
+    return {};
+  }
+  const double atStart = moonLatitude(start);
+  if (std::abs(atStart) < onEcliptic) {
+    return lunarEventText(start);
+  }
+  const double end = start + step;
+  if (atStart * moonLatitude(end) >= 0.0) {
+    return {};
+  }
+  return lunarEventText(bisectSignChange(start, end, atStart, moonLatitude));
+}
+
+}  // namespace veyruna::astro

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <string>
+
+namespace veyruna::astro {
+
+/// The near-alignment of sun, world and moon at base time `t` (days), or the empty text:
+/// code ("  TS ", "  PS ", " FUL ", " FPL ", " PPL "), calendar label, blank, elongation with
+/// seconds (signed), blank.
+std::string lunarEventText(double t);
+
+/// lunarEventText of the moment in [start, start + step] (days) at which the moon crosses the
+/// ecliptic; empty where it does not, or where sun and moon are not aligned then.
+std::string nodeEclipseEvent(double start, double step);
+
+}  // namespace veyruna::astro

@@ -1,0 +1,11 @@
+#include "astro/sun.h"
+
+namespace veyruna::astro {
+
+double sunLongitude(double t) {
+  return meanAngle(sunMeanMotion * t + sunPhaseAtEpoch);
+}
+
+Sun::Sun(double t) : ec(sunLongitude(t), 0.0), eq(rotated(ec, eclipticToEquatorial)) {}
+
+}  // namespace veyruna::astro

@@ -1,0 +1,284 @@
+// Θ local sidereal angle, A ascendant, M midheaven, H hour angle of the sun, ε obliquity.
+#include "charts/horoscope.h"
+
+#include <array>
+#include <cmath>
+#include <string_view>
+#include <vector>
+
+#include "astro/horizon.h"
+#include "astro/moon.h"
+#include "astro/number_text.h"
+#include "astro/planet.h"
+#include "astro/sun.h"
+#include "charts/body_marker.h"
+#include "charts/chart_frame.h"
+#include "charts/interpretation.h"
+#include "charts/moon_glyph.h"
+#include "charts/planet_style.h"
+#include "charts/svg_writer.h"
+
+namespace veyruna::charts {
+
+namespace {
+
+constexpr std::string_view head =
+    R"(<svg xmlns="http://www.w3.org/2000/svg" xmlns:xlink="http://www.w3.org/1999/xlink" viewBox="-10 -10 720 380">
+<defs>
+<path id="rim" d="M180,5 A175,175, 0 1,1 180,355 A175,175, 0 1,1 180,5" fill="none" />
+<path id="rim_inner" d="M180,10 A170,170, 0 1,1 180,350 A170,170, 0 1,1 180,10" fill="none" />
+<clipPath id="horoscopeClip"><circle cx="180" cy="180" r="180"/></clipPath>
+</defs>
+)";
+
+/// The colour of the signs' names, which alone run along the outer rim path.
+constexpr std::string_view signColor = "#f4f4f3";
+
+/// A label further out than this runs along the rim.
+constexpr double rimDistance = 0.9;
+
+/// South of this latitude the celestial pole's circle would leave the wheel: −21°.
+constexpr double southernmostPoleCircle = -astro::obliquity;
+
+struct Chord {
+  astro::Planet from;
+  astro::Planet to;
+  std::string_view color;
+};
+
+using astro::Planet;
+constexpr std::array<Chord, 6> chords = {{
+    {Planet::bralo, Planet::galvi, "green"},
+    {Planet::bralo, Planet::dunmor, "orange"},
+    {Planet::bralo, Planet::pallox, "purple"},
+    {Planet::dunmor, Planet::galvi, "yellow"},
+    {Planet::dunmor, Planet::pallox, "pink"},
+    {Planet::galvi, Planet::pallox, "blue"},
+}};
+
+double ascendantOf(double siderealAngle, double latitude) {
+  return astro::wrappedToTurn(
+      std::atan2(-std::cos(siderealAngle), std::sin(siderealAngle) * astro::cosObliquity +
+                                               std::tan(latitude) * astro::sinObliquity) +
+      astro::pi);
+}
+
+double midheavenOf(double siderealAngle) {
+  return astro::wrappedToTurn(
+      std::atan2(std::sin(siderealAngle), std::cos(siderealAngle) * astro::cosObliquity));
+}
+
+/// The horoscope of one moment and place, drawn piece by piece.
+class Horoscope {
+ public:
+  Horoscope(std::string& document, bool blackAndWhite, double t, double latitude, double longitude,
+            const StarCatalogue& catalogue)
+      : svg_(document),
+        blackAndWhite_(blackAndWhite),
+        latitude_(latitude),
+        siderealAngle_(astro::localSiderealAngle(t, longitude)),
+        sun_(t),
+        moon_(t),
+        catalogue_(catalogue),
+        nativity_(nativityOf(t)) {
+    svg_.markup(head);
+    drawDisc();
+    drawGrid(svg_);
+    drawHeader(svg_, t, latitude, longitude);
+    svg_.markup("<g clip-path=\"url(#horoscopeClip)\">\n");
+    drawWanderers();
+    drawChords();
+    drawConstellations();
+    drawSignBoundaries();
+    drawStars();
+    svg_.markup("</g>\n");
+    drawAscendant();
+    drawHourAngle();
+    drawCelestialPole();
+    drawInterpretation(svg_, nativity_);
+    svg_.markup("</svg>\n");
+  }
+
+ private:
+  [[nodiscard]] Nativity nativityOf(double t) const {
+    Nativity nativity{
+        sun_.ec.phi, moon_.ec.phi, moon_.ec.theta, {}, ascendantOf(siderealAngle_, latitude_)};
+    for (const Planet planet : astro::allPlanets) {
+      nativity.planets[indexOf(planet)] = planetEcliptic(planet, t, sun_).phi;
+    }
+    return nativity;
+  }
+
+  /// The colour a thing is drawn in: what shines is black on paper.
+  [[nodiscard]] std::string_view ink(std::string_view color) const {
+    const bool shines = color == signColor || color == "#fef651" || color == "#eaeae9" ||
+                        color == "white" || color == "yellow";
+    return blackAndWhite_ && shines ? "black" : color;
+  }
+
+  void drawDisc() {
+    svg_.element("circle")
+        .attribute("cx", 180)
+        .attribute("cy", 180)
+        .attribute("r", 180)
+        .attribute("fill", blackAndWhite_ ? "#ffffff" : "#727cbb")
+        .attribute("stroke", textColor)
+        .attribute("stroke-width", 1)
+        .endEmpty();
+  }
+
+  void drawBody(const astro::Vec3D& ecliptic, std::string_view label, std::string_view color,
+                double size) {
+    const BodyMarker marker{projected(ecliptic), label, ink(color), size};
+    drawDot(svg_, marker);
+    if (!marker.hasLabel()) {
+      return;
+    }
+    if (marker.at.distance > rimDistance) {
+      drawRimLabel(marker, ecliptic.phi);
+    } else {
+      drawLabel(svg_, marker);
+    }
+  }
+
+  /// A name along the rim that begins at its longitude. The outer path belongs to the signs.
+  void drawRimLabel(const BodyMarker& marker, double longitude) {
+    double percent = longitude * 50.0 / astro::pi;
+    if (percent < 0.0) {
+      percent += 100.0;
+    }
+    std::string startOffset;
+    astro::appendFixed(startOffset, percent, 1);
+    startOffset += '%';
+    svg_.element("text")
+        .attribute("fill", marker.color)
+        .attribute("font-family", "Arial")
+        .attribute("font-size", "5")
+        .endStartTag();
+    svg_.element("textPath")
+        .attribute("xlink:href", marker.color == signColor ? "#rim" : "#rim_inner")
+        .attribute("startOffset", startOffset)
+        .endInside(marker.label);
+    svg_.markup("</text>\n");
+  }
+
+  /// The sun, the moon and the planets.
+  void drawWanderers() {
+    constexpr double sunSize = 5.0;
+    const astro::Vec3D sunAt = rotated(sun_.eq, astro::equatorialToEcliptic);
+    const astro::Vec3D moonAt = rotated(moon_.eq, astro::equatorialToEcliptic);
+    drawBody(sunAt, "", "yellow", sunSize);
+    drawMoon(svg_,
+             {projected(moonAt).exact(), projected(sunAt).exact(), nativity_.moon - nativity_.sun,
+              ink("white")},
+             "gray");
+    for (const Planet planet : astro::allPlanets) {
+      const PlanetStyle& style = styleOf(planet);
+      drawBody(astro::Vec3D(nativity_.planets[indexOf(planet)], 0.0), displayName(planet),
+               style.color, style.size);
+    }
+  }
+
+  void drawChords() {
+    const auto onEdge = [this](Planet planet) {
+      const double longitude = nativity_.planets[indexOf(planet)];
+      return ProjectedPoint{1.0, std::sin(longitude) * discRadius,
+                            std::cos(longitude) * discRadius};
+    };
+    for (const Chord& chord : chords) {
+      const ProjectedPoint from = onEdge(chord.from);
+      const ProjectedPoint to = onEdge(chord.to);
+      svg_.element("line")
+          .attribute("x1", from.roundedX())
+          .attribute("y1", from.roundedY())
+          .attribute("x2", to.roundedX())
+          .attribute("y2", to.roundedY())
+          .attribute("stroke", ink(chord.color))
+          .attribute("stroke-width", "0.8")
+          .endEmpty();
+    }
+  }
+
+  void drawConstellations() {
+    const std::vector<FixedStar>& stars = catalogue_.stars();
+    for (const StarCatalogue::Line& line : catalogue_.lines()) {
+      drawLine(svg_, projected(stars[line.from].ec).exact(), projected(stars[line.to].ec).exact(),
+               1, {ink("#eaeae9"), "0.4", "0.6"});
+    }
+  }
+
+  void drawSignBoundaries() {
+    constexpr double innerEnd = 174.0;
+    constexpr double outerEnd = 186.0;
+    for (const FixedStar& star : catalogue_.stars()) {
+      if (star.isMarker()) {
+        const double right = std::sin(star.ec.phi);
+        const double up = std::cos(star.ec.phi);
+        drawLine(svg_, {centre + innerEnd * right, centre - innerEnd * up},
+                 {centre + outerEnd * right, centre - outerEnd * up}, 2, {ink(signColor), "0.8"});
+      }
+    }
+  }
+
+  void drawStars() {
+    for (const FixedStar& star : catalogue_.stars()) {
+      if (!star.isMarker()) {
+        drawBody(star.ec, star.name, star.color, star.dotSize());
+      }
+    }
+  }
+
+  void drawAscendant() {
+    constexpr double size = 2.0;
+    const BodyMarker marker{projected(nativity_.ascendant, 0.0), "GEN", "black", size};
+    drawDot(svg_, marker);
+    drawLabel(svg_, marker);
+  }
+
+  void drawHourAngle() {
+    const double hourAngle = astro::wrappedToHalfOpenHalfTurns(siderealAngle_ - sun_.eq.phi);
+    std::string text = "Sun HA: ";
+    astro::appendSignedFixed(text, hourAngle * astro::degreesPerRadian, 1);
+    text += "°   MC: ";
+    astro::appendFixed(text, midheavenOf(siderealAngle_) * astro::degreesPerRadian, 1);
+    text += "°";
+    beginText(svg_, 0, 28, "6").endWithText(text);
+  }
+
+  /// The circle of the stars that never set, about the celestial north pole.
+  void drawCelestialPole() {
+    if (!(latitude_ > southernmostPoleCircle)) {
+      return;
+    }
+    const ProjectedPoint pole =
+        projected(rotated(astro::Vec3D(0.0, astro::halfPi), astro::equatorialToEcliptic));
+    svg_.element("circle")
+        .attribute("cx", pole.roundedX())
+        .attribute("cy", pole.roundedY())
+        .attribute("r", Fixed{discRadius - 360.0 * latitude_ / astro::pi, 1})
+        .attribute("fill", "none")
+        .attribute("stroke", "orange")
+        .attribute("stroke-weight", 1)
+        .endEmpty();
+  }
+
+  SvgWriter svg_;
+  bool blackAndWhite_;
+  double latitude_;
+  double siderealAngle_;
+  astro::Sun sun_;
+  astro::Moon moon_;
+  const StarCatalogue& catalogue_;
+  Nativity nativity_;
+};
+
+}  // namespace
+
+std::string horoscope(bool blackAndWhite, double t, double latitude, double longitude,
+                      const StarCatalogue& catalogue) {
+  std::string document;
+  Horoscope(document, blackAndWhite, t, latitude, longitude, catalogue);
+  return document;
+}
+
+}  // namespace veyruna::charts

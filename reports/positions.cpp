@@ -1,0 +1,91 @@
+#include "reports/positions.h"
+
+#include <algorithm>
+#include <string_view>
+
+#include "astro/arc.h"
+#include "astro/horizon.h"
+#include "astro/moon.h"
+#include "astro/planet.h"
+#include "astro/sun.h"
+#include "reports/zodiac.h"
+
+namespace veyruna::reports {
+
+namespace {
+
+constexpr std::string_view header =
+    "Body           Azimuth    Altitude   Ec. Long.   Sign\n"
+    "----           -------    --------   ---------   ----\n";
+
+constexpr std::size_t nameWidth = 13;
+
+bool beginsCharacter(char byte) {
+  return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U;
+}
+
+/// A UTF-8 name cut or padded with blanks to exactly nameWidth characters.
+std::string fittedName(std::string_view name) {
+  std::string fitted;
+  std::size_t characters = 0;
+  for (const char byte : name) {
+    if (beginsCharacter(byte) && characters++ == nameWidth) {
+      return fitted;
+    }
+    fitted += byte;
+  }
+  return fitted.append(nameWidth - std::min(characters, nameWidth), ' ');
+}
+
+std::string_view bodyTypeOf(astro::Planet planet) {
+  return planet < astro::Planet::galvi ? "Terrestrial" : "Gas Giant";
+}
+
+PositionRow rowOf(std::string_view name, std::string_view bodyType, const astro::Vec3D& equatorial,
+                  double ecliptic, const astro::HorizonFrame& horizon) {
+  const astro::Vec3D seen = horizon.toHorizon(equatorial);
+  return {std::string(name),
+          std::string(bodyType),
+          astro::Arc(seen.phi).degMinText(),
+          astro::Arc(seen.theta).degMinText(),
+          astro::Arc(ecliptic).degMinText(),
+          std::string(signName(ecliptic))};
+}
+
+}  // namespace
+
+std::array<PositionRow, 6> positionRows(double t, double latitude, double longitude) {
+  const astro::HorizonFrame horizon(t, longitude, latitude);
+  const astro::Sun sun(t);
+  const astro::Moon moon(t, longitude, latitude);
+  const auto planetRow = [&](astro::Planet planet) {
+    const astro::Vec3D ecliptic = planetEcliptic(planet, t, sun);
+    return rowOf(displayName(planet), bodyTypeOf(planet),
+                 rotated(ecliptic, astro::eclipticToEquatorial), ecliptic.phi, horizon);
+  };
+  return {rowOf("Thessil", "Sun", sun.eq, sun.ec.phi, horizon),
+          rowOf("Ivro", "Moon", moon.eq, moon.ec.phi, horizon),
+          planetRow(astro::Planet::bralo),
+          planetRow(astro::Planet::dunmor),
+          planetRow(astro::Planet::galvi),
+          planetRow(astro::Planet::pallox)};
+}
+
+std::string positionsTableText(std::span<const PositionRow> rows) {
+  std::string text(header);
+  for (const PositionRow& row : rows) {
+    text += fittedName(row.name);
+    text += ' ';
+    text += row.azimuth;
+    text += "    ";
+    text += row.altitude;
+    text += "    ";
+    text += row.ecLong;
+    text += "      ";
+    text += row.sign;
+    text += '\n';
+  }
+  return text;
+}
+
+}  // namespace veyruna::reports

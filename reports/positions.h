@@ -1,0 +1,27 @@
+#pragma once
+
+#include <array>
+#include <span>
+#include <string>
+
+namespace veyruna::reports {
+
+/// One moving body as an observer sees it.
+struct PositionRow {
+  std::string name;
+  std::string bodyType;  ///< "Sun", "Moon", "Terrestrial" or "Gas Giant"
+  std::string azimuth;   ///< degrees and minutes, from the south point through west, 7 characters
+  std::string altitude;  ///< degrees and minutes above the horizon, 7 characters
+  std::string ecLong;    ///< ecliptic longitude, degrees and minutes; a planet's may be negative
+  std::string sign;      ///< zodiac sign of that longitude, 11 characters
+};
+
+/// The six bodies in their fixed order: sun, moon (seen from the observer's place) and the planets.
+/// `t` in days of base time, place in radians, north and east positive.
+std::array<PositionRow, 6> positionRows(double t, double latitude, double longitude);
+
+/// The rows as a table: two header lines, then one line a body. A name fills 13 characters.
+/// No rows give the header lines alone.
+std::string positionsTableText(std::span<const PositionRow> rows);
+
+}  // namespace veyruna::reports

@@ -1,0 +1,60 @@
+#include "tests/support/reference_case.h"
+
+#include <fstream>
+#include <sstream>
+#include <stdexcept>
+
+#include "astro/angle.h"
+#include "astro/calendar.h"
+#include "astro/local_time.h"
+#include "charts/catalogue_reader.h"
+
+namespace veyruna::tests {
+
+namespace {
+
+const std::string referenceDir = VEYRUNA_TEST_DATA_DIR "/reference/";
+
+double radians(double degrees) {
+  return degrees * astro::pi / 180.0;
+}
+
+}  // namespace
+
+std::string fileContent(const std::string& path) {
+  std::ifstream file(path, std::ios::binary);
+  if (!file) {
+    throw std::runtime_error("cannot read " + path);
+  }
+  std::ostringstream content;
+  content << file.rdbuf();
+  return content.str();
+}
+
+double ReferenceCase::baseTime() const {
+  return useLocalTime ? astro::localBaseTime(year, monthIndex, dayIndex, hour, longitude)
+                      : astro::standardBaseTime(year, monthIndex, dayIndex, hour);
+}
+
+std::string ReferenceCase::expected(const std::string& file) const {
+  return fileContent(referenceDir + folder + "/" + file);
+}
+
+const std::vector<ReferenceCase>& referenceCases() {
+  static const std::vector<ReferenceCase> cases = {
+      {"first-start", 720, 0, 0, 12.0, false, radians(40.5), -radians(20.9)},
+      {"evening-local", 1243, 6, 18, 18.25, true, radians(11.5), radians(25.3)},
+      {"polar-night", 3, 11, 29, 23.75, false, radians(78.5), -radians(120.25)},
+      {"south", 2000, 4, 5, 0.25, true, -radians(33.125), radians(179.5)},
+  };
+  return cases;
+}
+
+const charts::StarCatalogue& referenceCatalogue() {
+  static const charts::StarCatalogue catalogue(
+      charts::readStars(fileContent(referenceDir + "catalogue/stars.csv")),
+      charts::readLineNames(fileContent(referenceDir + "catalogue/lines.csv")));
+  return catalogue;
+}
+
+}  // namespace veyruna::tests
