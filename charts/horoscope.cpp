@@ -75,16 +75,20 @@ class Horoscope {
             const StarCatalogue& catalogue)
       : svg_(document),
         blackAndWhite_(blackAndWhite),
+        t_(t),
         latitude_(latitude),
+        longitude_(longitude),
         siderealAngle_(astro::localSiderealAngle(t, longitude)),
         sun_(t),
         moon_(t),
         catalogue_(catalogue),
-        nativity_(nativityOf(t)) {
+        nativity_(nativityOf()) {}
+
+  void draw() {
     svg_.markup(head);
     drawDisc();
     drawGrid(svg_);
-    drawHeader(svg_, t, latitude, longitude);
+    drawHeader(svg_, t_, latitude_, longitude_);
     svg_.markup("<g clip-path=\"url(#horoscopeClip)\">\n");
     drawWanderers();
     drawChords();
@@ -100,11 +104,11 @@ class Horoscope {
   }
 
  private:
-  [[nodiscard]] Nativity nativityOf(double t) const {
+  [[nodiscard]] Nativity nativityOf() const {
     Nativity nativity{
         sun_.ec.phi, moon_.ec.phi, moon_.ec.theta, {}, ascendantOf(siderealAngle_, latitude_)};
     for (const Planet planet : astro::allPlanets) {
-      nativity.planets[indexOf(planet)] = planetEcliptic(planet, t, sun_).phi;
+      nativity.planets[indexOf(planet)] = planetEcliptic(planet, t_, sun_).phi;
     }
     return nativity;
   }
@@ -264,7 +268,9 @@ class Horoscope {
 
   SvgWriter svg_;
   bool blackAndWhite_;
+  double t_;
   double latitude_;
+  double longitude_;
   double siderealAngle_;
   astro::Sun sun_;
   astro::Moon moon_;
@@ -277,7 +283,7 @@ class Horoscope {
 std::string horoscope(bool blackAndWhite, double t, double latitude, double longitude,
                       const StarCatalogue& catalogue) {
   std::string document;
-  Horoscope(document, blackAndWhite, t, latitude, longitude, catalogue);
+  Horoscope(document, blackAndWhite, t, latitude, longitude, catalogue).draw();
   return document;
 }
 

@@ -36,20 +36,28 @@ class StarMap {
  public:
   StarMap(std::string& document, double t, double latitude, double longitude,
           const StarCatalogue& catalogue)
-      : svg_(document), horizon_(t, longitude, latitude), catalogue_(catalogue) {
+      : svg_(document),
+        t_(t),
+        latitude_(latitude),
+        longitude_(longitude),
+        horizon_(t, longitude, latitude),
+        catalogue_(catalogue) {
     starPoints_.reserve(catalogue.stars().size());
     for (const FixedStar& star : catalogue.stars()) {
       starPoints_.push_back(visiblePoint(star.eq));
     }
+  }
+
+  void draw() {
     svg_.markup(head);
     drawGrid(svg_);
     drawCompass();
-    drawHeader(svg_, t, latitude, longitude);
+    drawHeader(svg_, t_, latitude_, longitude_);
     drawEcliptic();
     drawSignBoundaries();
     drawConstellations();
     drawStars();
-    drawWanderers(t);
+    drawWanderers();
     svg_.markup("</svg>\n");
   }
 
@@ -158,17 +166,17 @@ class StarMap {
   }
 
   /// The sun, the moon and the planets.
-  void drawWanderers(double t) {
+  void drawWanderers() {
     constexpr double sunSize = 3.57;
-    const astro::Sun sun(t);
-    const astro::Moon moon(t);
+    const astro::Sun sun(t_);
+    const astro::Moon moon(t_);
     drawBody(visiblePoint(sun.eq), "", "#f1c536", sunSize);
     if (const VisiblePoint at = visiblePoint(moon.eq)) {
       const PagePoint sunPoint = projected(horizon_.toHorizon(sun.eq)).exact();
       drawMoon(svg_, {at->exact(), sunPoint, moon.ec.phi - sun.ec.phi, "white"}, "white");
     }
     for (const astro::Planet planet : astro::allPlanets) {
-      const astro::Vec3D ecliptic = planetEcliptic(planet, t, sun);
+      const astro::Vec3D ecliptic = planetEcliptic(planet, t_, sun);
       const PlanetStyle& style = styleOf(planet);
       drawBody(visiblePoint(rotated(ecliptic, astro::eclipticToEquatorial)), displayName(planet),
                style.color, style.size);
@@ -176,6 +184,9 @@ class StarMap {
   }
 
   SvgWriter svg_;
+  double t_;
+  double latitude_;
+  double longitude_;
   astro::HorizonFrame horizon_;
   const StarCatalogue& catalogue_;
   std::vector<VisiblePoint> starPoints_;  ///< in the catalogue's order
@@ -185,7 +196,7 @@ class StarMap {
 
 std::string starMap(double t, double latitude, double longitude, const StarCatalogue& catalogue) {
   std::string document;
-  StarMap(document, t, latitude, longitude, catalogue);
+  StarMap(document, t, latitude, longitude, catalogue).draw();
   return document;
 }
 

@@ -1,0 +1,181 @@
+#include "cli/arguments.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <limits>
+#include <optional>
+
+#include "astro/angle.h"
+#include "astro/calendar.h"
+#include "astro/number_text.h"
+#include "cli/errors.h"
+#include "cli/quoting.h"
+
+namespace veyruna::cli {
+
+namespace {
+
+[[noreturn]] void refuse(std::string_view what, std::string_view text, std::string_view accepted) {
+  throw UsageError(std::string(what) + ": " + inQuotes(text) + " is not accepted; give " +
+                   std::string(accepted));
+}
+
+/// All of `text` as a number, or nothing. A leading plus is understood, other notations are not.
+template <class Number>
+std::optional<Number> numberOf(std::string_view text) {
+  if (text.size() > 1 && text.front() == '+' && text[1] != '-') {
+    text.remove_prefix(1);
+  }
+  Number number{};
+  const auto read = std::from_chars(text.data(), text.data() + text.size(), number);
+  if (read.ec != std::errc{} || read.ptr != text.data() + text.size()) {
+    return std::nullopt;
+  }
+  return number;
+}
+
+std::optional<double> finiteNumberOf(std::string_view text) {
+  const std::optional<double> number = numberOf<double>(text);
+  return number && std::isfinite(*number) ? number : std::nullopt;
+}
+
+bool isOneOrTwoDigits(std::string_view text) {
+  return !text.empty() && text.size() <= 2 &&
+         text.find_first_not_of("0123456789") == std::string_view::npos;
+}
+
+char lowered(char letter) {
+  return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
+}
+
+bool equalIgnoringCase(std::string_view a, std::string_view b) {
+  return std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                    [](char x, char y) { return lowered(x) == lowered(y); });
+}
+
+/// The smallest double at or above hours + minutes/60 whose minutes truncate back to the same.
+double hourOf(double hours, double minutes) {
+  double hour = hours + minutes / 60.0;
+  while (std::trunc((hour - std::floor(hour)) * 60.0) < minutes) {
+    hour = std::nextafter(hour, std::numeric_limits<double>::infinity());
+  }
+  return hour;
+}
+
+/// What the letters behind an angle mean: `positive` and `negative` in lower case.
+struct Hemispheres {
+  char positive;
+  char negative;
+};
+
+/// Degrees with a sign, or with a hemisphere's letter behind them, as radians.
+double readAngle(std::string_view what, std::string_view text, double most, Hemispheres letters,
+                 std::string_view accepted) {
+  constexpr std::string_view degreeSign = "°";
+  std::string_view number = text;
+  const char letter = number.empty() ? '\0' : lowered(number.back());
+  const bool hasLetter = letter == letters.positive || letter == letters.negative;
+  if (hasLetter) {
+    number.remove_suffix(1);
+    while (number.ends_with(' ')) {
+      number.remove_suffix(1);
+    }
+  }
+  if (number.ends_with(degreeSign)) {
+    number.remove_suffix(degreeSign.size());
+  }
+  const std::optional<double> degrees = finiteNumberOf(number);
+  if (!degrees || std::abs(*degrees) > most || (hasLetter && std::signbit(*degrees))) {
+    refuse(what, text, accepted);
+  }
+  const double radians = *degrees * astro::pi / 180.0;
+  return hasLetter && letter == letters.negative ? -radians : radians;
+}
+
+}  // namespace
+
+std::int64_t readWholeNumber(std::string_view what, std::string_view text, std::int64_t least,
+                             std::int64_t most) {
+  const std::optional<std::int64_t> number = numberOf<std::int64_t>(text);
+  if (!number || *number < least || *number > most) {
+    refuse(what, text,
+           "a whole number from " + std::to_string(least) + " to " + std::to_string(most));
+  }
+  return *number;
+}
+
+double readNumber(std::string_view what, std::string_view text, double least, double most) {
+  const std::optional<double> number = finiteNumberOf(text);
+  if (!number || *number < least || *number > most) {
+    std::string accepted = "a number from ";
+    astro::appendFixed(accepted, least, 0);
+    accepted += " to ";
+    astro::appendFixed(accepted, most, 0);
+    refuse(what, text, accepted);
+  }
+  return *number;
+}
+
+std::int64_t readMonthIndex(std::string_view text) {
+  const auto* const named =
+      std::find_if(astro::monthNames.begin(), astro::monthNames.end(),
+                   [text](std::string_view name) { return equalIgnoringCase(name, text); });
+  if (named != astro::monthNames.end()) {
+    return named - astro::monthNames.begin();
+  }
+  const std::optional<std::int64_t> number = numberOf<std::int64_t>(text);
+  if (!number || *number < 1 || *number > astro::monthsPerYear) {
+    std::string accepted = "1 to 12 or one of";
+    for (const std::string_view name : astro::monthNames) {
+      accepted.append(" ").append(name);
+    }
+    refuse("--month", text, accepted);
+  }
+  return *number - 1;
+}
+
+double readHour(std::string_view text) {
+  constexpr double most = 24.0;
+  const std::size_t colon = text.find(':');
+  if (colon == std::string_view::npos) {
+    const std::optional<double> hour = finiteNumberOf(text);
+    if (hour && *hour >= 0.0 && *hour <= most) {
+      return *hour;
+    }
+  } else {
+    const std::string_view hours = text.substr(0, colon);
+    const std::string_view minutes = text.substr(colon + 1);
+    if (isOneOrTwoDigits(hours) && isOneOrTwoDigits(minutes) && minutes.size() == 2) {
+      const double h = *numberOf<double>(hours);
+      const double m = *numberOf<double>(minutes);
+      if (m < 60.0 && h * 60.0 + m <= most * 60.0) {
+        return hourOf(h, m);
+      }
+    }
+  }
+  refuse("--hour", text, "hours from 0 to 24 such as 18.25, or 18:15");
+}
+
+double readLatitude(std::string_view text) {
+  return readAngle("--lat", text, 90.0, {'n', 's'},
+                   "degrees from -90 to 90, or 0 to 90 with N or S such as 40.5N");
+}
+
+double readLongitude(std::string_view text) {
+  return readAngle("--long", text, 180.0, {'e', 'w'},
+                   "degrees from -180 to 180, or 0 to 180 with E or W such as 20.9W");
+}
+
+double readStepDays(std::string_view text) {
+  const std::size_t slash = text.find('/');
+  const std::optional<double> above = finiteNumberOf(text.substr(0, slash));
+  const std::optional<double> below =
+      slash == std::string_view::npos ? 1.0 : finiteNumberOf(text.substr(slash + 1));
+  if (above && below && *below != 0.0 && std::abs(*above / *below) <= astro::baseTimeLimitDays) {
+    return *above / *below;
+  }
+  refuse("--step", text, "days such as 0.5 or 1/24, not more than 1000000000 either way");
+}
+
+}  // namespace veyruna::cli

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+/// What a person types, read strictly and the same in every locale. Each function throws UsageError
+/// with the text it was given and what it accepts.
+namespace veyruna::cli {
+
+/// A whole number within [least, most]; `what` names it in the message, such as "--year".
+std::int64_t readWholeNumber(std::string_view what, std::string_view text, std::int64_t least,
+                             std::int64_t most);
+
+/// A finite number within [least, most].
+double readNumber(std::string_view what, std::string_view text, double least, double most);
+
+/// 1 to 12 or a month's name in any letter case; returns 0 to 11.
+std::int64_t readMonthIndex(std::string_view text);
+
+/// Hours 0 to 24: "18.25", or "18:15", which becomes the smallest double at or above it whose
+/// minutes truncate back to the same.
+double readHour(std::string_view text);
+
+/// Degrees north ("40.5", "-33", "33S", "40.5°N") as radians; at most 90.
+double readLatitude(std::string_view text);
+
+/// Degrees east ("25.3", "-20.9", "20.9W") as radians; at most 180.
+double readLongitude(std::string_view text);
+
+/// Days as a number or a fraction such as "1/24", not more than a billion either way.
+double readStepDays(std::string_view text);
+
+}  // namespace veyruna::cli

@@ -1,0 +1,165 @@
+#include "cli/command_line.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdio>
+#include <exception>
+#include <filesystem>
+
+#include "astro/angle.h"
+#include "astro/calendar.h"
+#include "astro/invariant.h"
+#include "astro/local_time.h"
+#include "astro/number_text.h"
+#include "cli/arguments.h"
+#include "cli/document_writer.h"
+#include "cli/documents.h"
+#include "cli/errors.h"
+#include "cli/grammar.h"
+#include "cli/progress.h"
+#include "cli/quoting.h"
+#include "reports/conjunctions.h"
+#include "reports/ephemeris.h"
+
+namespace veyruna::cli {
+
+namespace {
+
+constexpr std::int64_t mostRows = 100'000'000;
+
+/// The first year and the last whose days are within the engine's range.
+constexpr std::int64_t firstYear = 1;
+constexpr std::int64_t lastYear = 2'777'777;
+
+double checkedBaseTime(double baseTime, const std::string& what) {
+  if (!(std::abs(baseTime) <= astro::baseTimeLimitDays)) {
+    throw UsageError(what +
+                     " is too far away; moments within 1000000000 days of the epoch are accepted");
+  }
+  return baseTime;
+}
+
+Observer observerOf(const Typed& typed) {
+  const double latitude = readLatitude(typed.latitude);
+  const double longitude = readLongitude(typed.longitude);
+  constexpr double limit = astro::baseTimeLimitDays;
+  if (!typed.baseTime.empty()) {
+    return {readNumber("--base-time", typed.baseTime, -limit, limit), latitude, longitude};
+  }
+  const std::int64_t year = readWholeNumber("--year", typed.year, firstYear, lastYear);
+  const std::int64_t monthIndex = readMonthIndex(typed.month);
+  const std::int64_t dayIndex = readWholeNumber("--day", typed.day, 1, astro::daysPerMonth) - 1;
+  const double hour = readHour(typed.hour);
+  const double baseTime = typed.isLocal
+                              ? astro::localBaseTime(year, monthIndex, dayIndex, hour, longitude)
+                              : astro::standardBaseTime(year, monthIndex, dayIndex, hour);
+  return {checkedBaseTime(baseTime, "--year: " + inQuotes(typed.year)), latitude, longitude};
+}
+
+bool goesToStandardOutput(const Typed& typed) {
+  return typed.file == "-";
+}
+
+DocumentWriter writerOf(const Typed& typed) {
+  return goesToStandardOutput(typed) ? DocumentWriter::toStandardOutput()
+                                     : DocumentWriter::toFile(typed.file);
+}
+
+void writeText(const Typed& typed, const std::string& text) {
+  DocumentWriter writer = writerOf(typed);
+  writer.write(text);
+  writer.finish();
+}
+
+/// A table of the person's own length and step, written as it is computed.
+void writeTable(const Typed& typed, const Observer& observer) {
+  if (typed.rows.empty() || typed.step.empty()) {
+    throw UsageError("a table needs --rows N and --step DAYS, such as --rows 24 --step 1/24");
+  }
+  const std::int64_t rows = readWholeNumber("--rows", typed.rows, 0, mostRows);
+  const double step = readStepDays(typed.step);
+  checkedBaseTime(observer.baseTime + static_cast<double>(rows) * step,
+                  "the last of " + typed.rows + " rows at steps of " + inQuotes(typed.step));
+
+  DocumentWriter writer = writerOf(typed);
+  Progress progress(rows + 1, goesToStandardOutput(typed));
+  const reports::TextSink sink = [&](std::string_view piece) {
+    writer.write(piece);
+    progress.advance();
+  };
+  if (typed.command == "ephemeris") {
+    reports::writeEphemerisTable(rows, observer.baseTime, step, observer.latitude, sink);
+  } else {
+    reports::writeConjunctionTable(rows, observer.baseTime, step, sink);
+  }
+  writer.finish();
+}
+
+void writeAll(const Typed& typed, const Observer& observer) {
+  if (typed.folder.empty() || !goesToStandardOutput(typed)) {
+    throw UsageError("all needs --out DIR, and takes no -o");
+  }
+  std::error_code error;
+  std::filesystem::create_directories(typed.folder, error);
+  if (error) {
+    throw WriteError("cannot make the folder " + inQuotes(typed.folder) + ": " + error.message());
+  }
+  DocumentWriter list = DocumentWriter::toStandardOutput();
+  for (const Document& document : allDocuments) {
+    const std::string path = (std::filesystem::path(typed.folder) / document.fileName).string();
+    DocumentWriter writer = DocumentWriter::toFile(path);
+    writer.write(document.text(observer));
+    writer.finish();
+    list.write(path + "\n");
+  }
+  list.finish();
+}
+
+void run(const Grammar& grammar, const Typed& typed) {
+  if (typed.command == "help") {
+    writeText({}, grammar.helpText(typed.helpTopic));
+    return;
+  }
+  if (typed.command == "version") {
+    writeText({}, "veyruna " VEYRUNA_VERSION " (build " VEYRUNA_BUILD_NUMBER ")\n");
+    return;
+  }
+  const Observer observer = observerOf(typed);
+  if (typed.command == "all") {
+    writeAll(typed, observer);
+  } else if (typed.command == "ephemeris" || typed.command == "conjunctions") {
+    writeTable(typed, observer);
+  } else if (typed.command == "base-time") {
+    writeText(typed, astro::shortestText(observer.baseTime) + "\n");
+  } else if (typed.command == "horoscope") {
+    writeText(typed, horoscopeText(observer, typed.blackAndWhite));
+  } else {
+    const auto* const document =
+        std::find_if(allDocuments.begin(), allDocuments.end(),
+                     [&typed](const Document& known) { return known.command == typed.command; });
+    astro::requireInvariant(document != allDocuments.end(), "every command writes a document");
+    writeText(typed, document->text(observer));
+  }
+}
+
+int complain(const std::string& message, int status) {
+  std::fprintf(stderr, "veyruna: %s\n", message.c_str());
+  return status;
+}
+
+}  // namespace
+
+int runCommandLine(const std::vector<std::string>& arguments) {
+  try {
+    Grammar grammar;
+    const Typed& typed = grammar.parse(arguments);
+    run(grammar, typed);
+    return succeeded;
+  } catch (const UsageError& error) {
+    return complain(error.what(), usageWrong);
+  } catch (const std::exception& error) {
+    return complain(error.what(), writeFailed);
+  }
+}
+
+}  // namespace veyruna::cli

@@ -1,0 +1,63 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace CLI {
+class App;
+}
+
+namespace veyruna::cli {
+
+/// What was typed, as it was typed. The defaults are those of a first start.
+struct Typed {
+  std::string command;
+  std::string year = "720";
+  std::string month = "1";
+  std::string day = "1";
+  std::string hour = "12";
+  bool isLocal = false;
+  std::string baseTime;  ///< empty where the moment is given as a date
+  std::string latitude = "40.5";
+  std::string longitude = "-20.9";
+  std::string file = "-";  ///< "-" for standard output
+  bool blackAndWhite = false;
+  std::string rows;
+  std::string step;
+  std::string folder;
+  std::string helpTopic;  ///< empty for the help of the whole
+};
+
+/// The command line's grammar: which words and options there are, and their help.
+class Grammar {
+ public:
+  Grammar();
+  Grammar(const Grammar&) = delete;
+  Grammar& operator=(const Grammar&) = delete;
+  ~Grammar();
+
+  /// Sorts the arguments into what was typed; the command is "help" or "version" where one was
+  /// asked for in any form. Throws UsageError.
+  const Typed& parse(const std::vector<std::string>& arguments);
+
+  /// The help of one command, or of all where `topic` is empty. Throws UsageError.
+  [[nodiscard]] std::string helpText(const std::string& topic) const;
+
+ private:
+  void addMoment();
+  void addPlace();
+  CLI::App* addCommand(std::string_view name, std::string_view summary,
+                       const std::string& exampleEnd = "");
+  void addTable(const std::string& name, const std::string& summary, const std::string& example);
+  [[nodiscard]] std::string commandNames() const;
+  [[nodiscard]] std::string chosenCommand() const;
+  void refuseTwoMoments() const;
+  [[noreturn]] void refuseExtra(const std::string& extra) const;
+
+  Typed typed_;
+  std::unique_ptr<CLI::App> app_;
+};
+
+}  // namespace veyruna::cli
