@@ -28,6 +28,7 @@ upwards on that page: a figure stands upright when it culminates.
 """
 
 import csv
+import heapq
 import math
 import os
 import random
@@ -75,8 +76,8 @@ ZODIAC = {
               (8.5, 5.0, 1.1), (9.0, -8.5, 3.0)],
              "12 23 34 45 56 61"),
     "Istramondel": ("two crossed swords",
-                    [(-11.6, 2.6, 1.5), (2.5, -14.6, 2.7), (4.1, -16.6, 3.3), (4.9, -12.7, 3.5),
-                     (11.6, 2.6, 0.9), (-2.5, -14.6, 2.8), (-4.1, -16.6, 3.4), (-4.9, -12.7, 3.6),
+                    [(-11.6, 2.6, 1.5), (2.5, -14.5, 2.7), (4.2, -16.6, 3.3), (5.3, -12.3, 3.5),
+                     (11.6, 2.6, 0.9), (-2.5, -14.5, 2.8), (-4.2, -16.6, 3.4), (-5.3, -12.3, 3.6),
                      (0.0, -16.6, 4.0)],
                     "12 23 24 56 67 68 29 69"),
     "Felum": ("a whirl that flings itself open",
@@ -88,12 +89,12 @@ ZODIAC = {
                (11.0, 2.0, 2.3), (0.3, -6.9, 3.0), (-0.5, -16.5, 2.6)],
               "12 23 34 45 36 37"),
     "Bessim": ("a cut stone",
-               [(-5.0, -6.1, 2.8), (5.0, -6.1, 2.9), (9.5, -10.0, 2.0), (0.0, -17.0, 1.2),
+               [(-5.0, -6.7, 2.8), (5.0, -6.7, 2.9), (9.5, -10.0, 2.0), (0.0, -17.0, 1.2),
                 (-9.5, -10.0, 2.2)],
                "12 23 34 45 51 35"),
     "Wen": ("an open book",
-            [(0.0, -9.0, 2.5), (9.5, -4.0, 1.9), (9.5, -12.5, 2.7), (0.0, -16.8, 1.5),
-             (-9.5, -12.5, 2.9), (-9.5, -4.0, 2.1)],
+            [(0.0, -7.4, 2.5), (9.5, -2.4, 1.9), (9.5, -11.0, 2.7), (0.0, -15.6, 1.5),
+             (-9.5, -11.0, 2.9), (-9.5, -2.4, 2.1)],
             "12 23 34 45 56 61 14"),
     "Ostrel": ("a key",
                [(-11.0, 0.5, 2.3), (-6.6, 3.8, 2.0), (-6.0, -4.2, 1.7), (3.4, -12.0, 3.3),
@@ -104,7 +105,7 @@ ZODIAC = {
                 (9.0, -2.5, 1.6), (2.5, -9.0, 3.2)],
                "12 23 34 45 56 61"),
     "Voni": ("a mountain with two summits",
-             [(-11.5, -16.0, 2.4), (-6.2, -9.6, 2.6), (-3.0, -12.2, 3.4), (2.4, -6.6, 1.3),
+             [(-11.5, -16.0, 2.4), (-6.2, -9.6, 2.6), (-3.0, -12.2, 3.4), (2.4, -6.8, 1.3),
               (5.9, -12.0, 3.3), (11.3, -16.6, 2.2)],
              "12 23 34 45 56 61"),
 }
@@ -115,58 +116,58 @@ ZODIAC = {
 # stars (x, y, magnitude) and lines.
 # --------------------------------------------------------------------------
 OTHERS = [
-    ("Ravosin", "a stag", 19, 37, 0, 0.94,
+    ("Ravosin", "a stag", 20, 37, 0, 0.94,
      [(-9, 9, 2.9), (0.5, 10, 2.7), (-4.5, 4.5, 1.9), (-1, -1, 2.4), (8, -0.5, 2.1),
       (-2, -10, 3.2), (9, -10, 3.0)], "13 23 34 45 46 57"),
-    ("Orsimel", "a harp", 70, 37, 0, 1.1,
+    ("Orsimel", "a harp", 67, 41, 0, 1.1,
      [(-6, 8, 1.3), (0, 5.5, 3.5), (7.5, 6.5, 2.2), (2.5, -1, 3.7), (-5, -8, 2.0)],
      "12 23 34 45 51 24"),
-    ("Hesmi", "a heron", 119, 37, 0, 1.1,
+    ("Hesmi", "a heron", 112, 38, 0, 1.1,
      [(-9, 6.5, 2.8), (-4.5, 7.5, 2.0), (-1.5, 0.5, 2.6), (6.5, -1.5, 2.3), (-0.5, -9.5, 3.1)],
      "12 23 34 35"),
-    ("Serrivo", "a serpent", 168, 39, 0, 1,
+    ("Serrivo", "a serpent", 176, 39, 0, 1,
      [(-18.5, 0.5, 0.54), (-15, 5, 2.9), (-9, 3.8, 2.6), (-5, -2.8, 2.8), (0.8, -4, 2.4),
       (6, 1.8, 3.0), (12, 3, 2.7), (18.5, -2.2, 3.3)], "12 23 34 45 56 67 78"),
-    ("Cathrel", "a gate", 222, 38, 0, 1.05,
+    ("Cathrel", "a gate", 235, 37, 0, 1.05,
      [(-6, -8, 2.3), (-5.5, 6, 1.7), (5.5, 6.5, 1.8), (6.5, -8, 2.5)], "12 23 34"),
-    ("Raumel", "a crown", 268, 36, 0, 1.05,
+    ("Raumel", "a crown", 286, 42, 0, 1.05,
      [(-9, 5, 2.0), (-5, -5, 2.5), (0, 6, 1.0), (5, -5, 2.6), (9, 5.5, 2.2)], "12 23 34 45 24"),
-    ("Ulvane", "a hanging lantern", 317, 38, 0, 1.1,
+    ("Ulvane", "a hanging lantern", 332, 43, 0, 1.1,
      [(0, 9.5, 2.7), (0, 4.5, 3.4), (-4.5, -1.5, 2.5), (0, -7.5, 0.8), (4.5, -1.5, 2.6)],
      "12 23 34 45 52"),
-    ("Dronac", "a hammer", 36, 65, 0, 1,
+    ("Dronac", "a hammer", 35, 64, 0, 1,
      [(-5.5, 6, 2.2), (0, 6.8, 2.9), (5.5, 7.5, 2.3), (-0.5, -8, 1.8)], "12 23 24"),
-    ("Estrim", "a ladder", 138, 63, 0, 1,
+    ("Estrim", "a ladder", 144, 60, 0, 1,
      [(-4.5, -9, 2.1), (-3.5, 0, 3.4), (-2.8, 8, 2.6), (2.8, 7.5, 2.7), (3.3, -0.5, 3.5),
       (4.5, -9.5, 2.4)], "12 23 34 45 56 25"),
-    ("Tassum", "a goblet", 203, 64, 0, 1,
+    ("Tassum", "a goblet", 193, 70, 0, 1,
      [(-5.5, 7, 2.4), (5.5, 7.5, 2.2), (0, -0.5, 3.0), (0.3, -8, 1.9)], "12 23 31 34"),
-    ("Zelmi", "a swallow", 264, 66, 0, 1.05,
+    ("Zelmi", "a swallow", 252, 66, 0, 1.05,
      [(-8, 4, 2.6), (0, -3, 1.7), (8.5, 5, 2.8)], "12 23"),
-    ("Vellio", "a bent reed", 328, 67, 0, 1,
+    ("Vellio", "a bent reed", 320, 74, 0, 1,
      [(-1.5, -9.5, 2.3), (-0.5, 1, 3.3), (5, 8.5, 2.5)], "12 23"),
-    ("Jorva", "a fish", 23, -30, 0, 1.12,
+    ("Jorva", "a fish", 18, -30, 0, 1.12,
      [(-9.5, 0, 1.4), (0, 5, 2.8), (9, -4.5, 2.6), (9.5, 4.5, 2.5), (0.3, -4.5, 2.9)],
      "12 23 34 45 51"),
-    ("Yorrum", "a plough", 82, -33, 0, 1.1,
+    ("Yorrum", "a plough", 75, -30, 0, 1.1,
      [(9.5, 6.5, 2.4), (3, -2, 2.9), (-3, -7, 1.8), (-9.5, 3, 2.2)], "12 23 24"),
-    ("Trefal", "a hay-fork", 131, -31, 0, 1.1,
+    ("Trefal", "a hay-fork", 128, -29, 0, 1.1,
      [(-5, 8, 2.5), (0, 9, 2.2), (5, 8, 2.6), (0, 1, 3.2), (0.5, -10, 1.9)], "14 24 34 45"),
-    ("Okrim", "a sickle", 181, -32, 0, 1.1,
+    ("Okrim", "a sickle", 182, -29, 0, 1.25,
      [(0, -9, 2.3), (0, -1.5, 3.0), (6, 4, 2.6), (1.5, 9.5, 1.6)], "12 23 34"),
-    ("Ombrac", "an anchor", 233, -30, 0, 1.1,
+    ("Ombrac", "an anchor", 230, -33, 0, 1.1,
      [(0, 9, 2.1), (0, -7.5, 1.2), (-7.5, -1.5, 2.6), (7.5, -1.5, 2.5)], "12 23 24"),
-    ("Tirrem", "a sail", 280, -32, 0, 1.05,
+    ("Tirrem", "a sail", 277, -32, 0, 1.05,
      [(-5, -7, 2.2), (-3.5, 9, 1.8), (7.5, -5.5, 2.4)], "12 23 31"),
-    ("Sabrel", "an hour-glass", 331, -31, 0, 1.05,
+    ("Sabrel", "an hour-glass", 327, -29, 0, 1.05,
      [(-5, 8, 2.0), (5, 8.5, 2.3), (-5.5, -8, 2.4), (5.5, -8.5, 1.9)], "12 23 34 41"),
-    ("Iskrel", "a spear", 56, -60, 0, 1,
+    ("Iskrel", "a spear", 35, -63, 0, 1,
      [(-11, -2.5, 2.6), (5, 1, 3.1), (10.5, 2.6, 1.5)], "12 23"),
-    ("Selvo", "a tent", 150, -58, 0, 1.05,
+    ("Selvo", "a tent", 132, -67, 0, 1.05,
      [(-6, -6, 2.7), (0, 7, 1.7), (6.5, -6, 2.6)], "12 23"),
-    ("Dalmi", "a needle", 315, -68, 0, 1.5,
+    ("Dalmi", "a needle", 304, -69, 0, 1.5,
      [(0, 5, 1.6), (0.6, -5, 2.8)], "12"),
-    ("Duvi", "two lamps side by side", 218, -64, 0, 1.3,
+    ("Duvi", "two lamps side by side", 211, -71, 0, 1.3,
      [(-3.5, -0.5, 1.9), (3.5, 0.8, 2.1)], "12"),
 ]
 YELLOW_STAR = "_ULVANE4"          # the flame of the lantern
@@ -447,18 +448,21 @@ def place_labels(figures):
                     continue
                 cost = d * 1.5 + math.hypot(x, y) * 0.12 + abs(x) * 0.15
                 gap = clear(f.name, p, f)
-                if gap < 2.5:
-                    cost += (2.5 - gap) * 4
+                if gap < 5:
+                    cost += (5 - gap) * 2
                 if southern:
                     g = rim_gap(f.name, lon)
-                    if g < 6:
-                        cost += (6 - g) * 3
+                    if g < 10:
+                        cost += (10 - g) * 2
                     g = line_gap(f.name, lon)
                     if g < 3:
                         cost += (3 - g) * 3
                     mid = lon + text_width(f.name) / 340
                     off = abs((mid - c_lon + math.pi) % TAU - math.pi)
                     cost += math.degrees(off) * 0.15
+                    # North of the figure where there is room: seen from the
+                    # northern lands, the name rises with its figure.
+                    cost += y * 0.12
                 if best is None or cost < best[0]:
                     best = (cost, p)
         f.label = best[1]
@@ -494,8 +498,8 @@ def band_density(v):
     e1 = norm(cross(bp, (0.0, 0.0, 1.0)))
     l = math.atan2(dot(v, cross(bp, e1)), dot(v, e1))
     swell = 0.5 + 0.5 * math.cos(l - math.radians(250))
-    width = 5.5 + 4.0 * swell ** 3
-    height = 11.0 + 3.0 * swell
+    width = 5.0 + 4.0 * swell ** 3
+    height = 10.0 + 3.0 * swell
     b += 2.0 * math.sin(2 * l + 0.7)            # the band meanders a little
     return 1.0 + height * math.exp(-(b / width) ** 2)
 
@@ -512,7 +516,7 @@ def background(figures, labels, taken, count=454):
         if angles(v)[1] > math.radians(9):
             _, x, y = wheel(v)
             boxes.append(name_box(n, m, x - 180, y - 180))
-    peak = 15.0
+    peak = 14.0
     cand = []
     while len(cand) < 3600:
         z = 2 * rnd.random() - 1
@@ -523,9 +527,9 @@ def background(figures, labels, taken, count=454):
         d = band_density(v)
         if u * peak > d:
             continue
-        if any(dot(v, w) > COS_STAR for w in fixed) or angle(v, pole) < 4.0:
+        if any(dot(v, w) > COS_STAR for w in fixed) or angle(v, pole) < 9.3:
             continue
-        if any(angle(v, q) < 0.72 * r for q, r in taken[1:]):
+        if any(angle(v, q) < r + 0.5 for q, r in taken[1:]):
             continue
         lon, lat = angles(v)
         if -0.01 < lat < 0.115 and any(a - 0.02 < lon < b + 0.02 for a, b in rim):
@@ -563,7 +567,6 @@ def background(figures, labels, taken, count=454):
                 neigh[j].append((i, w))
                 weight[i] += w
                 weight[j] += w
-    import heapq
     heap = [(-w, i) for i, w in enumerate(weight)]
     heapq.heapify(heap)
     alive = [True] * n
@@ -603,12 +606,12 @@ def row(name, frame, color, phi, theta, mag):
     return [name, frame, color, p, "0.00000" if t == "-0.00000" else t, mag]
 
 
-def generate():
+def draw_up():
+    """The texts of the three files."""
     figures = make_figures()
     labels, taken = place_labels(figures)
-    stars = background(figures, labels, taken)
     rows = []
-    bg = sorted((unseen(v) + (m,) for v, m in stars))
+    bg = sorted(unseen(v) + (m,) for v, m in background(figures, labels, taken))
     for i, (a, d, m) in enumerate(bg, 1):
         rows.append(row("_BACKGROUND%03d" % i, "equatorial", GREY, a, d, "%.2f" % m))
     for f in figures:
@@ -622,26 +625,28 @@ def generate():
     for name, frame, color, v, m in labels:
         a, d = angles(v) if frame == "ecliptic" else angles(to_eq(v))
         rows.append(row(name, frame, color, a, d, "1.0" if m else "0"))
-    with open(STARS_CSV, "w", newline="\n") as out:
-        out.write("name,frame,color,phi,theta,magnitude\n")
-        for r in rows:
-            out.write(",".join(r) + "\n")
-    with open(LINES_CSV, "w", newline="\n") as out:
-        out.write("from,to\n")
-        for f in figures:
-            for a, b in f.lines:
-                out.write("_%s%d,_%s%d\n" % (f.code, a + 1, f.code, b + 1))
-    return figures
+    stars = "name,frame,color,phi,theta,magnitude\n" + "".join(",".join(r) + "\n" for r in rows)
+    lines = "from,to\n" + "".join("_%s%d,_%s%d\n" % (f.code, a + 1, f.code, b + 1)
+                                 for f in figures for a, b in f.lines)
+    return {STARS_CSV: stars, LINES_CSV: lines, NOTE_MD: note_text(figures, labels)}
+
+
+def generate():
+    for path, text in draw_up().items():
+        with open(path, "w", encoding="utf-8", newline="\n") as out:
+            out.write(text)
 
 
 # --------------------------------------------------------------------------
 # Measuring the files
 # --------------------------------------------------------------------------
+# Degrees on the sphere, or units of the charts (1 degree from the centre is 2 units).
 LIMITS = {
-    "figure": 25.0, "long figure": 40.0, "zodiac latitude": 18.0, "star gap": 0.3,
-    "background to figure star": 1.2, "figure gap": 2.5, "rim text gap": 2.5,
-    "upright text gap": 2.0, "seam": 2.0, "name gap": 0.5, "name reach": 6.0,
-    "pole": 1.0, "pole space": 2.0, "centred latitude": 12.0, "rim text to line": 0.8,
+    "figure": 25.0, "long figure": 40.0, "zodiac latitude": 18.0, "hole": 22.0, "dark": 13.0,
+    "star gap": 0.3, "background to figure star": 1.2, "figure gap": 2.5,
+    "pole": 1.0, "pole space": 2.0, "centred latitude": 12.0,
+    "name gap": 0.5, "name reach": 6.5, "rim text gap": 2.5, "seam": 2.0,
+    "upright text gap": 2.0, "text to line": 0.8, "text to dot": 0.2,
 }
 RIM_LENGTH = {"rim": TAU * 175, "rim_inner": TAU * 170}
 
@@ -714,317 +719,471 @@ def wheel_names(labels, black_and_white):
     return rim, boxes
 
 
-def check():
-    faults = 0
+def map_reach(s):
+    """Degrees around a name's position that it may cover on the star map."""
+    if s.mag > 0:
+        return dot_size(s.mag) + text_width(s.name) / 2 + 0.5
+    return reach(s.name)
 
-    def report(ok, text):
-        nonlocal faults
-        faults += not ok
+
+class Check:
+    def __init__(self):
+        self.faults = 0
+        with open(STARS_CSV, "rb") as f:
+            raw = f.read()
+        with open(LINES_CSV, "rb") as f:
+            raw_lines = f.read()
+        both = raw + raw_lines
+        self.report(all(c < 128 for c in both) and b"\r" not in both,
+                    "both files are plain ASCII with line feeds")
+        self.report(raw.startswith(b"name,frame,color,phi,theta,magnitude\n")
+                    and raw_lines.startswith(b"from,to\n"), "column lines")
+        rows = csv.DictReader(raw.decode("ascii", "replace").splitlines())
+        self.stars = [Star(r) for r in rows]
+        rows = csv.DictReader(raw_lines.decode("ascii", "replace").splitlines())
+        self.pairs = [(r["from"], r["to"]) for r in rows]
+        self.index = {s.name: s for s in self.stars}
+        self.background = [s for s in self.stars if s.background]
+        self.members = [s for s in self.stars if s.numbered and not s.background]
+        self.markers = [s for s in self.stars if s.marker]
+        self.names = [s for s in self.stars if not s.numbered and not s.marker]
+        self.sign_names = [s for s in self.names if s.frame == "ecliptic"]
+        self.other_names = [s for s in self.names if s.frame == "equatorial"]
+        self.pole = [s for s in self.other_names if s.mag == 1.0]
+        self.codes = list(dict.fromkeys(s.code for s in self.members))
+        self.group = {c: [s for s in self.members if s.code == c] for c in self.codes}
+        self.signs = [n.upper() for n, _ in SIGNS]
+
+    def report(self, ok, text):
+        self.faults += not ok
         print(("ok     " if ok else "FAULT  ") + text)
 
-    with open(STARS_CSV, "rb") as f:
-        raw = f.read()
-    lines_raw = open(LINES_CSV, "rb").read()
-    report(all(b < 128 for b in raw + lines_raw) and b"\r" not in raw + lines_raw,
-           "both files are plain ASCII with line feeds")
-    report(raw.startswith(b"name,frame,color,phi,theta,magnitude\n")
-           and lines_raw.startswith(b"from,to\n"), "column lines")
-    stars = [Star(r) for r in csv.DictReader(raw.decode("ascii").splitlines())]
-    pairs = [(r["from"], r["to"]) for r in csv.DictReader(lines_raw.decode("ascii").splitlines())]
-    index = {s.name: s for s in stars}
+    def run(self):
+        self.forms()
+        self.lines()
+        if self.faults:
+            print("%d faults; the sky itself is measured once they are mended" % self.faults)
+            return self.faults
+        self.centre = {c: norm(tuple(sum(s.ec[i] for s in self.group[c]) for i in range(3)))
+                       for c in self.codes}
+        self.arcs = {c: [(a.ec, b.ec) for a, b in self.figures[c]] for c in self.codes}
+        self.drawn = sorted(self.background + self.members + self.pole, key=lambda s: s.ec[2])
+        self.places()
+        self.distances()
+        self.holes()
+        self.names_beside_figures()
+        self.star_maps()
+        self.wheel_figures()
+        for black_and_white in (False, True):
+            self.wheel_texts(black_and_white)
+        same = True
+        for path, text in draw_up().items():
+            with open(path, encoding="utf-8", newline="") as f:
+                same = same and f.read() == text
+        # No fault of the sky: another mathematical library may round a last digit otherwise.
+        print("note   the files %s what this tool draws"
+              % ("are exactly" if same else "DIFFER from"))
+        print("%d faults" % self.faults if self.faults else "no faults")
+        return self.faults
 
     # Counts, forms, colours, magnitudes.
-    bg = [s for s in stars if s.background]
-    con = [s for s in stars if s.numbered and not s.background]
-    mark = [s for s in stars if s.marker]
-    lab = [s for s in stars if not s.numbered and not s.marker]
-    report((len(stars), len(bg), len(con), len(mark), len(lab)) == (679, 454, 176, 12, 37),
-           "rows %d: background %d, figures %d, markers %d, names %d"
-           % (len(stars), len(bg), len(con), len(mark), len(lab)))
-    report(len(index) == len(stars), "no name twice")
-    order = [0 if s.background else 1 if s.numbered else 2 if s.marker else 3 for s in stars]
-    report(order == sorted(order), "order: background, figures, markers, names")
-    report([s.name for s in bg] == ["_BACKGROUND%03d" % i for i in range(1, 455)]
-           and all(s.color == GREY and s.frame == "equatorial" for s in bg),
-           "background named 001 to %03d, %s, equatorial" % (len(bg), GREY))
-    m = sorted(s.mag for s in bg)
-    report(m[0] == 4.51 and m[-1] == 6.0, "background magnitudes %.2f to %.2f, middle one %.2f"
-           % (m[0], m[-1], m[len(m) // 2]))
-    codes = list(dict.fromkeys(s.code for s in con))
-    group = {c: [s for s in con if s.code == c] for c in codes}
-    signs = [n.upper() for n, _ in SIGNS]
-    report(len(codes) == 35 and codes[:12] == signs, "constellations %d, the twelve signs first" % len(codes))
-    report(all([s.name for s in group[c]] == ["_%s%d" % (c, i + 1) for i in range(len(group[c]))]
-               for c in codes), "figures numbered from 1 without a gap")
-    sizes = sorted(len(group[c]) for c in codes)
-    report(sizes[0] >= 2 and sizes[-1] <= 9, "stars in a figure: "
-           + ", ".join("%d x %d" % (sizes.count(n), n) for n in range(2, 10) if n in sizes))
-    yellow = [s.name for s in con if s.color == YELLOW]
-    report(len(yellow) == 1 and all(s.color in (WHITE, YELLOW) and s.frame == "equatorial" for s in con),
-           "figure stars %s, one %s: %s" % (WHITE, YELLOW, " ".join(yellow)))
-    m = sorted(s.mag for s in con)
-    report(m[0] == 0.54 and m[-1] == 4.0 and m[1] > 0.54, "figure magnitudes %.2f to %.2f, mean %.2f"
-           % (m[0], m[-1], sum(m) / len(m)))
-    report([(s.name, "%.5f" % s.given[0]) for s in mark] == [("_" + n.upper(), t) for n, t in SIGNS]
-           and all(s.frame == "ecliptic" and s.given[1] == 0 and s.mag == 1 and s.color == WHITE for s in mark),
-           "markers at the starts of the sign table")
-    sign_lab = [s for s in lab if s.frame == "ecliptic"]
-    other = [s for s in lab if s.frame == "equatorial"]
-    report([s.name for s in sign_lab] == [n for n, _ in SIGNS]
-           and all(s.color == WHITE and s.mag == 0 for s in sign_lab), "sign names %d" % len(sign_lab))
-    pole = [s for s in other if s.mag == 1.0]
-    report(len(other) == 25 and len(pole) == 1 and all(s.mag in (0.0, 1.0) for s in other)
-           and all(s.color in (WHITE, YELLOW) for s in other),
-           "equatorial names %d, star with a name: %s" % (len(other), " ".join(s.name for s in pole)))
-    named = {s.name.upper(): s for s in lab}
-    band = [s for s in other if s not in pole and s.name.upper() not in group]
-    report(all(c in named for c in codes) and len(band) == 1,
-           "every figure has its name; over the dense band stands %s" % " ".join(s.name for s in band))
-    report(all(0 <= s.given[0] < TAU and abs(s.given[1]) <= math.pi / 2 for s in stars),
-           "positions in range")
+    def forms(self):
+        bg, members, names = self.background, self.members, self.names
+        counts = (len(self.stars), len(bg), len(members), len(self.markers), len(names))
+        self.report(counts == (679, 454, 176, 12, 37),
+                    "rows %d: background %d, figures %d, markers %d, names %d" % counts)
+        self.report(len(self.index) == len(self.stars), "no name twice")
+        order = [0 if s.background else 1 if s.numbered else 2 if s.marker else 3
+                 for s in self.stars]
+        self.report(order == sorted(order), "order: background, figures, markers, names")
+        self.report([s.name for s in bg] == ["_BACKGROUND%03d" % i for i in range(1, 455)]
+                    and all(s.color == GREY and s.frame == "equatorial" for s in bg),
+                    "background numbered from 001 to %03d, %s, equatorial" % (len(bg), GREY))
+        m = sorted(s.mag for s in bg) or [0]
+        self.report(m[0] == 4.51 and m[-1] == 6.0,
+                    "background magnitudes %.2f to %.2f, the middle one %.2f"
+                    % (m[0], m[-1], m[len(m) // 2]))
+        self.report(len(self.codes) == 35 and self.codes[:12] == self.signs,
+                    "constellations %d, the twelve signs first" % len(self.codes))
+        self.report(all([s.name for s in g] == ["_%s%d" % (c, i + 1) for i in range(len(g))]
+                        for c, g in self.group.items()), "figures numbered from 1 without a gap")
+        sizes = sorted(len(g) for g in self.group.values()) or [0]
+        self.report(sizes[0] >= 2 and sizes[-1] <= 9, "stars in a figure: " + ", ".join(
+            "%d x %d" % (sizes.count(n), n) for n in range(0, 10) if n in sizes))
+        yellow = [s.name for s in members if s.color == YELLOW]
+        self.report(len(yellow) == 1 and all(s.color in (WHITE, YELLOW) for s in members)
+                    and all(s.frame == "equatorial" for s in members),
+                    "figure stars %s, one %s: %s" % (WHITE, YELLOW, " ".join(yellow)))
+        m = sorted(s.mag for s in members) or [0]
+        self.report(m[0] == 0.54 and m[-1] == 4.0, "figure magnitudes %.2f to %.2f, mean %.2f"
+                    % (m[0], m[-1], sum(m) / len(m)))
+        self.report([(s.name, "%.5f" % s.given[0]) for s in self.markers]
+                    == [("_" + n.upper(), start) for n, start in SIGNS]
+                    and all(s.frame == "ecliptic" and s.given[1] == 0 and s.mag == 1
+                            and s.color == WHITE for s in self.markers),
+                    "markers at the starts of the sign table")
+        self.report([s.name for s in self.sign_names] == [n for n, _ in SIGNS]
+                    and all(s.color == WHITE and s.mag == 0 for s in self.sign_names),
+                    "sign names %d" % len(self.sign_names))
+        others = self.other_names
+        self.report(len(others) == 25 and len(self.pole) == 1
+                    and all(s.mag in (0.0, 1.0) for s in others)
+                    and all(s.color in (WHITE, YELLOW) for s in others),
+                    "equatorial names %d, the star with a name is %s"
+                    % (len(others), " ".join(s.name for s in self.pole)))
+        named = {s.name.upper() for s in names}
+        band = [s.name for s in others if s not in self.pole and s.name.upper() not in self.group]
+        self.report(all(c in named for c in self.codes) and len(band) == 1,
+                    "every figure has its name; the dense band is %s" % " ".join(band))
+        self.report(all(0 <= s.given[0] < TAU and abs(s.given[1]) <= math.pi / 2
+                        for s in self.stars), "positions in range")
 
-    # Lines.
-    report(len(pairs) == 162 and all(a in index and b in index for a, b in pairs),
-           "line pairs %d, both stars known" % len(pairs))
-    report(len({frozenset(p) for p in pairs}) == len(pairs) and all(a != b for a, b in pairs),
-           "no pair twice")
-    report(all(index[a].code == index[b].code != "" for a, b in pairs), "every pair within one constellation")
-    figures = {}
-    whole = True
-    for c in codes:
-        seen, todo = set(), [group[c][0].name]
-        edges = [p for p in pairs if index[p[0]].code == c]
-        while todo:
-            n = todo.pop()
-            if n not in seen:
-                seen.add(n)
-                todo += [b if a == n else a for a, b in edges if n in (a, b)]
-        whole = whole and len(seen) == len(group[c])
-        figures[c] = [(index[a], index[b]) for a, b in edges]
-    report(whole, "every figure hangs together, no star alone")
+    # The line pairs.
+    def lines(self):
+        index, pairs = self.index, self.pairs
+        known = all(a in index and b in index for a, b in pairs)
+        self.report(len(pairs) == 162 and known, "line pairs %d, both stars known" % len(pairs))
+        self.report(len({frozenset(p) for p in pairs}) == len(pairs)
+                    and all(a != b for a, b in pairs), "no pair twice")
+        if not known:
+            return
+        self.report(all(index[a].code == index[b].code != "" for a, b in pairs),
+                    "every pair within one constellation")
+        self.figures, whole = {}, True
+        for c in self.codes:
+            edges = [(a, b) for a, b in pairs if index[a].code == index[b].code == c]
+            seen, todo = set(), [self.group[c][0].name]
+            while todo:
+                n = todo.pop()
+                if n not in seen:
+                    seen.add(n)
+                    todo += [b if a == n else a for a, b in edges if n in (a, b)]
+            whole = whole and len(seen) == len(self.group[c])
+            self.figures[c] = [(index[a], index[b]) for a, b in edges]
+        self.report(whole, "every figure hangs together, no star stands alone")
 
-    # Extents and places.
-    ext = sorted(((max(angle(a.ec, b.ec) for a in group[c] for b in group[c])), c) for c in codes)
-    report(ext[-2][0] <= LIMITS["figure"] and ext[-1][0] <= LIMITS["long figure"],
-           "figure extents %.1f to %.1f degrees, the long one (%s) %.1f"
-           % (ext[0][0], ext[-2][0], ext[-1][1].capitalize(), ext[-1][0]))
-    spare, high = 99.0, 0.0
-    for i, c in enumerate(signs):
-        a, b = sign_range(i)
-        for s in group[c]:
-            lon, lat = angles(s.ec)
-            if i == 11 and lon < math.pi:
-                lon += TAU
-            spare = min(spare, math.degrees(lon - a), math.degrees(b - lon))
-            high = max(high, abs(math.degrees(lat)))
-    report(spare > 0 and high <= LIMITS["zodiac latitude"],
-           "zodiac figures inside their signs: nearest boundary %.2f degrees, greatest latitude %.1f" % (spare, high))
+    # How large the figures are, and the zodiac inside its signs.
+    def places(self):
+        ext = sorted((max(angle(a.ec, b.ec) for a in g for b in g), c)
+                     for c, g in self.group.items())
+        self.report(ext[-2][0] <= LIMITS["figure"] and ext[-1][0] <= LIMITS["long figure"],
+                    "figures %.1f to %.1f degrees across, the long one (%s) %.1f"
+                    % (ext[0][0], ext[-2][0], ext[-1][1].capitalize(), ext[-1][0]))
+        spare, high = 99.0, 0.0
+        for i, c in enumerate(self.signs):
+            a, b = sign_range(i)
+            for s in self.group[c]:
+                lon, lat = angles(s.ec)
+                if i == 11 and lon < math.pi:
+                    lon += TAU
+                spare = min(spare, math.degrees(lon - a), math.degrees(b - lon))
+                high = max(high, abs(math.degrees(lat)))
+        self.report(spare > 0 and high <= LIMITS["zodiac latitude"],
+                    "zodiac figures inside their signs: nearest boundary %.2f degrees, "
+                    "greatest latitude %.1f" % (spare, high))
+        bright = [s for s in self.background if band_density(s.ec) > 3]
+        self.report(True, "background stars in the dense band: %d of %d"
+                    % (len(bright), len(self.background)))
 
-    # Distances between stars.
-    drawn = bg + con + pole
-    drawn.sort(key=lambda s: s.ec[2])
-    least, least_bg, least_bb, pair = 99.0, 99.0, 99.0, ()
-    for i, a in enumerate(drawn):
-        for b in drawn[i + 1:]:
-            if b.ec[2] - a.ec[2] > 0.2:
-                break
-            if dot(a.ec, b.ec) > 0.98:
+    # Stars among themselves, figures among themselves.
+    def distances(self):
+        least, to_figures, among, pair = 99.0, 99.0, 99.0, ()
+        for i, a in enumerate(self.drawn):
+            for b in self.drawn[i + 1:]:
+                if b.ec[2] - a.ec[2] > 0.2:
+                    break
+                if dot(a.ec, b.ec) < 0.98:
+                    continue
                 d = angle(a.ec, b.ec)
                 if d < least:
                     least, pair = d, (a.name, b.name)
                 if a.background and b.background:
-                    least_bb = min(least_bb, d)
+                    among = min(among, d)
                 elif a.background or b.background:
-                    least_bg = min(least_bg, d)
-    report(least >= LIMITS["star gap"], "nearest two stars %.2f degrees apart (%s %s)" % ((least,) + pair))
-    report(least_bg >= LIMITS["background to figure star"],
-           "background among itself %.2f degrees, to figure stars %.2f" % (least_bb, least_bg))
-    p = angle(pole[0].eq, (0, 0, 1))
-    rest = min((angle(s.eq, (0, 0, 1)), s.name) for s in bg + con)
-    report(p <= LIMITS["pole"] and rest[0] > p + LIMITS["pole space"],
-           "%s %.2f degrees from the celestial pole, the next star (%s) %.2f" % (pole[0].name, p, rest[1], rest[0]))
+                    to_figures = min(to_figures, d)
+        self.report(least >= LIMITS["star gap"],
+                    "nearest two stars %.2f degrees apart (%s %s)" % ((least,) + pair))
+        self.report(to_figures >= LIMITS["background to figure star"],
+                    "background stars %.2f degrees from one another, %.2f from figure stars"
+                    % (among, to_figures))
+        up = (0.0, 0.0, 1.0)
+        own = angle(self.pole[0].eq, up)
+        d, name = min((angle(s.eq, up), s.name) for s in self.background + self.members)
+        self.report(own <= LIMITS["pole"] and d > own + LIMITS["pole space"],
+                    "%s %.2f degrees from the celestial pole, the next star (%s) %.2f"
+                    % (self.pole[0].name, own, name, d))
+        gap, between = 99.0, ()
+        for i, c in enumerate(self.codes):
+            for d in self.codes[i + 1:]:
+                if angle(self.centre[c], self.centre[d]) < 60:
+                    g = min(arc_arc_distance(*x, *y) for x in self.arcs[c] for y in self.arcs[d])
+                    if g < gap:
+                        gap, between = g, (c.capitalize(), d.capitalize())
+        self.report(gap >= LIMITS["figure gap"],
+                    "nearest two figures %.1f degrees apart (%s and %s), none crossing"
+                    % ((gap,) + between))
 
-    # Figures among themselves.
-    centre = {c: norm(tuple(sum(s.ec[i] for s in group[c]) for i in range(3))) for c in codes}
-    arcs = {c: [(a.ec, b.ec) for a, b in figures[c]] for c in codes}
-    gap, between = 99.0, ()
-    for i, c in enumerate(codes):
-        for d in codes[i + 1:]:
-            if angle(centre[c], centre[d]) < 60:
-                g = min(arc_arc_distance(*x, *y) for x in arcs[c] for y in arcs[d])
-                if g < gap:
-                    gap, between = g, (c.capitalize(), d.capitalize())
-    report(gap >= LIMITS["figure gap"], "nearest two figures %.1f degrees apart (%s and %s), none crossing"
-           % ((gap,) + between))
-    holes = []
-    n = 3000
-    for k in range(n):
-        z = 1 - (2 * k + 1) / n
-        l = k * 2.399963229728653
-        v = (math.sqrt(1 - z * z) * math.cos(l), math.sqrt(1 - z * z) * math.sin(l), z)
-        holes.append((min(min(segment_distance(v, *x) for x in arcs[c])
-                          for c in codes if angle(v, centre[c]) < 70), v,
-                      min(angle(v, s.ec) for s in drawn if abs(s.ec[2] - z) < 0.6)))
-    g, v, _ = max(holes)
-    report(True, "widest circle without a figure: radius %.1f degrees at longitude %.0f, latitude %.0f"
-           % ((g,) + tuple(math.degrees(x) for x in angles(v))))
-    report(True, "widest circle without a star: radius %.1f degrees" % max(h[2] for h in holes))
+    # The widest empty circles.
+    def holes(self):
+        figure, star, n = (0.0, ()), 0.0, 3000
+        for k in range(n):
+            z = 1 - (2 * k + 1) / n
+            c, l = math.sqrt(1 - z * z), k * 2.399963229728653
+            v = (c * math.cos(l), c * math.sin(l), z)
+            d = min(segment_distance(v, *x) for c in self.codes
+                    if angle(v, self.centre[c]) < 70 for x in self.arcs[c])
+            figure = max(figure, (d, v))
+            star = max(star, min(angle(v, s.ec) for s in self.drawn if abs(s.ec[2] - z) < 0.6))
+        lon, lat = (math.degrees(x) for x in angles(figure[1]))
+        self.report(figure[0] <= LIMITS["hole"], "widest circle without a figure: radius %.1f "
+                    "degrees at longitude %.0f, latitude %.0f" % (figure[0], lon, lat))
+        self.report(star <= LIMITS["dark"], "widest circle without a star: radius %.1f degrees"
+                    % star)
 
-    # Names beside their figures, on the star map however it is turned.
-    near, far, strange = (99.0, ""), (0.0, ""), (99.0, "")
-    for s in lab:
-        if s.name.upper() in group:
-            own = s.name.upper()
-        else:
-            own = ""
-        r = reach(s.name) if s.mag == 0 else dot_size(s.mag) + text_width(s.name) / 2 + 0.5
-        for c in codes:
-            g = min(min(segment_distance(s.ec, *x) for x in arcs[c]),
-                    min(angle(s.ec, t.ec) - dot_size(t.mag) / 2 for t in group[c])) - r
-            if c == own:
-                near, far = min(near, (g, s.name)), max(far, (g, s.name))
-            else:
-                strange = min(strange, (g, "%s to %s" % (s.name, c.capitalize())))
-    report(near[0] >= LIMITS["name gap"] and far[0] <= LIMITS["name reach"],
-           "names stand %.1f (%s) to %.1f (%s) degrees clear of their figures" % (near + far))
-    report(strange[0] >= LIMITS["name gap"], "nearest strange figure %.1f degrees clear (%s)" % strange)
-    g = (99.0, "")
-    for i, a in enumerate(lab):
-        for b in lab[i + 1:]:
-            ra, rb = (reach(s.name) if s.mag == 0 else dot_size(s.mag) + text_width(s.name) / 2 + 0.5
-                      for s in (a, b))
-            g = min(g, (angle(a.ec, b.ec) - ra - rb, a.name + " and " + b.name))
-    report(g[0] >= LIMITS["name gap"], "nearest two names on the star map, turned as they may be, "
-           "%.1f degrees clear (%s)" % g)
+    # Names and figures on the star map, whatever way the sky is turned.
+    def names_beside_figures(self):
+        near, far, strange, pair = (99.0, ""), (0.0, ""), (99.0, ""), (99.0, "")
+        for i, s in enumerate(self.names):
+            for c in self.codes:
+                g = min(min(segment_distance(s.ec, *x) for x in self.arcs[c]),
+                        min(angle(s.ec, t.ec) - dot_size(t.mag) / 2 for t in self.group[c]))
+                g -= map_reach(s)
+                if c == s.name.upper():
+                    near, far = min(near, (g, s.name)), max(far, (g, s.name))
+                else:
+                    strange = min(strange, (g, "%s to %s" % (s.name, c.capitalize())))
+            for t in self.names[i + 1:]:
+                g = angle(s.ec, t.ec) - map_reach(s) - map_reach(t)
+                pair = min(pair, (g, s.name + " and " + t.name))
+        self.report(near[0] >= LIMITS["name gap"] and far[0] <= LIMITS["name reach"],
+                    "names stand %.1f (%s) to %.1f (%s) degrees clear of their figures"
+                    % (near + far))
+        self.report(strange[0] >= LIMITS["name gap"],
+                    "names stand at least %.1f degrees clear of other figures (%s)" % strange)
+        self.report(pair[0] >= LIMITS["name gap"], "nearest two names on the star map, turned as "
+                    "they may be, %.1f degrees clear (%s)" % pair)
 
-    # The star map at many places and hours.
-    low, met, maps = (99.0, ""), 0, 0
-    for latitude in (-80, -60, -35, -15, 0, 20, 40, 60, 80):
-        for hour in range(0, 24, 2):
-            maps += 1
-            theta = math.radians(hour * 15 + 7)
-            up = {}
-            for s in con + lab:
-                x, y, alt = turn_page(s.eq, theta, math.radians(latitude))
-                if alt >= 0:
-                    up[s.name] = (x, y)
-            boxes = [(s.name, name_box(s.name, s.mag, *up[s.name])) for s in lab if s.name in up]
-            segs = {c: [(up[a.name], up[b.name]) for a, b in figures[c] if a.name in up and b.name in up]
-                    for c in codes}
-            for i, (n1, b1) in enumerate(boxes):
-                for n2, b2 in boxes[i + 1:]:
-                    low = min(low, (box_gap(b1, b2), n1 + " and " + n2))
-            bounds = {c: (min(min(p[0], q[0]) for p, q in segs[c]), min(min(p[1], q[1]) for p, q in segs[c]),
-                          max(max(p[0], q[0]) for p, q in segs[c]), max(max(p[1], q[1]) for p, q in segs[c]))
-                      for c in codes if segs[c]}
-            keys = list(bounds)
-            for i, c in enumerate(keys):
-                for d in keys[i + 1:]:
-                    if box_gap(bounds[c], bounds[d]) <= 0:
-                        met += sum(1 for x in segs[c] for y in segs[d] if segments_meet(*x, *y))
-    report(low[0] > 1 and met == 0, "%d star maps: lines of different figures crossing %d, nearest two names "
-           "%.1f units (%s)" % ((maps, met) + low))
+    # The star map itself at many places and hours.
+    def star_maps(self):
+        low, met, maps = (99.0, ""), 0, 0
+        for latitude in (-80, -60, -35, -15, 0, 20, 40, 60, 80):
+            for hour in range(0, 24, 2):
+                maps += 1
+                up = {}
+                for s in self.members + self.names:
+                    x, y, alt = turn_page(s.eq, math.radians(hour * 15 + 7),
+                                          math.radians(latitude))
+                    if alt >= 0:
+                        up[s.name] = (x, y)
+                boxes = [(s.name, name_box(s.name, s.mag, *up[s.name]))
+                         for s in self.names if s.name in up]
+                for i, (n1, b1) in enumerate(boxes):
+                    for n2, b2 in boxes[i + 1:]:
+                        low = min(low, (box_gap(b1, b2), n1 + " and " + n2))
+                shown = []
+                for c in self.codes:
+                    segs = [(up[a.name], up[b.name]) for a, b in self.figures[c]
+                            if a.name in up and b.name in up]
+                    if segs:
+                        xs = [p[0] for s in segs for p in s]
+                        ys = [p[1] for s in segs for p in s]
+                        shown.append((segs, (min(xs), min(ys), max(xs), max(ys))))
+                for i, (s1, b1) in enumerate(shown):
+                    for s2, b2 in shown[i + 1:]:
+                        if box_gap(b1, b2) <= 0:
+                            met += sum(1 for x in s1 for y in s2 if segments_meet(*x, *y))
+        self.report(met == 0, "%d star maps: lines of different figures crossing %d" % (maps, met))
+        self.report(low[0] >= LIMITS["upright text gap"],
+                    "%d star maps: nearest two names %.1f units (%s)" % ((maps,) + low))
 
-    # The wheel.
-    flat = {s.name: wheel(s.ec) for s in con + pole}
-    cut = crossing = 0
-    visible = []
-    for c in codes:
-        for a, b in figures[c]:
-            pa, pb = flat[a.name], flat[b.name]
-            if pa[0] > 1 and pb[0] > 1 and point_to_segment((180, 180), pa[1:], pb[1:]) < 180:
-                cut += 1
-            if pa[0] <= 1 or pb[0] <= 1:
-                visible.append((c, pa[1:], pb[1:]))
-    for i, (c, a, b) in enumerate(visible):
-        for d, e, f in visible[i + 1:]:
-            if c != d:
-                m = segments_meet(a, b, e, f)
-                crossing += m is not None and math.hypot(m[0] - 180, m[1] - 180) <= 180
-    report(cut == 0 and crossing == 0, "wheel: lines of different figures crossing %d, "
-           "lines from outside to outside showing %d" % (crossing, cut))
-    south = [s for s in other if wheel(s.ec)[0] > 0.9]
-    report(all(s.color == YELLOW for s in south), "names on the wheel's rim besides the signs: %d, all %s"
-           % (len(south), YELLOW))
-    low_lat = min(math.degrees(angles(s.ec)[1]) for s in other if s not in south)
-    report(low_lat >= LIMITS["centred latitude"], "upright names from latitude %.1f degrees" % low_lat)
-    worst = 0.0
-    for i, s in enumerate(sign_lab):
-        a, b = sign_range(i)
-        mid = angles(s.ec)[0] + text_width(s.name) / 350
-        worst = max(worst, abs(math.degrees(mid - (a + b) / 2)))
-    report(worst < 0.1, "sign names centred in their signs to %.2f degrees" % worst)
-    for bw in (False, True):
-        mode = "black and white" if bw else "colour"
-        rim, boxes = wheel_names(lab, bw)
-        g = (999.0, "")
+    # The figures on the wheel.
+    def wheel_figures(self):
+        flat = {s.name: wheel(s.ec) for s in self.members}
+        cut = crossing = 0
+        self.visible = []
+        for c in self.codes:
+            for a, b in self.figures[c]:
+                pa, pb = flat[a.name], flat[b.name]
+                if pa[0] <= 1 or pb[0] <= 1:
+                    self.visible.append((c, pa[1:], pb[1:]))
+                elif point_to_segment((180, 180), pa[1:], pb[1:]) < 180:
+                    cut += 1
+        for i, (c, a, b) in enumerate(self.visible):
+            for d, e, f in self.visible[i + 1:]:
+                if c != d:
+                    m = segments_meet(a, b, e, f)
+                    crossing += m is not None and math.hypot(m[0] - 180, m[1] - 180) <= 180
+        self.report(cut == 0 and crossing == 0, "wheel: lines of different figures crossing %d, "
+                    "lines from outside to outside showing %d" % (crossing, cut))
+        south = [s for s in self.other_names if wheel(s.ec)[0] > 0.9]
+        self.report(all(s.color == YELLOW for s in south),
+                    "wheel: names along the rim besides the signs %d, all %s"
+                    % (len(south), YELLOW))
+        low = min(math.degrees(angles(s.ec)[1]) for s in self.other_names if s not in south)
+        self.report(low >= LIMITS["centred latitude"],
+                    "wheel: upright names from latitude %.1f degrees on" % low)
+        worst = 0.0
+        for i, s in enumerate(self.sign_names):
+            a, b = sign_range(i)
+            mid = angles(s.ec)[0] + text_width(s.name) / 175 / 2
+            worst = max(worst, abs(math.degrees(mid - (a + b) / 2)))
+        self.report(worst < 0.1, "wheel: sign names centred in their signs to %.2f degrees" % worst)
+
+    # The names on the wheel.
+    def wheel_texts(self, black_and_white):
+        mode = "black and white" if black_and_white else "colour"
+        rim, boxes = wheel_names(self.names, black_and_white)
+        inner = RIM_LENGTH["rim_inner"]
+
+        # Compared around the circle even when two names run on different paths.
+        gap = (999.0, "")
         for i, (s, path, a, b) in enumerate(rim):
             for t, path2, a2, b2 in rim[i + 1:]:
-                k = RIM_LENGTH["rim_inner"]
-                u = [x / RIM_LENGTH[path] * k for x in (a, b)]
-                w = [x / RIM_LENGTH[path2] * k for x in (a2, b2)]
-                g = min(g, (max(w[0] - u[1], u[0] - w[1]), s.name + " and " + t.name))
-        report(g[0] >= LIMITS["rim text gap"], "%s: nearest two names along the rim %.1f units (%s)" % ((mode,) + g))
-        g = min(min((a, s.name), (RIM_LENGTH[path] - b, s.name)) for s, path, a, b in rim)
-        report(g[0] >= LIMITS["seam"], "%s: nearest name to longitude 0 ends %.1f units off (%s)" % ((mode,) + g))
-        g = (999.0, "")
+                k, k2 = inner / RIM_LENGTH[path], inner / RIM_LENGTH[path2]
+                gap = min(gap, (max(a2 * k2 - b * k, a * k - b2 * k2), s.name + " and " + t.name))
+        self.report(gap[0] >= LIMITS["rim text gap"],
+                    "%s: nearest two names along the rim %.1f units (%s)" % ((mode,) + gap))
+        gap = min(min((a, s.name), (RIM_LENGTH[path] - b, s.name)) for s, path, a, b in rim)
+        self.report(gap[0] >= LIMITS["seam"],
+                    "%s: nearest name to longitude 0 is %.1f units off (%s)" % ((mode,) + gap))
+
+        gap = (999.0, "")
         for i, (s, b1) in enumerate(boxes):
             for t, b2 in boxes[i + 1:]:
-                g = min(g, (box_gap(b1, b2), s.name + " and " + t.name))
-            edge = max(math.hypot(b1[i], b1[j]) for i in (0, 2) for j in (1, 3))
-            g = min(g, (170 - DESCENT - edge, s.name + " and the rim"))
-        report(g[0] >= LIMITS["upright text gap"], "%s: nearest two upright names %.1f units (%s)" % ((mode,) + g))
-        g, h = (999.0, ""), (999.0, "")
-        for c, a, b in visible:
+                gap = min(gap, (box_gap(b1, b2), s.name + " and " + t.name))
+            edge = max(math.hypot(x, y) for x in (b1[0], b1[2]) for y in (b1[1], b1[3]))
+            gap = min(gap, (170 - DESCENT - edge, s.name + " and the rim"))
+        self.report(gap[0] >= LIMITS["upright text gap"],
+                    "%s: nearest two upright names %.1f units (%s)" % ((mode,) + gap))
+
+        def to_rim(x, y, path, a, b):
+            base = RIM_LENGTH[path] / TAU
+            r, l = math.hypot(x, y), (math.atan2(x, -y) % TAU) * base
+            return math.hypot(max(a - l, l - b, 0), max(base - DESCENT - r, r - base - ASCENT, 0))
+
+        along_rim, upright = (999.0, ""), (999.0, "")
+        for c, a, b in self.visible:
             n = max(2, int(math.hypot(b[0] - a[0], b[1] - a[1]) * 2))
             for k in range(n + 1):
-                x, y = a[0] + (b[0] - a[0]) * k / n - 180, a[1] + (b[1] - a[1]) * k / n - 180
-                r, l = math.hypot(x, y), math.atan2(x, -y) % TAU
-                if r > 160:
-                    for s, path, p, q in rim:
-                        base = RIM_LENGTH[path] / TAU
-                        dl = max(p - l * base, l * base - q, 0)
-                        g = min(g, (math.hypot(dl, max(base - DESCENT - r, r - base - ASCENT, 0)),
-                                    s.name + " and " + c.capitalize()))
+                x = a[0] + (b[0] - a[0]) * k / n - 180
+                y = a[1] + (b[1] - a[1]) * k / n - 180
+                if math.hypot(x, y) > 155:
+                    for s, *place in rim:
+                        along_rim = min(along_rim, (to_rim(x, y, *place),
+                                                    s.name + " and " + c.capitalize()))
                 for s, box in boxes:
-                    h = min(h, (box_to_point(box, (x, y)), s.name + " and " + c.capitalize()))
-        report(g[0] >= LIMITS["rim text to line"] and h[0] >= LIMITS["rim text to line"],
-               "%s: figure lines pass rim names by %.1f units (%s), upright names by %.1f (%s)"
-               % ((mode,) + g + h))
-        g = (999.0, "")
-        for s in con + pole + bg:
-            rho, x, y = wheel(s.ec)
+                    upright = min(upright, (box_to_point(box, (x, y)),
+                                            s.name + " and " + c.capitalize()))
+        self.report(along_rim[0] >= LIMITS["text to line"],
+                    "%s: nearest figure line to a name along the rim %.1f units (%s)"
+                    % ((mode,) + along_rim))
+        self.report(upright[0] >= LIMITS["text to line"],
+                    "%s: nearest figure line to an upright name %.1f units (%s)"
+                    % ((mode,) + upright))
+
+        gap = (999.0, "")
+        for s in self.drawn:
+            _, x, y = wheel(s.ec)
             x, y = away(x - 180), away(y - 180)
-            r, l = math.hypot(x, y), math.atan2(x, -y) % TAU
-            for t, path, p, q in rim:
-                base = RIM_LENGTH[path] / TAU
-                d = math.hypot(max(p - l * base, l * base - q, 0), max(base - r, r - base - ASCENT, 0))
-                g = min(g, (d - dot_size(s.mag), t.name + " and " + s.name))
-            for t, box in boxes:
-                if t is not s:
-                    g = min(g, (box_to_point(box, (x, y)) - dot_size(s.mag), t.name + " and " + s.name))
-        report(g[0] >= 0, "%s: nearest dot to a name %.1f units (%s)" % ((mode,) + g))
-    print("%d faults" % faults if faults else "no faults")
-    return faults
+            d = [(to_rim(x, y, *place), t) for t, *place in rim]
+            d += [(box_to_point(box, (x, y)), t) for t, box in boxes if t is not s]
+            least, t = min(d, key=lambda e: e[0])
+            gap = min(gap, (least - dot_size(s.mag), t.name + " and " + s.name))
+        self.report(gap[0] >= LIMITS["text to dot"],
+                    "%s: nearest dot to a name %.1f units (%s)" % ((mode,) + gap))
 
 
 # --------------------------------------------------------------------------
 # The note
 # --------------------------------------------------------------------------
 NOTE_HEAD = """# The star catalogue
+
+`star_catalogue.csv` and `constellation_lines.csv` hold the fixed stars of
+Veyruna: 454 background stars, 176 stars in 35 constellations joined by 162
+lines, 12 markers at the starts of the signs and 37 names.
+
+## Where it comes from
+
+The sky is invented for this world. Every figure was drawn by hand as a small
+picture of something and then laid on the sphere; the names are made up in the
+tongue of the signs. Nothing is taken from a catalogue of real stars and no real
+constellation served as a pattern. The background stars come from a generator
+with a fixed seed. All of it is written by
+
+    python3 tools/make_catalogue.py
+
+which yields the same files every time, this note among them: to change the sky,
+change the drawings in that tool. `python3 tools/make_catalogue.py --check`
+measures the files as they stand.
+
+## The columns
+
+`star_catalogue.csv` has `name,frame,color,phi,theta,magnitude`; phi is the right
+ascension or ecliptic longitude, theta the declination or ecliptic latitude, both
+in radians, by `frame`. The form of a name tells what the row is: `_BACKGROUND001`
+a background star, `_GIMBRAL3` the third star of a figure, `_GIMBRAL` the marker of
+a sign, `Gimbral` a name. Magnitude 0 means a bare name; %(pole)s alone is a star
+and a name in one. `constellation_lines.csv` has `from,to`.
+
+## How the sky is laid out
+
+- The charts turn all numbered stars back by 18 degrees along the ecliptic, and
+  leave markers and names alone. The rows are chosen so that after this turn each
+  zodiac figure stands inside its sign and each name beside its figure. The
+  positions below are those seen on the charts, after the turn.
+- The star map has south at the top and west at the right, and the figures are
+  drawn for it: they stand upright when they culminate. On the wheel, which shows
+  the sky the other way round, they appear as in a mirror.
+- The zodiac figures lie mostly north of the ecliptic so that the wheel shows
+  them; a stem, a mast or a blade reaches across it beside the sign's name. The
+  names of the signs are centred in their signs along the wheel's outer path.
+- Names of southern figures run along the wheel's inner path and are %(yellow)s;
+  they keep clear of the signs' names too, because in black and white all of them
+  share that path, and of longitude 0, where the path ends. Names further north
+  than 12 degrees are drawn upright beside their figures and are %(white)s.
+- A name stays clear of its own figure, of the others and of the other names
+  however the sky is turned on the star map.
+- Bright stars stand at the corners of a figure. One star is yellow: %(flame)s,
+  the flame in the lantern %(lantern)s.
+- %(pole)s stands 0.4 degrees from the celestial north pole, alone in a dark round.
+- %(band)s is the dense band: background stars thicken towards a slightly winding
+  belt around the sphere, broadest in the far north beside Hathel and narrowest in the far
+  south, and thin out evenly away from it. Its name stands inside it, north of %(under)s.
+
+## The constellations
+
+Longitude and latitude are ecliptic, of the middle of the figure; the declination
+tells from which places of the world it is seen.
+
+| code | name | depicts | stars | lines | longitude | latitude | declination |
+|---|---|---|---|---|---|---|---|
 """
 
 
-def write_note(figures):
-    pass
+def note_text(figures, labels):
+    band = next(v for n, _, _, v, _ in labels if n == BAND)
+    lon = angles(band)[0]
+    under = next(SIGNS[i][0] for i in range(12)
+                 if sign_range(i)[0] <= lon < sign_range(i)[1]
+                 or i == 11 and lon < sign_range(0)[0])
+    out = NOTE_HEAD % {
+        "pole": POLE_STAR[0], "band": BAND, "under": under, "flame": YELLOW_STAR,
+        "lantern": "Ulvane", "yellow": "yellow (%s)" % YELLOW, "white": "white (%s)" % WHITE,
+    }
+    for f in figures:
+        lon, lat = (math.degrees(x) for x in angles(f.centre))
+        dec = math.degrees(angles(to_eq(f.centre))[1])
+        out += "| %s | %s | %s | %d | %d | %.0f° | %+.0f° | %+.0f° |\n" % (
+            f.code, f.name, f.what, len(f.stars), len(f.lines), lon, lat, dec)
+    return out
 
 
 def main():
     if sys.argv[1:] == ["--check"]:
-        sys.exit(1 if check() else 0)
+        sys.exit(1 if Check().run() else 0)
     if sys.argv[1:]:
         sys.exit("usage: make_catalogue.py [--check]")
-    write_note(generate())
+    generate()
 
 
 if __name__ == "__main__":
