@@ -1,0 +1,167 @@
+"""The figures of the sky, drawn by hand.
+
+Every drawing is in degrees with x to the right and y upwards as it appears on the
+star map, which has south at the top, east at the left and west at the right: a
+figure that culminates stands upright.  A star is (x, y, magnitude); the lines are
+pairs of star numbers, counted from 1.
+"""
+
+from dataclasses import dataclass
+
+
+@dataclass(frozen=True)
+class Drawing:
+    name: str
+    depicts: str
+    stars: list
+    lines: str
+
+
+@dataclass(frozen=True)
+class PlacedDrawing(Drawing):
+    """A drawing outside the zodiac, magnified by a size around its origin.
+
+    The origin stands at lon and lat: degrees in the ecliptic frame, as it is seen.
+    """
+    lon: float
+    lat: float
+    size: float
+
+
+YELLOW_STAR = "_ULVANE4"          # the flame of the lantern
+
+# The figures of the signs, in their order.  The origin is the middle of the sign on the
+# ecliptic; y = 0 is the ecliptic itself, negative y lies north of it.  The strip
+# y = -6..0 carries the names on the wheel's rim, so there only a stem, a mast or a
+# blade passes, to the left or right of the sign's name.
+ZODIAC = [
+    Drawing("Gimbral", "a sprouting branch with one open leaf",
+            [(0.5, -17.0, 2.9), (0.0, -11.5, 2.1), (-5.0, -7.0, 3.3), (-8.5, 2.5, 1.3),
+             (9.0, -3.5, 1.9), (7.0, -10.0, 3.4)],
+            "12 23 34 25 56 62"),
+    Drawing("Sevrino", "a bell-flower hanging from its stalk",
+            [(10.0, 3.5, 3.1), (6.5, -5.5, 3.6), (0.0, -8.5, 1.6), (-6.0, -15.5, 2.2),
+             (0.3, -13.8, 3.8), (6.0, -16.5, 2.5)],
+            "12 23 34 45 56 63"),
+    Drawing("Lothac", "a two-masted ship",
+            [(-11.0, -8.5, 2.0), (10.5, -9.5, 2.4), (-0.5, -16.5, 1.7), (-5.5, -9.1, 3.7),
+             (5.5, -9.4, 3.6), (-6.5, 4.5, 2.3), (6.0, 1.5, 2.8)],
+            "14 45 52 13 32 46 57 16"),
+    Drawing("Pemi", "a two-tongued flame",
+            [(0.0, -17.0, 2.2), (-8.5, -9.5, 2.9), (-8.0, 3.5, 1.8), (0.0, -9.0, 3.3),
+             (8.5, 5.0, 1.1), (9.0, -8.5, 3.0)],
+            "12 23 34 45 56 61"),
+    Drawing("Istramondel", "two crossed swords",
+            [(-11.6, 2.6, 1.5), (2.5, -14.5, 2.7), (4.2, -16.6, 3.3), (5.3, -12.3, 3.5),
+             (11.6, 2.6, 0.9), (-2.5, -14.5, 2.8), (-4.2, -16.6, 3.4), (-5.3, -12.3, 3.6),
+             (0.0, -16.6, 4.0)],
+            "12 23 24 56 67 68 29 69"),
+    Drawing("Felum", "a whirl that flings itself open",
+            [(0.5, -11.5, 1.4), (3.8, -9.0, 3.7), (-1.5, -6.6, 3.2), (-6.0, -11.5, 2.8),
+             (-1.0, -16.5, 2.6), (8.0, -14.5, 2.4), (8.5, 2.0, 2.0)],
+            "12 23 34 45 56 67"),
+    Drawing("Corra", "a bird with wide wings",
+            [(-11.0, 0.5, 2.1), (-5.8, -7.5, 3.2), (0.0, -11.0, 1.8), (5.8, -7.0, 3.1),
+             (11.0, 2.0, 2.3), (0.3, -6.9, 3.0), (-0.5, -16.5, 2.6)],
+            "12 23 34 45 36 37"),
+    Drawing("Bessim", "a cut stone",
+            [(-5.0, -6.7, 2.8), (5.0, -6.7, 2.9), (9.5, -10.0, 2.0), (0.0, -17.0, 1.2),
+             (-9.5, -10.0, 2.2)],
+            "12 23 34 45 51 35"),
+    Drawing("Wen", "an open book",
+            [(0.0, -7.4, 2.5), (9.5, -2.4, 1.9), (9.5, -11.0, 2.7), (0.0, -15.6, 1.5),
+             (-9.5, -11.0, 2.9), (-9.5, -2.4, 2.1)],
+            "12 23 34 45 56 61 14"),
+    Drawing("Ostrel", "a key",
+            [(-11.0, 0.5, 2.3), (-6.6, 3.8, 2.0), (-6.0, -4.2, 1.7), (3.4, -12.0, 3.3),
+             (7.3, -15.4, 2.2), (6.4, -8.6, 3.1), (10.4, -12.0, 2.6)],
+            "12 23 31 34 45 46 57"),
+    Drawing("Quelin", "a cradle with its hood",
+            [(-9.5, -7.5, 2.4), (-7.0, -13.5, 3.0), (0.0, -16.5, 1.9), (7.5, -14.0, 2.7),
+             (9.0, -2.5, 1.6), (2.5, -9.0, 3.2)],
+            "12 23 34 45 56 61"),
+    Drawing("Voni", "a mountain with two summits",
+            [(-11.5, -16.0, 2.4), (-6.2, -9.6, 2.6), (-3.0, -12.2, 3.4), (2.4, -6.8, 1.3),
+             (5.9, -12.0, 3.3), (11.3, -16.6, 2.2)],
+            "12 23 34 45 56 61"),
+]
+
+# The other figures, the northern ones first.
+OTHERS = [
+    PlacedDrawing("Ravosin", "a stag", lon=20, lat=37, size=0.94,
+                  stars=[(-9, 9, 2.9), (0.5, 10, 2.7), (-4.5, 4.5, 1.9), (-1, -1, 2.4),
+                         (8, -0.5, 2.1), (-2, -10, 3.2), (9, -10, 3.0)],
+                  lines="13 23 34 45 46 57"),
+    PlacedDrawing("Orsimel", "a harp", lon=67, lat=41, size=1.1,
+                  stars=[(-6, 8, 1.3), (0, 5.5, 3.5), (7.5, 6.5, 2.2), (2.5, -1, 3.7),
+                         (-5, -8, 2.0)],
+                  lines="12 23 34 45 51 24"),
+    PlacedDrawing("Hesmi", "a heron", lon=112, lat=38, size=1.1,
+                  stars=[(-9, 6.5, 2.8), (-4.5, 7.5, 2.0), (-1.5, 0.5, 2.6), (6.5, -1.5, 2.3),
+                         (-0.5, -9.5, 3.1)],
+                  lines="12 23 34 35"),
+    PlacedDrawing("Serrivo", "a serpent", lon=176, lat=39, size=1,
+                  stars=[(-18.5, 0.5, 0.54), (-15, 5, 2.9), (-9, 3.8, 2.6), (-5, -2.8, 2.8),
+                         (0.8, -4, 2.4), (6, 1.8, 3.0), (12, 3, 2.7), (18.5, -2.2, 3.3)],
+                  lines="12 23 34 45 56 67 78"),
+    PlacedDrawing("Cathrel", "a gate", lon=235, lat=37, size=1.05,
+                  stars=[(-6, -8, 2.3), (-5.5, 6, 1.7), (5.5, 6.5, 1.8), (6.5, -8, 2.5)],
+                  lines="12 23 34"),
+    PlacedDrawing("Raumel", "a crown", lon=286, lat=42, size=1.05,
+                  stars=[(-9, 5, 2.0), (-5, -5, 2.5), (0, 6, 1.0), (5, -5, 2.6), (9, 5.5, 2.2)],
+                  lines="12 23 34 45 24"),
+    PlacedDrawing("Ulvane", "a hanging lantern", lon=332, lat=43, size=1.1,
+                  stars=[(0, 9.5, 2.7), (0, 4.5, 3.4), (-4.5, -1.5, 2.5), (0, -7.5, 0.8),
+                         (4.5, -1.5, 2.6)],
+                  lines="12 23 34 45 52"),
+    PlacedDrawing("Dronac", "a hammer", lon=35, lat=64, size=1,
+                  stars=[(-5.5, 6, 2.2), (0, 6.8, 2.9), (5.5, 7.5, 2.3), (-0.5, -8, 1.8)],
+                  lines="12 23 24"),
+    PlacedDrawing("Estrim", "a ladder", lon=144, lat=60, size=1,
+                  stars=[(-4.5, -9, 2.1), (-3.5, 0, 3.4), (-2.8, 8, 2.6), (2.8, 7.5, 2.7),
+                         (3.3, -0.5, 3.5), (4.5, -9.5, 2.4)],
+                  lines="12 23 34 45 56 25"),
+    PlacedDrawing("Tassum", "a goblet", lon=193, lat=70, size=1,
+                  stars=[(-5.5, 7, 2.4), (5.5, 7.5, 2.2), (0, -0.5, 3.0), (0.3, -8, 1.9)],
+                  lines="12 23 31 34"),
+    PlacedDrawing("Zelmi", "a swallow", lon=252, lat=66, size=1.05,
+                  stars=[(-8, 4, 2.6), (0, -3, 1.7), (8.5, 5, 2.8)],
+                  lines="12 23"),
+    PlacedDrawing("Vellio", "a bent reed", lon=320, lat=74, size=1,
+                  stars=[(-1.5, -9.5, 2.3), (-0.5, 1, 3.3), (5, 8.5, 2.5)],
+                  lines="12 23"),
+    PlacedDrawing("Jorva", "a fish", lon=18, lat=-30, size=1.12,
+                  stars=[(-9.5, 0, 1.4), (0, 5, 2.8), (9, -4.5, 2.6), (9.5, 4.5, 2.5),
+                         (0.3, -4.5, 2.9)],
+                  lines="12 23 34 45 51"),
+    PlacedDrawing("Yorrum", "a plough", lon=75, lat=-30, size=1.1,
+                  stars=[(9.5, 6.5, 2.4), (3, -2, 2.9), (-3, -7, 1.8), (-9.5, 3, 2.2)],
+                  lines="12 23 24"),
+    PlacedDrawing("Trefal", "a hay-fork", lon=128, lat=-29, size=1.1,
+                  stars=[(-5, 8, 2.5), (0, 9, 2.2), (5, 8, 2.6), (0, 1, 3.2), (0.5, -10, 1.9)],
+                  lines="14 24 34 45"),
+    PlacedDrawing("Okrim", "a sickle", lon=182, lat=-29, size=1.25,
+                  stars=[(0, -9, 2.3), (0, -1.5, 3.0), (6, 4, 2.6), (1.5, 9.5, 1.6)],
+                  lines="12 23 34"),
+    PlacedDrawing("Ombrac", "an anchor", lon=230, lat=-33, size=1.1,
+                  stars=[(0, 9, 2.1), (0, -7.5, 1.2), (-7.5, -1.5, 2.6), (7.5, -1.5, 2.5)],
+                  lines="12 23 24"),
+    PlacedDrawing("Tirrem", "a sail", lon=277, lat=-32, size=1.05,
+                  stars=[(-5, -7, 2.2), (-3.5, 9, 1.8), (7.5, -5.5, 2.4)],
+                  lines="12 23 31"),
+    PlacedDrawing("Sabrel", "an hour-glass", lon=327, lat=-29, size=1.05,
+                  stars=[(-5, 8, 2.0), (5, 8.5, 2.3), (-5.5, -8, 2.4), (5.5, -8.5, 1.9)],
+                  lines="12 23 34 41"),
+    PlacedDrawing("Iskrel", "a spear", lon=35, lat=-63, size=1,
+                  stars=[(-11, -2.5, 2.6), (5, 1, 3.1), (10.5, 2.6, 1.5)],
+                  lines="12 23"),
+    PlacedDrawing("Selvo", "a tent", lon=132, lat=-67, size=1.05,
+                  stars=[(-6, -6, 2.7), (0, 7, 1.7), (6.5, -6, 2.6)],
+                  lines="12 23"),
+    PlacedDrawing("Dalmi", "a needle", lon=304, lat=-69, size=1.5,
+                  stars=[(0, 5, 1.6), (0.6, -5, 2.8)],
+                  lines="12"),
+    PlacedDrawing("Duvi", "two lamps side by side", lon=211, lat=-71, size=1.3,
+                  stars=[(-3.5, -0.5, 1.9), (3.5, 0.8, 2.1)],
+                  lines="12"),
+]
