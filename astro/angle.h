@@ -19,7 +19,8 @@ inline double fractionOfTurn(double revolutions) {
   return revolutions - std::floor(revolutions);
 }
 
-/// The angle of a uniform motion after `revolutions` turns, in [0, 2π).
+/// The angle of a uniform motion after `revolutions` turns, in [0, 2π); a hair below a whole turn
+/// rounds to 2π itself.
 inline double meanAngle(double revolutions) {
   return fractionOfTurn(revolutions) * twoPi;
 }

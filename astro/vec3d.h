@@ -26,7 +26,8 @@ struct Vec3D {
   /// Unit vector from two angles, both kept exactly as given; `r` stays 0.
   Vec3D(double phiAngle, double thetaAngle);
 
-  /// Vector from components: `phi` comes out in [0, 2π), `r` is the length.
+  /// Vector from components: `phi` comes out in [0, 2π) (a hair below 0 rounds to 2π itself), `r`
+  /// is the length.
   Vec3D(double x, double y, double z);
 };
 
@@ -41,7 +42,7 @@ std::array<double, 3> product(const RotationMatrix& matrix, const std::array<dou
 /// The vector in the turned frame, its spherical angles computed anew from the components.
 Vec3D rotated(const Vec3D& vector, const RotationMatrix& matrix);
 
-/// The longitude-like angle of a Cartesian direction, in [0, 2π); 0 on the z axis.
+/// The longitude-like angle of a Cartesian direction, as in Vec3D; 0 on the z axis.
 double longitudeOf(const std::array<double, 3>& v);
 
 /// Between the ecliptic and the equatorial frame, which share their x axis.

@@ -113,11 +113,10 @@ void drawNatalRows(SvgWriter& svg, const Nativity& nativity) {
 }  // namespace
 
 double separation(double a, double b) {
-  constexpr double manyTurns = 1000.0 * unitsPerTurn;
-  double units = std::abs(a - b) * unitsPerTurn / astro::twoPi;
-  if (units > manyTurns) {
-    units = std::fmod(units, unitsPerTurn);
-  }
+  constexpr double manyTurns = 1000.0 * astro::twoPi;
+  const double apart = std::abs(a - b);
+  const double angle = apart > manyTurns ? std::fmod(apart, astro::twoPi) : apart;
+  double units = angle * unitsPerTurn / astro::twoPi;
   while (units > unitsPerTurn) {
     units -= unitsPerTurn;
   }

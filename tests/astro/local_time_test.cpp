@@ -1,0 +1,141 @@
+#include "astro/local_time.h"
+
+#include <cmath>
+#include <cstdio>
+#include <gtest/gtest.h>
+#include <rapidcheck/gtest.h>
+
+#include "astro/calendar.h"
+#include "astro/horizon.h"
+#include "astro/sun.h"
+#include "tests/support/random_sky.h"
+
+namespace veyruna {
+namespace {
+
+using astro::localBaseTime;
+using astro::localClockLabel;
+using astro::standardBaseTime;
+using tests::inRadians;
+
+/// Minutes after local midnight that a clock label reads.
+double minutesOf(const std::string& clock) {
+  int hours = -1;
+  int minutes = -1;
+  const int fields = std::sscanf(clock.c_str(), "%2d:%2d", &hours, &minutes);
+  EXPECT_EQ(fields, 2) << clock;
+  EXPECT_EQ(clock.size(), 5U);
+  EXPECT_TRUE(hours >= 0 && hours < 24 && minutes >= 0 && minutes < 60) << clock;
+  return hours * 60.0 + minutes;
+}
+
+/// The signed distance of two clock readings in minutes, across midnight where that is shorter.
+double minutesApart(double a, double b) {
+  return std::remainder(a - b, 1440.0);
+}
+
+/// Minutes that local time at longitude 0 is ahead of standard time around a base time.
+double localAheadAt(double t) {
+  const double hour = std::floor((t + 0.5 - std::floor(t + 0.5)) * 24.0);
+  const auto day = static_cast<std::int64_t>(std::floor(t + 0.5));
+  return (standardBaseTime(1, 0, day, hour) - localBaseTime(1, 0, day, hour, 0.0)) * 1440.0;
+}
+
+/// The base time at which the mean sun stands that many quarters of the ecliptic after year 300.
+double quarterOfTheYear(double quarters) {
+  return 0.5 + (300.0 + quarters / 4.0) / astro::sunMeanMotion;
+}
+
+// Noon of the mean sun at longitude 0 comes two minutes before noon of standard time, half the
+// sun's daily motion; the rest is what the tilt of the ecliptic does.
+constexpr double meanSunMinutes = 2.0;
+
+TEST(LocalTime, AtEquinoxesAndSolsticesTheTiltMakesNoDifference) {
+  for (const double quarter : {0.0, 1.0, 2.0, 3.0}) {
+    EXPECT_NEAR(localAheadAt(quarterOfTheYear(quarter)), meanSunMinutes, 0.1) << quarter;
+  }
+}
+
+TEST(LocalTime, BetweenThemTheTiltMakesUpToEightMinutes) {
+  // Right ascension and longitude part by at most about tan²(ε / 2) radians.
+  const double tangent = std::tan(astro::obliquity / 2.0);
+  const double most = tangent * tangent * 1440.0 / astro::twoPi;
+  EXPECT_NEAR(localAheadAt(quarterOfTheYear(0.5)), meanSunMinutes + most, 0.3);
+  EXPECT_NEAR(localAheadAt(quarterOfTheYear(1.5)), meanSunMinutes - most, 0.3);
+  EXPECT_NEAR(localAheadAt(quarterOfTheYear(2.5)), meanSunMinutes + most, 0.3);
+  EXPECT_NEAR(localAheadAt(quarterOfTheYear(3.5)), meanSunMinutes - most, 0.3);
+}
+
+TEST(LocalTime, TheSameHourHalfAWorldAwayIsHalfADayAway) {
+  for (const double hour : {0.0, 6.0, 12.5, 23.75}) {
+    const double east = localBaseTime(720, 3, 4, hour, inRadians(90.0));
+    const double west = localBaseTime(720, 3, 4, hour, inRadians(-90.0));
+    EXPECT_NEAR(west - east, 0.5, 0.001);
+    const double zero = localBaseTime(720, 3, 4, hour, 0.0);
+    const double seam = localBaseTime(720, 3, 4, hour, inRadians(180.0));
+    EXPECT_NEAR(std::abs(seam - zero), 0.5, 0.001);
+  }
+}
+
+TEST(LocalTime, AtLocalNoonTheSunStandsInTheSouth) {
+  const double longitude = inRadians(25.3);
+  const double t = localBaseTime(1243, 6, 18, 12.0, longitude);
+  const astro::Vec3D sun = astro::toHorizon(astro::Sun(t).eq, t, longitude, inRadians(60.0));
+  EXPECT_NEAR(tests::apart(sun.phi, 0.0), 0.0, 1e-4);
+  EXPECT_EQ(localClockLabel(t, longitude), "12:00");
+}
+
+TEST(LocalTime, EastOfTheReferenceMeridianClocksAreAhead) {
+  EXPECT_NEAR(minutesApart(minutesOf(localClockLabel(1000.25, inRadians(15.0))),
+                           minutesOf(localClockLabel(1000.25, 0.0))),
+              60.0, 1.0);
+}
+
+TEST(LocalTime, TheLabelOfAPhaseCarriesBothClocks) {
+  EXPECT_EQ(astro::calendarLabelWithLocalClock(258840.0, 1.0),
+            "720-01-01 12:00 OST  (local " + localClockLabel(258840.0, 1.0) + ")");
+}
+
+TEST(LocalTime, TheMinuteBeforeMidnightRoundsToMidnight) {
+  // A clock never reads 24:00.
+  const double midnight = localBaseTime(720, 0, 0, 24.0, 0.5);
+  EXPECT_EQ(localClockLabel(midnight, 0.5), "00:00");
+  EXPECT_EQ(localClockLabel(midnight - 10.0 / 86400.0, 0.5), "00:00");
+  EXPECT_EQ(localClockLabel(midnight - 50.0 / 86400.0, 0.5), "23:59");
+}
+
+RC_GTEST_PROP(LocalTime, TheLocalClockReadsTheHourAskedFor, ()) {
+  const double hour = *tests::between(0.0, 24.0);
+  const double longitude = *tests::longitudes();
+  const double t = localBaseTime(*tests::wholeBetween(1, 3000), *tests::wholeBetween(0, 11),
+                                 *tests::wholeBetween(0, 29), hour, longitude);
+  // The search ends within 1e-5 rad, a seventh of a second; the rest is the rounding to minutes.
+  RC_ASSERT(std::abs(minutesApart(minutesOf(localClockLabel(t, longitude)), hour * 60.0)) <= 0.51);
+}
+
+RC_GTEST_PROP(LocalTime, LiesWithinHalfADayAndTheTiltOfTheStandardHour, ()) {
+  const std::int64_t year = *tests::wholeBetween(1, 3000);
+  const double hour = *tests::between(0.0, 24.0);
+  const double local = localBaseTime(year, 5, 6, hour, *tests::longitudes());
+  RC_ASSERT(std::abs(local - standardBaseTime(year, 5, 6, hour)) < 0.51);
+}
+
+RC_GTEST_PROP(LocalTime, FifteenDegreesAreAnHour, ()) {
+  const double t = *tests::momentsWithin(1e6);
+  const double longitude = *tests::longitudes();
+  const double here = minutesOf(localClockLabel(t, longitude));
+  const double there = minutesOf(localClockLabel(t, longitude + inRadians(15.0)));
+  RC_ASSERT(std::abs(minutesApart(there, here) - 60.0) <= 1.0);
+}
+
+RC_GTEST_PROP(LocalTime, TheClockReadsTheHourAngleOfTheSun, ()) {
+  const double t = *tests::momentsWithin(1e6);
+  const double longitude = *tests::longitudes();
+  // From the north pole the azimuth is the hour angle itself.
+  const astro::Vec3D sun = astro::toHorizon(astro::Sun(t).eq, t, longitude, astro::halfPi);
+  const double minutes = (sun.phi * 12.0 / astro::pi + 12.0) * 60.0;
+  RC_ASSERT(std::abs(minutesApart(minutesOf(localClockLabel(t, longitude)), minutes)) <= 0.5001);
+}
+
+}  // namespace
+}  // namespace veyruna
