@@ -1,0 +1,212 @@
+#pragma once
+
+#include <QList>
+#include <QObject>
+#include <QString>
+#include <QStringList>
+#include <QUuid>
+#include <memory>
+#include <optional>
+#include <variant>
+
+#include "model/body_position.h"
+#include "model/calculation.h"
+#include "model/city_preset.h"
+#include "model/executor.h"
+#include "model/location_error.h"
+#include "model/saved_locations.h"
+#include "model/settings_store.h"
+#include "model/stored_settings.h"
+
+namespace veyruna::model {
+
+/// The one object the interface binds to: the observer's place and moment, the saved places, and
+/// every computed output. Inputs are stored whenever they are set and never start a calculation;
+/// outputs change only when one is published. To be used on the interface thread alone.
+class AstronomyModel : public QObject {
+  Q_OBJECT
+
+  Q_PROPERTY(QList<veyruna::model::CityPreset> cities READ cities NOTIFY citiesChanged)
+  Q_PROPERTY(QStringList months READ months CONSTANT)
+  Q_PROPERTY(
+      QUuid selectedCityID READ selectedCityID WRITE setSelectedCityID NOTIFY selectedCityIDChanged)
+  Q_PROPERTY(double manualLatDeg READ manualLatDeg WRITE setManualLatDeg NOTIFY manualLatDegChanged)
+  Q_PROPERTY(
+      double manualLongDeg READ manualLongDeg WRITE setManualLongDeg NOTIFY manualLongDegChanged)
+  Q_PROPERTY(bool latNorth READ latNorth WRITE setLatNorth NOTIFY latNorthChanged)
+  Q_PROPERTY(bool longWest READ longWest WRITE setLongWest NOTIFY longWestChanged)
+  Q_PROPERTY(qint64 monthIndex READ monthIndex WRITE setMonthIndex NOTIFY monthIndexChanged)
+  Q_PROPERTY(qint64 dayIndex READ dayIndex WRITE setDayIndex NOTIFY dayIndexChanged)
+  Q_PROPERTY(qint64 year READ year WRITE setYear NOTIFY yearChanged)
+  Q_PROPERTY(double hour READ hour WRITE setHour NOTIFY hourChanged)
+  Q_PROPERTY(bool useLocalTime READ useLocalTime WRITE setUseLocalTime NOTIFY useLocalTimeChanged)
+  Q_PROPERTY(QString starMapSVG READ starMapSVG NOTIFY starMapSVGChanged)
+  Q_PROPERTY(QString horoscopeSVG READ horoscopeSVG NOTIFY horoscopeSVGChanged)
+  Q_PROPERTY(QString basicTableHourly READ basicTableHourly NOTIFY basicTableHourlyChanged)
+  Q_PROPERTY(QString basicTableMonthly READ basicTableMonthly NOTIFY basicTableMonthlyChanged)
+  Q_PROPERTY(QString conjunctionDaily READ conjunctionDaily NOTIFY conjunctionDailyChanged)
+  Q_PROPERTY(QString conjunctionYearly READ conjunctionYearly NOTIFY conjunctionYearlyChanged)
+  Q_PROPERTY(QList<veyruna::model::BodyPosition> positions READ positions NOTIFY positionsChanged)
+  Q_PROPERTY(QString dateLabel READ dateLabel NOTIFY dateLabelChanged)
+  Q_PROPERTY(QString nextFullMoonLabel READ nextFullMoonLabel NOTIFY nextFullMoonLabelChanged)
+  Q_PROPERTY(QString nextNewMoonLabel READ nextNewMoonLabel NOTIFY nextNewMoonLabelChanged)
+  Q_PROPERTY(bool isCalculating READ isCalculating NOTIFY isCalculatingChanged)
+  Q_PROPERTY(std::optional<QString> errorMessage READ errorMessage NOTIFY errorMessageChanged)
+  Q_PROPERTY(bool horoscopeBlackAndWhite READ horoscopeBlackAndWhite WRITE setHoroscopeBlackAndWhite
+                 NOTIFY horoscopeBlackAndWhiteChanged)
+  Q_PROPERTY(std::optional<double> lastHoroscopeBasetime READ lastHoroscopeBasetime NOTIFY
+                 lastHoroscopeBasetimeChanged)
+  Q_PROPERTY(
+      double lastHoroscopeLatitude READ lastHoroscopeLatitude NOTIFY lastHoroscopeLatitudeChanged)
+  Q_PROPERTY(double lastHoroscopeLongitude READ lastHoroscopeLongitude NOTIFY
+                 lastHoroscopeLongitudeChanged)
+
+ public:
+  /// Everything from outside.
+  struct Surroundings {
+    std::shared_ptr<SettingsStore> settings;
+    std::optional<QString> locationsPath;  ///< nothing: places are not kept
+    IdSource newId;
+    Executor executor;
+  };
+  /// The user's own preferences and places, random ids and the thread pool.
+  static Surroundings standardSurroundings();
+
+  /// Reads the ten preferences and loads the saved places.
+  explicit AstronomyModel(Surroundings surroundings, QObject* parent = nullptr);
+
+  // The observer's inputs. A setter stores its whole group, whether or not the value changes, and
+  // signals only a change. Nothing is clamped.
+  [[nodiscard]] const QList<CityPreset>& cities() const { return locations_.cities(); }
+  [[nodiscard]] QStringList months() const;
+  [[nodiscard]] QUuid selectedCityID() const { return place_.selectedCityID; }
+  [[nodiscard]] double manualLatDeg() const { return place_.manualLatDeg; }
+  [[nodiscard]] double manualLongDeg() const { return place_.manualLongDeg; }
+  [[nodiscard]] bool latNorth() const { return place_.latNorth; }
+  [[nodiscard]] bool longWest() const { return place_.longWest; }
+  [[nodiscard]] qint64 monthIndex() const { return date_.monthIndex; }
+  [[nodiscard]] qint64 dayIndex() const { return date_.dayIndex; }
+  [[nodiscard]] qint64 year() const { return date_.year; }
+  [[nodiscard]] double hour() const { return date_.hour; }
+  [[nodiscard]] bool useLocalTime() const { return date_.useLocalTime; }
+  void setSelectedCityID(const QUuid& id);
+  void setManualLatDeg(double degrees);
+  void setManualLongDeg(double degrees);
+  void setLatNorth(bool isNorth);
+  void setLongWest(bool isWest);
+  void setMonthIndex(qint64 index);
+  void setDayIndex(qint64 index);
+  void setYear(qint64 year);
+  void setHour(double hour);
+  void setUseLocalTime(bool isLocal);
+
+  /// Latitude in radians, north positive: of the manual fields, or of the selected place; 0 where
+  /// that place is gone.
+  [[nodiscard]] double effectiveLatitude() const;
+  /// Longitude in radians, east positive, likewise.
+  [[nodiscard]] double effectiveLongitude() const;
+  /// The moment of the inputs, in days. Where it or the place is beyond what is calculated, the
+  /// standard-time sum as it stands.
+  [[nodiscard]] double baseTime() const;
+
+  /// Saves the manual fields' place under a name, whatever is selected. The caller selects it.
+  std::variant<QUuid, LocationError> addCity(const QString& name);
+  /// Deletes a saved place; where it was selected, "Manual" is.
+  void deleteCity(const QUuid& id);
+
+  // The outputs of the last calculation; empty before the first.
+  [[nodiscard]] const QString& starMapSVG() const { return starMapSVG_; }
+  [[nodiscard]] const QString& horoscopeSVG() const { return horoscopeSVG_; }
+  [[nodiscard]] const QString& basicTableHourly() const { return basicTableHourly_; }
+  [[nodiscard]] const QString& basicTableMonthly() const { return basicTableMonthly_; }
+  [[nodiscard]] const QString& conjunctionDaily() const { return conjunctionDaily_; }
+  [[nodiscard]] const QString& conjunctionYearly() const { return conjunctionYearly_; }
+  [[nodiscard]] const QList<BodyPosition>& positions() const { return positions_; }
+  [[nodiscard]] const QString& dateLabel() const { return dateLabel_; }
+  [[nodiscard]] const QString& nextFullMoonLabel() const { return nextFullMoonLabel_; }
+  [[nodiscard]] const QString& nextNewMoonLabel() const { return nextNewMoonLabel_; }
+  [[nodiscard]] bool isCalculating() const { return isCalculating_; }
+  [[nodiscard]] const std::optional<QString>& errorMessage() const { return errorMessage_; }
+  [[nodiscard]] bool horoscopeBlackAndWhite() const { return horoscopeBlackAndWhite_; }
+  [[nodiscard]] std::optional<double> lastHoroscopeBasetime() const {
+    return lastHoroscopeBasetime_;
+  }
+  [[nodiscard]] double lastHoroscopeLatitude() const { return lastHoroscopeLatitude_; }
+  [[nodiscard]] double lastHoroscopeLongitude() const { return lastHoroscopeLongitude_; }
+  /// Not stored. The caller redraws the horoscope.
+  void setHoroscopeBlackAndWhite(bool isBlackAndWhite);
+
+  /// Computes every output of the inputs in the background and publishes them together. Does
+  /// nothing while a calculation runs. A moment or place beyond what is calculated only sets
+  /// errorMessage.
+  void recalculate();
+
+  /// Draws the horoscope of the last calculation's moment and place again, in colour or black and
+  /// white as the flag says. Does nothing before the first calculation.
+  void regenerateHoroscope();
+
+ Q_SIGNALS:
+  void citiesChanged();
+  void selectedCityIDChanged();
+  void manualLatDegChanged();
+  void manualLongDegChanged();
+  void latNorthChanged();
+  void longWestChanged();
+  void monthIndexChanged();
+  void dayIndexChanged();
+  void yearChanged();
+  void hourChanged();
+  void useLocalTimeChanged();
+  void starMapSVGChanged();
+  void horoscopeSVGChanged();
+  void basicTableHourlyChanged();
+  void basicTableMonthlyChanged();
+  void conjunctionDailyChanged();
+  void conjunctionYearlyChanged();
+  void positionsChanged();
+  void dateLabelChanged();
+  void nextFullMoonLabelChanged();
+  void nextNewMoonLabelChanged();
+  void isCalculatingChanged();
+  void errorMessageChanged();
+  void horoscopeBlackAndWhiteChanged();
+  void lastHoroscopeBasetimeChanged();
+  void lastHoroscopeLatitudeChanged();
+  void lastHoroscopeLongitudeChanged();
+
+ private:
+  using Signal = void (AstronomyModel::*)();
+
+  template <class Value>
+  void assign(Value& field, const Value& value, Signal changed);
+  template <class Group, class Value>
+  void setInput(Group& group, Value Group::*field, const Value& value, Signal changed);
+  void publish(const CalculationResult& result);
+
+  std::shared_ptr<SettingsStore> settings_;
+  IdSource newId_;
+  Executor executor_;
+
+  LocationSettings place_;
+  DateSettings date_;
+  SavedLocations locations_;
+
+  QString starMapSVG_;
+  QString horoscopeSVG_;
+  QString basicTableHourly_;
+  QString basicTableMonthly_;
+  QString conjunctionDaily_;
+  QString conjunctionYearly_;
+  QList<BodyPosition> positions_;
+  QString dateLabel_;
+  QString nextFullMoonLabel_;
+  QString nextNewMoonLabel_;
+  bool isCalculating_ = false;
+  std::optional<QString> errorMessage_;
+  bool horoscopeBlackAndWhite_ = false;
+  std::optional<double> lastHoroscopeBasetime_;
+  double lastHoroscopeLatitude_ = 0.0;
+  double lastHoroscopeLongitude_ = 0.0;
+};
+
+}  // namespace veyruna::model

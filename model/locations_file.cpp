@@ -1,0 +1,64 @@
+#include "model/locations_file.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QLockFile>
+#include <QSaveFile>
+#include <QStandardPaths>
+
+#include "model/keep_aside.h"
+#include "model/locations_text.h"
+
+namespace veyruna::model {
+
+std::optional<QString> standardLocationsPath() {
+  const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+  if (folder.isEmpty()) {
+    return std::nullopt;
+  }
+  return folder + QStringLiteral("/VeyrunaAstro/locations.json");
+}
+
+LocationsFile::Reading LocationsFile::read() const {
+  const QFileInfo info(path_);
+  if (!info.exists() && !info.isSymLink()) {
+    return {State::missing, {}};
+  }
+  QFile file(path_);
+  if (!info.isFile() || !file.open(QIODevice::ReadOnly)) {
+    return {State::unreadable, {}};
+  }
+  const QByteArray text = file.readAll();
+  if (file.error() != QFileDevice::NoError) {
+    return {State::unreadable, {}};
+  }
+  const std::optional<QList<CityPreset>> places = placesIn(text);
+  return places ? Reading{State::whole, *places} : Reading{State::unreadable, {}};
+}
+
+bool LocationsFile::write(const QList<CityPreset>& places) const {
+  QSaveFile file(path_);
+  const QByteArray text = locationsText(places);
+  return makeFolder() && file.open(QIODevice::WriteOnly) && file.write(text) == text.size() &&
+         file.commit();
+}
+
+bool LocationsFile::keepAside() const {
+  return QDir().rename(path_, unreadableName(path_));
+}
+
+std::unique_ptr<QLockFile> LocationsFile::lock() const {
+  constexpr int patienceMilliseconds = 2000;
+  if (!makeFolder()) {
+    return nullptr;
+  }
+  auto lock = std::make_unique<QLockFile>(path_ + QStringLiteral(".lock"));
+  return lock->tryLock(patienceMilliseconds) ? std::move(lock) : nullptr;
+}
+
+bool LocationsFile::makeFolder() const {
+  return QDir().mkpath(QFileInfo(path_).path());
+}
+
+}  // namespace veyruna::model

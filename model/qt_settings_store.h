@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QSettings>
+
+#include "model/settings_store.h"
+
+namespace veyruna::model {
+
+/// The preferences in the platform's own form and place. What is stored is on disk when the event
+/// loop's turn ends, or when the store is destroyed.
+/// A preferences file that cannot be read in full is copied aside as "….unreadable.conf" (numbered
+/// where that exists) before anything is written over it; where that fails, nothing is written.
+class QtSettingsStore final : public SettingsStore {
+ public:
+  /// The preferences file in the user's configuration folder.
+  QtSettingsStore();
+  /// A preferences file of its own, in the form of an INI file.
+  explicit QtSettingsStore(const QString& path);
+
+  [[nodiscard]] QVariant stored(const QString& key) const override;
+  void store(const std::vector<std::pair<QString, QVariant>>& group) override;
+
+ private:
+  [[nodiscard]] bool mayWrite();
+
+  QSettings settings_;
+  bool needsCopy_;
+};
+
+}  // namespace veyruna::model

@@ -1,0 +1,112 @@
+#include "model/stored_settings.h"
+
+#include <concepts>
+#include <optional>
+#include <vector>
+
+#include "astro/angle.h"
+#include "model/stored_value.h"
+
+namespace veyruna::model {
+
+namespace {
+
+// How each type of field is told from what is stored, and how it is stored.
+std::optional<QUuid> fromStored(const QVariant& stored, const QUuid* /*type*/) {
+  const std::optional<QString> text = storedText(stored);
+  const QUuid id = text ? idOf(*text) : QUuid();
+  return id.isNull() ? std::nullopt : std::optional(id);
+}
+std::optional<double> fromStored(const QVariant& stored, const double* /*type*/) {
+  return storedDouble(stored);
+}
+std::optional<bool> fromStored(const QVariant& stored, const bool* /*type*/) {
+  return storedSwitch(stored);
+}
+std::optional<qint64> fromStored(const QVariant& stored, const qint64* /*type*/) {
+  return storedInteger(stored);
+}
+
+QVariant toStored(const QUuid& id) {
+  return canonicalText(id);
+}
+QVariant toStored(double number) {
+  return number;
+}
+QVariant toStored(bool isOn) {
+  return isOn;
+}
+QVariant toStored(qint64 number) {
+  return number;
+}
+
+/// The one table of keys: calls `visit(key, field)` for every field of a group, in order.
+template <class Settings, class Visit>
+requires std::same_as<std::remove_const_t<Settings>, LocationSettings>
+void forEachField(Settings& location, Visit visit) {
+  visit("AstronomyModel.selectedCityID", location.selectedCityID);
+  visit("AstronomyModel.manualLatDeg", location.manualLatDeg);
+  visit("AstronomyModel.manualLongDeg", location.manualLongDeg);
+  visit("AstronomyModel.latNorth", location.latNorth);
+  visit("AstronomyModel.longWest", location.longWest);
+}
+template <class Settings, class Visit>
+requires std::same_as<std::remove_const_t<Settings>, DateSettings>
+void forEachField(Settings& date, Visit visit) {
+  visit("AstronomyModel.monthIndex", date.monthIndex);
+  visit("AstronomyModel.dayIndex", date.dayIndex);
+  visit("AstronomyModel.year", date.year);
+  visit("AstronomyModel.hour", date.hour);
+  visit("AstronomyModel.useLocalTime", date.useLocalTime);
+}
+
+template <class Settings>
+Settings readSettings(const SettingsStore& store) {
+  Settings settings;
+  forEachField(settings, [&store](const char* key, auto& field) {
+    const auto stored = fromStored(store.stored(QString::fromLatin1(key)), &field);
+    if (stored) {
+      field = *stored;
+    }
+  });
+  return settings;
+}
+
+template <class Settings>
+void storeGroup(SettingsStore& store, const Settings& settings) {
+  std::vector<std::pair<QString, QVariant>> group;
+  forEachField(settings, [&group](const char* key, const auto& field) {
+    group.emplace_back(QString::fromLatin1(key), toStored(field));
+  });
+  store.store(group);
+}
+
+}  // namespace
+
+double manualLatitude(const LocationSettings& location) {
+  const double magnitude = location.manualLatDeg * astro::pi / 180.0;
+  return location.latNorth ? magnitude : -magnitude;
+}
+
+double manualLongitude(const LocationSettings& location) {
+  const double magnitude = location.manualLongDeg * astro::pi / 180.0;
+  return location.longWest ? -magnitude : magnitude;
+}
+
+LocationSettings readLocationSettings(const SettingsStore& store) {
+  return readSettings<LocationSettings>(store);
+}
+
+DateSettings readDateSettings(const SettingsStore& store) {
+  return readSettings<DateSettings>(store);
+}
+
+void storeSettings(SettingsStore& store, const LocationSettings& location) {
+  storeGroup(store, location);
+}
+
+void storeSettings(SettingsStore& store, const DateSettings& date) {
+  storeGroup(store, date);
+}
+
+}  // namespace veyruna::model
