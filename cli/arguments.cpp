@@ -21,15 +21,21 @@ namespace {
                    std::string(accepted));
 }
 
-/// All of `text` as a number, or nothing. A leading plus is understood, other notations are not.
+/// All of `text` as a number, or nothing. A leading plus and a typographic minus are understood,
+/// other notations are not.
 template <class Number>
 std::optional<Number> numberOf(std::string_view text) {
-  if (text.size() > 1 && text.front() == '+' && text[1] != '-') {
-    text.remove_prefix(1);
+  constexpr std::string_view minusSign = "−";
+  std::string plain(text);
+  if (text.starts_with(minusSign)) {
+    plain.replace(0, minusSign.size(), "-");
+  } else if (text.size() > 1 && text.front() == '+' && text[1] != '-') {
+    plain.erase(0, 1);
   }
   Number number{};
-  const auto read = std::from_chars(text.data(), text.data() + text.size(), number);
-  if (read.ec != std::errc{} || read.ptr != text.data() + text.size()) {
+  const char* const end = plain.data() + plain.size();
+  const auto read = std::from_chars(plain.data(), end, number);
+  if (read.ec != std::errc{} || read.ptr != end) {
     return std::nullopt;
   }
   return number;

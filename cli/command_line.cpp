@@ -16,6 +16,7 @@
 #include "cli/documents.h"
 #include "cli/errors.h"
 #include "cli/grammar.h"
+#include "cli/places.h"
 #include "cli/progress.h"
 #include "cli/quoting.h"
 #include "reports/conjunctions.h"
@@ -27,9 +28,9 @@ namespace {
 
 constexpr std::int64_t mostRows = 100'000'000;
 
-/// The first year and the last whose days are within the engine's range.
+/// The first year, and the last that begins within the engine's range.
 constexpr std::int64_t firstYear = 1;
-constexpr std::int64_t lastYear = 2'777'777;
+constexpr std::int64_t lastYear = 2'777'778;
 
 double checkedBaseTime(double baseTime, const std::string& what) {
   if (!(std::abs(baseTime) <= astro::baseTimeLimitDays)) {
@@ -39,9 +40,15 @@ double checkedBaseTime(double baseTime, const std::string& what) {
   return baseTime;
 }
 
+Place placeOf(const Typed& typed) {
+  if (!typed.location.empty()) {
+    return savedPlace(typed.location);
+  }
+  return {readLatitude(typed.latitude), readLongitude(typed.longitude)};
+}
+
 Observer observerOf(const Typed& typed) {
-  const double latitude = readLatitude(typed.latitude);
-  const double longitude = readLongitude(typed.longitude);
+  const auto [latitude, longitude] = placeOf(typed);
   constexpr double limit = astro::baseTimeLimitDays;
   if (!typed.baseTime.empty()) {
     return {readNumber("--base-time", typed.baseTime, -limit, limit), latitude, longitude};
@@ -78,8 +85,9 @@ void writeTable(const Typed& typed, const Observer& observer) {
   }
   const std::int64_t rows = readWholeNumber("--rows", typed.rows, 0, mostRows);
   const double step = readStepDays(typed.step);
-  checkedBaseTime(observer.baseTime + static_cast<double>(rows) * step,
-                  "the last of " + typed.rows + " rows at steps of " + inQuotes(typed.step));
+  checkedBaseTime(
+      observer.baseTime + static_cast<double>(rows) * step,
+      "the last of " + inQuotes(typed.rows) + " rows at steps of " + inQuotes(typed.step));
 
   DocumentWriter writer = writerOf(typed);
   Progress progress(rows + 1, goesToStandardOutput(typed));
@@ -117,11 +125,15 @@ void writeAll(const Typed& typed, const Observer& observer) {
 
 void run(const Grammar& grammar, const Typed& typed) {
   if (typed.command == "help") {
-    writeText({}, grammar.helpText(typed.helpTopic));
+    writeText(typed, grammar.helpText(typed.helpTopic));
     return;
   }
   if (typed.command == "version") {
-    writeText({}, "veyruna " VEYRUNA_VERSION " (build " VEYRUNA_BUILD_NUMBER ")\n");
+    writeText(typed, "veyruna " VEYRUNA_VERSION " (build " VEYRUNA_BUILD_NUMBER ")\n");
+    return;
+  }
+  if (typed.command == "locations") {
+    writeText(typed, savedPlacesText());
     return;
   }
   const Observer observer = observerOf(typed);

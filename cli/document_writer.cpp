@@ -6,6 +6,7 @@
 #include <cstring>
 #include <fcntl.h>
 #include <filesystem>
+#include <poll.h>
 #include <sys/stat.h>
 #include <unistd.h>
 #include <utility>
@@ -23,11 +24,34 @@ constexpr std::size_t bufferSize = 65536;
   throw WriteError("cannot write " + name + ": " + std::strerror(reason));
 }
 
-/// The file a path means once its links are followed; the path itself where it does not exist yet.
-std::string withLinksFollowed(const std::string& path) {
+/// The file a path means once its links are followed, also where the last one leads to nothing yet.
+std::string withLinksFollowed(const std::string& path, const std::string& name) {
+  constexpr int mostLinks = 40;
+  std::filesystem::path target = path;
   std::error_code error;
-  const std::filesystem::path target = std::filesystem::weakly_canonical(path, error);
-  return error ? path : target.string();
+  for (int links = 0; std::filesystem::is_symlink(target, error); ++links) {
+    if (links == mostLinks) {
+      failToWrite(name, ELOOP);
+    }
+    const std::filesystem::path next = std::filesystem::read_symlink(target, error);
+    if (error) {
+      failToWrite(name, error.value());
+    }
+    target = target.parent_path() / next;  // an absolute `next` stands alone
+  }
+  return target.string();
+}
+
+/// Standard output under one of its names in the file system: opened anew, it would begin at the
+/// start of the file that a shell appends to.
+bool isStandardOutput(std::string_view path) {
+  return path == "/dev/stdout" || path == "/dev/fd/1" || path == "/proc/self/fd/1";
+}
+
+/// Waits until a stream that does not block takes more.
+void waitUntilWritable(int descriptor) {
+  pollfd waiting{descriptor, POLLOUT, 0};
+  poll(&waiting, 1, -1);
 }
 
 }  // namespace
@@ -62,7 +86,10 @@ DocumentWriter DocumentWriter::toFile(const std::string& path) {
   if (path.empty() || path.find('\0') != std::string::npos) {
     failToWrite(name, ENOENT);
   }
-  const std::string target = withLinksFollowed(path);
+  if (isStandardOutput(path)) {
+    return toStandardOutput();
+  }
+  const std::string target = withLinksFollowed(path, name);
   struct stat existing {};
   const bool exists = stat(target.c_str(), &existing) == 0;
   if (exists && !S_ISREG(existing.st_mode)) {
@@ -93,7 +120,9 @@ DocumentWriter DocumentWriter::toFile(const std::string& path) {
     failToWrite(name, errno);
   }
   if (exists) {
-    fchmod(file, existing.st_mode & 07777U);
+    // The file stays whose it was, as far as this user may give it away.
+    static_cast<void>(fchown(file, existing.st_uid, existing.st_gid));
+    fchmod(file, existing.st_mode & 0777U);
   }
   return {file, name, Replacement{target, temporary, isNamed}};
 }
@@ -119,6 +148,10 @@ void DocumentWriter::flush() {
     const ssize_t written = ::write(descriptor_, rest.data(), rest.size());
     if (written < 0) {
       if (errno == EINTR) {
+        continue;
+      }
+      if (errno == EAGAIN) {
+        waitUntilWritable(descriptor_);
         continue;
       }
       fail();

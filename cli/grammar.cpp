@@ -12,24 +12,29 @@ namespace veyruna::cli {
 
 namespace {
 
+const std::set<std::string> valueOptions = {"-o",     "--year",      "--month", "--day",
+                                            "--hour", "--base-time", "--lat",   "--long",
+                                            "--rows", "--step",      "--out",   "--location"};
+const std::set<std::string> flags = {"--local", "--bw", "--help", "--version"};
+
 /// "--lat -20" as "--lat=-20": what follows these options is theirs, even with a minus in front.
 std::vector<std::string> withValuesAttached(const std::vector<std::string>& arguments) {
-  static const std::set<std::string> takesValue = {"-o",     "--year",      "--month", "--day",
-                                                   "--hour", "--base-time", "--lat",   "--long",
-                                                   "--rows", "--step",      "--out"};
   std::vector<std::string> attached;
   for (std::size_t i = 0; i < arguments.size(); ++i) {
     const std::string name = arguments[i].substr(0, arguments[i].find('='));
-    if (!takesValue.contains(name)) {
+    const bool isAttached = name.size() < arguments[i].size();
+    if (flags.contains(name) && isAttached) {
+      throw UsageError(inQuotes(arguments[i]) + " is not accepted; " + name + " takes no value");
+    }
+    if (!valueOptions.contains(name)) {
       attached.push_back(arguments[i]);
       continue;
     }
-    const bool isAttached = name.size() < arguments[i].size();
     const std::string given = isAttached                 ? arguments[i].substr(name.size() + 1)
                               : i + 1 < arguments.size() ? arguments[++i]
                                                          : "";
     if (given.empty()) {
-      throw UsageError(name + ": a value is missing");
+      throw UsageError(name + ": a value is missing; veyruna --help says which are accepted");
     }
     attached.push_back(name == "-o" ? name + given : name + "=" + given);
   }
@@ -44,10 +49,9 @@ Grammar::Grammar()
   app_->require_subcommand(0, 1);
   app_->option_defaults()->multi_option_policy(CLI::MultiOptionPolicy::TakeLast);
   app_->allow_extras();
-  app_->set_version_flag("--version", "version");
+  app_->set_version_flag("--version", "version", "Show the version");
   app_->set_help_flag("-h,--help", "Show this help");
   app_->get_formatter()->label("SUBCOMMAND", "COMMAND");
-  app_->get_formatter()->label("Subcommands", "Commands");
   app_->footer("`veyruna help COMMAND` shows an example of each.");
   addMoment();
   addPlace();
@@ -65,7 +69,9 @@ Grammar::Grammar()
   addCommand("all", "Every document, into one folder", " --out campaign")
       ->add_option("--out", typed_.folder, "The folder; made where it is missing")
       ->type_name("DIR");
+  addCommand("locations", "The saved places with their coordinates");
   app_->add_subcommand("help", "Show what a command does, with an example")
+      ->group("Commands")
       ->add_option("COMMAND", typed_.helpTopic, "The command");
 }
 
@@ -87,7 +93,9 @@ const Typed& Grammar::parse(const std::vector<std::string>& arguments) {
     throw UsageError(error.what());
   }
   typed_.command = chosenCommand();
-  refuseTwoMoments();
+  refuseTwoOf("--base-time", typed_.baseTime, {"--year", "--month", "--day", "--hour", "--local"},
+              "moments");
+  refuseTwoOf("--location", typed_.location, {"--lat", "--long"}, "places");
   const std::vector<std::string> extras = app_->remaining(true);
   if (!extras.empty()) {
     refuseExtra(extras.front());
@@ -116,43 +124,40 @@ std::string Grammar::helpText(const std::string& topic) const {
 
 void Grammar::addMoment() {
   const std::string moment = "Moment";
-  app_->add_option("--base-time", typed_.baseTime, "Days since noon of the first day, alone")
+  app_->add_option("--base-time", typed_.baseTime,
+                   "Instead of a date: days since noon of the first day")
       ->type_name("T")
       ->group(moment);
   const auto add = [&](const std::string& name, std::string& typed, const std::string& type,
                        const std::string& description) {
-    app_->add_option(name, typed, description)
-        ->type_name(type)
-        ->capture_default_str()
-        ->group(moment);
+    app_->add_option(name, typed, description)->type_name(type)->group(moment);
   };
-  add("--year", typed_.year, "Y", "Year, from 1");
-  add("--month", typed_.month, "M", "Month, 1 to 12 or its name");
-  add("--day", typed_.day, "D", "Day, 1 to 30");
-  add("--hour", typed_.hour, "H", "Hour, 18.25 or 18:15");
+  add("--year", typed_.year, "Y", "Year, from 1 (720)");
+  add("--month", typed_.month, "M", "Month, 1 to 12 or its name (1)");
+  add("--day", typed_.day, "D", "Day, 1 to 30 (1)");
+  add("--hour", typed_.hour, "H", "Hour, 18.25 or 18:15 (12)");
   app_->add_flag("--local", typed_.isLocal, "The hour is local solar time")->group(moment);
 }
 
 void Grammar::addPlace() {
   const std::string place = "Place";
-  app_->add_option("--lat", typed_.latitude, "Latitude, 40.5 or 40.5N, south negative")
+  app_->add_option("--lat", typed_.latitude, "Latitude, 40.5N or 40.5, south negative (40.5)")
       ->type_name("DEG")
-      ->capture_default_str()
       ->group(place);
-  app_->add_option("--long", typed_.longitude, "Longitude, 20.9W or -20.9, west negative")
+  app_->add_option("--long", typed_.longitude, "Longitude, 20.9W or -20.9, west negative (-20.9)")
       ->type_name("DEG")
-      ->capture_default_str()
+      ->group(place);
+  app_->add_option("--location", typed_.location, "Instead of both: the name of a saved place")
+      ->type_name("NAME")
       ->group(place);
 }
 
-void Grammar::refuseTwoMoments() const {
-  if (typed_.baseTime.empty()) {
-    return;
-  }
-  for (const char* const option : {"--year", "--month", "--day", "--hour", "--local"}) {
-    if (app_->get_option(option)->count() > 0) {
-      throw UsageError("--base-time " + inQuotes(typed_.baseTime) + " and " + option +
-                       " name two moments; give one");
+void Grammar::refuseTwoOf(const char* whole, const std::string& typed,
+                          std::initializer_list<const char*> parts, const char* what) const {
+  for (const char* const part : parts) {
+    if (!typed.empty() && app_->get_option(part)->count() > 0) {
+      throw UsageError(std::string(whole) + " " + inQuotes(typed) + " and " + part + " name two " +
+                       what + "; give one");
     }
   }
 }
@@ -160,9 +165,9 @@ void Grammar::refuseTwoMoments() const {
 CLI::App* Grammar::addCommand(std::string_view name, std::string_view summary,
                               const std::string& exampleEnd) {
   const std::string word(name);
-  CLI::App* const command = app_->add_subcommand(word, std::string(summary));
+  CLI::App* const command = app_->add_subcommand(word, std::string(summary))->group("Commands");
   command->footer(
-      "The moment and the place are given as `veyruna --help` says.\n\nExample:\n"
+      "`veyruna --help` says how the moment, the place and a file (-o) are given.\n\nExample:\n"
       "  veyruna --year 720 --month Dovri --day 10 --hour 18:15 --lat 40.5N --long 20.9W " +
       word + exampleEnd);
   return command;
@@ -191,12 +196,25 @@ std::string Grammar::chosenCommand() const {
 
 void Grammar::refuseExtra(const std::string& extra) const {
   if (extra.size() > 1 && extra.starts_with('-')) {
-    throw UsageError(inQuotes(extra) + " is no option here; veyruna --help lists them");
+    const std::string option = extra.substr(0, extra.find('='));
+    const std::string owners = commandsWith(option);
+    throw UsageError(owners.empty() ? inQuotes(option) + " is no option; veyruna --help lists them"
+                                    : inQuotes(option) + " belongs behind " + owners);
   }
   if (chosenCommand().empty()) {
     throw UsageError(inQuotes(extra) + " is not a command; give one of " + commandNames());
   }
   throw UsageError(inQuotes(extra) + " is one word too many behind " + chosenCommand());
+}
+
+std::string Grammar::commandsWith(const std::string& option) const {
+  std::string names;
+  for (const CLI::App* const command : app_->get_subcommands(nullptr)) {
+    if (command->get_option_no_throw(option) != nullptr) {
+      names += (names.empty() ? "" : " or ") + command->get_name();
+    }
+  }
+  return names;
 }
 
 }  // namespace veyruna::cli

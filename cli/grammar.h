@@ -22,6 +22,7 @@ struct Typed {
   std::string baseTime;  ///< empty where the moment is given as a date
   std::string latitude = "40.5";
   std::string longitude = "-20.9";
+  std::string location;    ///< empty where the place is given as coordinates
   std::string file = "-";  ///< "-" for standard output
   bool blackAndWhite = false;
   std::string rows;
@@ -53,7 +54,10 @@ class Grammar {
   void addTable(const std::string& name, const std::string& summary, const std::string& example);
   [[nodiscard]] std::string commandNames() const;
   [[nodiscard]] std::string chosenCommand() const;
-  void refuseTwoMoments() const;
+  void refuseTwoOf(const char* whole, const std::string& typed,
+                   std::initializer_list<const char*> parts, const char* what) const;
+  /// The commands that have an option, joined by "or".
+  [[nodiscard]] std::string commandsWith(const std::string& option) const;
   [[noreturn]] void refuseExtra(const std::string& extra) const;
 
   Typed typed_;

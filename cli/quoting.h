@@ -5,7 +5,8 @@
 
 namespace veyruna::cli {
 
-/// `text` in double quotes on one line: control characters as \xNN, a long text cut.
+/// `text` in double quotes on one line: control characters as \xNN, a quote or backslash behind a
+/// backslash, a long text cut between two characters.
 std::string inQuotes(std::string_view text);
 
 }  // namespace veyruna::cli

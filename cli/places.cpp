@@ -1,0 +1,104 @@
+#include "cli/places.h"
+
+#include <QList>
+#include <QString>
+#include <algorithm>
+#include <cmath>
+#include <stdexcept>
+
+#include "astro/angle.h"
+#include "astro/number_text.h"
+#include "cli/errors.h"
+#include "cli/quoting.h"
+#include "model/calculation.h"
+#include "model/city_preset.h"
+#include "model/locations_file.h"
+#include "model/qt_settings_store.h"
+#include "model/stored_settings.h"
+
+namespace veyruna::cli {
+
+namespace {
+
+using model::CityPreset;
+
+/// The entry "Manual" with the manual fields' place.
+CityPreset manualPlace() {
+  const model::QtSettingsStore store;
+  const model::LocationSettings stored = model::readLocationSettings(store);
+  CityPreset manual = model::manualCity();
+  manual.latitude = model::manualLatitude(stored);
+  manual.longitude = model::manualLongitude(stored);
+  return manual;
+}
+
+QList<CityPreset> savedOrFirstPlaces() {
+  const std::optional<QString> path = model::standardLocationsPath();
+  if (path) {
+    const model::LocationsFile::Reading reading = model::LocationsFile(*path).read();
+    if (reading.state == model::LocationsFile::State::whole) {
+      return reading.places;
+    }
+    if (reading.state == model::LocationsFile::State::unreadable) {
+      throw std::runtime_error("cannot read the saved places in " + inQuotes(path->toStdString()));
+    }
+  }
+  return model::initialCities(&QUuid::createUuid);
+}
+
+QList<CityPreset> knownPlaces() {
+  QList<CityPreset> places = model::withManualFirst(savedOrFirstPlaces());
+  places.front() = manualPlace();
+  return places;
+}
+
+/// "40.50°N", which --lat reads again.
+std::string coordinate(double radians, char positive, char negative) {
+  std::string text;
+  astro::appendFixed(text, std::abs(radians) * 180.0 / astro::pi, 2);
+  return text + "°" + (radians >= 0.0 ? positive : negative);
+}
+
+/// Padded on the left to a number of characters; the degree sign is one.
+std::string rightAligned(const std::string& text, qsizetype width) {
+  return QString::fromStdString(text).rightJustified(width).toStdString();
+}
+
+}  // namespace
+
+Place savedPlace(const std::string& name) {
+  const QList<CityPreset> places = knownPlaces();
+  const QString wanted = QString::fromStdString(name).trimmed();
+  const auto found = std::find_if(places.begin(), places.end(), [&wanted](const CityPreset& place) {
+    return model::isSameName(place.name, wanted);
+  });
+  if (found == places.end()) {
+    std::string known;
+    for (const CityPreset& place : places) {
+      known += (known.empty() ? "" : ", ") + place.name.toStdString();
+    }
+    throw UsageError("--location: " + inQuotes(name) + " is not a saved place; known are " + known);
+  }
+  if (!model::isOnGlobe(found->latitude, found->longitude)) {
+    throw UsageError("--location: " + inQuotes(name) +
+                     " is not on the globe; its stored coordinates are beyond 1000 radians");
+  }
+  return {found->latitude, found->longitude};
+}
+
+std::string savedPlacesText() {
+  const QList<CityPreset> places = knownPlaces();
+  qsizetype width = 0;
+  for (const CityPreset& place : places) {
+    width = std::max(width, place.name.size());
+  }
+  std::string text;
+  for (const CityPreset& place : places) {
+    text += place.name.leftJustified(width).toStdString() + "  " +
+            rightAligned(coordinate(place.latitude, 'N', 'S'), 7) + "  " +
+            rightAligned(coordinate(place.longitude, 'E', 'W'), 8) + "\n";
+  }
+  return text;
+}
+
+}  // namespace veyruna::cli

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <string>
+
+namespace veyruna::cli {
+
+/// A place as the engine takes it: radians, north and east positive.
+struct Place {
+  double latitude;
+  double longitude;
+};
+
+/// The saved place of that name in any letter case; "Manual" is the stored manual fields. Reads the
+/// person's own files and writes nothing; without a file of places, those of a first start.
+/// Throws UsageError that lists the known names, or std::runtime_error where the file is no list.
+Place savedPlace(const std::string& name);
+
+/// Every saved place with its coordinates, "Manual" first, a line each.
+std::string savedPlacesText();
+
+}  // namespace veyruna::cli

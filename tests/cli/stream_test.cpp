@@ -1,0 +1,115 @@
+// The command among others: pipes, terminals, locales and memory.
+#include <csignal>
+#include <cstdlib>
+#include <gtest/gtest.h>
+
+#include "reports/conjunctions.h"
+#include "tests/cli/process.h"
+#include "tests/cli/scratch_folder.h"
+#include "tests/support/reference_case.h"
+
+namespace veyruna {
+namespace {
+
+using tests::Invocation;
+using tests::Outcome;
+using tests::Process;
+using tests::run;
+using tests::runWith;
+using tests::words;
+
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+constexpr bool isSanitized = true;
+#else
+constexpr bool isSanitized = false;
+#endif
+
+TEST(Pipe, AReaderThatHasSeenEnoughEndsItQuietly) {
+  for (const bool ignored : {false, true}) {
+    Process table(
+        {.arguments = words("conjunctions --rows 5000000 --step 1"), .ignoresPipeSignal = ignored});
+    const std::string header = reports::conjunctionTable(0, 0.0, 1.0);
+    EXPECT_EQ(table.firstLineThenClose(), header.substr(0, header.find('\n') + 1));
+    const Outcome outcome = table.outcome();
+    EXPECT_EQ(outcome.err, "");
+    EXPECT_EQ(outcome.signal, SIGPIPE);
+  }
+}
+
+TEST(Pipe, WithoutStandardOutputItSaysSo) {
+  const Outcome outcome = run({.arguments = {"moment"}, .closesStandardOutput = true});
+  EXPECT_EQ(outcome.status, 1);
+  EXPECT_NE(outcome.err.find("standard output"), std::string::npos);
+}
+
+const std::string longTable = "conjunctions --rows 50000000 --step 0.01";
+
+TEST(Progress, ShowsOnATerminalAfterAWhile) {
+  Process table(
+      {.arguments = words(longTable), .standardOutput = "/dev/null", .errorsOnTerminal = true});
+  EXPECT_EQ(table.errorsWithin(500, "rows"), "");
+  const std::string shown = table.errorsWithin(60'000, " %");
+  EXPECT_NE(shown.find(" of 50000001 rows, "), std::string::npos) << shown;
+  EXPECT_EQ(shown.find('\n'), std::string::npos) << shown;
+}
+
+TEST(Progress, StaysOutOfAPipe) {
+  Process table({.arguments = words(longTable), .standardOutput = "/dev/null"});
+  EXPECT_EQ(table.errorsWithin(1800, "rows"), "");
+  table.kill(SIGKILL);
+  EXPECT_EQ(table.outcome().signal, SIGKILL) << "the table was too short to tell";
+}
+
+TEST(Progress, AShortTableShowsNone) {
+  const Outcome outcome =
+      run({.arguments = words("conjunctions --rows 300 --step 1"), .errorsOnTerminal = true});
+  EXPECT_EQ(outcome.status, 0);
+  EXPECT_EQ(outcome.err, "");
+}
+
+TEST(Locale, ADecimalCommaChangesNothing) {
+  const char* const locale = std::getenv("VEYRUNA_TEST_LOCALE");
+  if (locale == nullptr) {
+    GTEST_SKIP() << "runs as cli_tests_with_decimal_comma";
+  }
+  const std::vector<std::string> environment = {std::string("LC_ALL=") + locale,
+                                                std::string("LANG=") + locale};
+  for (const char* const arguments :
+       {"star-map", "horoscope", "horoscope --bw", "hourly", "positions", "moment", "daily",
+        "--hour 18:20 --lat 40.25N base-time", "--help", "ephemeris --rows 3 --step 0.25"}) {
+    const Outcome german = run({.arguments = words(arguments), .environment = environment});
+    const Outcome plain = run({.arguments = words(arguments), .environment = {"LC_ALL=C"}});
+    EXPECT_EQ(german.status, 0);
+    EXPECT_EQ(german.out, plain.out);
+  }
+  const Outcome refused =
+      run({.arguments = {"--lat", "40,5", "moment"}, .environment = environment});
+  EXPECT_EQ(refused.status, 2);
+}
+
+/// Whether a table can be written in so much address space. The peak that wait4 tells would not do:
+/// it begins with the memory of the tests themselves.
+bool fitsInto(std::size_t bytes, const std::string& table) {
+  const Outcome outcome =
+      run({.arguments = words(table), .standardOutput = "/dev/null", .addressSpace = bytes});
+  return outcome.status == 0 && outcome.err.empty();
+}
+
+TEST(Memory, ALongTableNeedsNoMoreThanADay) {
+  if (isSanitized) {
+    GTEST_SKIP() << "a sanitizer's own memory is far larger";
+  }
+  constexpr std::size_t mebibyte = 1U << 20U;
+  for (const std::string table : {"conjunctions", "ephemeris"}) {
+    const std::string rows = table + " --step 1/24 --rows ";
+    std::size_t enough = 1;
+    while (!fitsInto(enough * mebibyte, rows + "24")) {
+      ++enough;
+      ASSERT_LT(enough, 512U) << table;
+    }
+    EXPECT_TRUE(fitsInto((enough + 1) * mebibyte, rows + "720000")) << table << enough;
+  }
+}
+
+}  // namespace
+}  // namespace veyruna
