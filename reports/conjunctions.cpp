@@ -6,10 +6,10 @@
 #include "astro/angle.h"
 #include "astro/arc.h"
 #include "astro/calendar.h"
-#include "astro/invariant.h"
 #include "astro/moon.h"
 #include "astro/planet.h"
 #include "astro/sun.h"
+#include "reports/table_rows.h"
 
 namespace veyruna::reports {
 
@@ -87,16 +87,7 @@ bool isConjunct(double a, double b) {
 }
 
 void writeConjunctionTable(std::int64_t rows, double start, double step, const TextSink& sink) {
-  astro::requireInvariant(rows >= 0, "a table has no negative number of rows");
-  sink(header);
-  std::string row;
-  double t = start;
-  for (std::int64_t i = 0; i < rows; ++i) {
-    row.clear();
-    appendRow(row, t);
-    sink(row);
-    t += step;
-  }
+  writeRows(header, rows, start, step, sink, appendRow);
 }
 
 std::string conjunctionTable(std::int64_t rows, double start, double step) {

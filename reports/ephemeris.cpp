@@ -4,12 +4,12 @@
 
 #include "astro/angle.h"
 #include "astro/calendar.h"
-#include "astro/invariant.h"
 #include "astro/lunar_events.h"
 #include "astro/moon.h"
 #include "astro/number_text.h"
 #include "astro/sun.h"
 #include "reports/rise_set.h"
+#include "reports/table_rows.h"
 
 namespace veyruna::reports {
 
@@ -83,17 +83,9 @@ class EphemerisRows {
 
 void writeEphemerisTable(std::int64_t rows, double start, double step, double latitude,
                          const TextSink& sink) {
-  astro::requireInvariant(rows >= 0, "a table has no negative number of rows");
-  sink(header);
   EphemerisRows table(latitude);
-  std::string row;
-  double t = start;
-  for (std::int64_t i = 0; i < rows; ++i) {
-    row.clear();
-    table.append(row, t);
-    sink(row);
-    t += step;
-  }
+  writeRows(header, rows, start, step, sink,
+            [&table](std::string& row, double t) { table.append(row, t); });
 }
 
 std::string ephemerisTable(std::int64_t rows, double start, double step, double latitude) {
