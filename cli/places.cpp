@@ -94,6 +94,10 @@ std::string savedPlacesText() {
   }
   std::string text;
   for (const CityPreset& place : places) {
+    if (!model::isOnGlobe(place.latitude, place.longitude)) {
+      text += place.name.leftJustified(width).toStdString() + "  not on the globe\n";
+      continue;
+    }
     text += place.name.leftJustified(width).toStdString() + "  " +
             rightAligned(coordinate(place.latitude, 'N', 'S'), 7) + "  " +
             rightAligned(coordinate(place.longitude, 'E', 'W'), 8) + "\n";

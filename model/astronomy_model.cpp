@@ -38,6 +38,10 @@ AstronomyModel::AstronomyModel(Surroundings surroundings, QObject* parent)
   locations_.load();
 }
 
+AstronomyModel::~AstronomyModel() {
+  locations_.saveWhatWaits();
+}
+
 QStringList AstronomyModel::months() const {
   QStringList names;
   for (const std::string_view name : astro::monthNames) {
@@ -65,7 +69,7 @@ void AstronomyModel::setInput(Group& group, Value Group::*field, const Value& va
   }
 }
 
-void AstronomyModel::setSelectedCityID(const QUuid& id) {
+void AstronomyModel::setSelectedCityID(QUuid id) {
   setInput(place_, &LocationSettings::selectedCityID, id, &AstronomyModel::selectedCityIDChanged);
 }
 
@@ -134,15 +138,15 @@ double AstronomyModel::baseTime() const {
 
 std::variant<QUuid, LocationError> AstronomyModel::addCity(const QString& name) {
   const QList<CityPreset> before = cities();
-  const auto outcome = locations_.add(name, storableAngle(manualLatitude(place_)),
-                                      storableAngle(manualLongitude(place_)));
+  auto outcome = locations_.add(name, storableAngle(manualLatitude(place_)),
+                                storableAngle(manualLongitude(place_)));
   if (cities() != before) {
     Q_EMIT citiesChanged();
   }
   return outcome;
 }
 
-void AstronomyModel::deleteCity(const QUuid& id) {
+void AstronomyModel::deleteCity(QUuid id) {
   const QList<CityPreset> before = cities();
   locations_.remove(id);
   if (cities() != before) {
@@ -207,8 +211,9 @@ void AstronomyModel::publish(const CalculationResult& result) {
   assign(dateLabel_, result.dateLabel, &AstronomyModel::dateLabelChanged);
   assign(nextFullMoonLabel_, result.nextFullMoonLabel, &AstronomyModel::nextFullMoonLabelChanged);
   assign(nextNewMoonLabel_, result.nextNewMoonLabel, &AstronomyModel::nextNewMoonLabelChanged);
+  const QPointer<AstronomyModel> self(this);  // whoever waited for the end may delete the model
   assign(isCalculating_, false, &AstronomyModel::isCalculatingChanged);
-  if (horoscopeBlackAndWhite_ != input.blackAndWhite) {
+  if (self && horoscopeBlackAndWhite_ != input.blackAndWhite) {
     regenerateHoroscope();
   }
 }

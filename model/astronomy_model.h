@@ -74,6 +74,7 @@ class AstronomyModel : public QObject {
 
   /// Reads the ten preferences and loads the saved places.
   explicit AstronomyModel(Surroundings surroundings, QObject* parent = nullptr);
+  ~AstronomyModel() override;
 
   // The observer's inputs. A setter stores its whole group, whether or not the value changes, and
   // signals only a change. Nothing is clamped.
@@ -89,7 +90,7 @@ class AstronomyModel : public QObject {
   [[nodiscard]] qint64 year() const { return date_.year; }
   [[nodiscard]] double hour() const { return date_.hour; }
   [[nodiscard]] bool useLocalTime() const { return date_.useLocalTime; }
-  void setSelectedCityID(const QUuid& id);
+  void setSelectedCityID(QUuid id);
   void setManualLatDeg(double degrees);
   void setManualLongDeg(double degrees);
   void setLatNorth(bool isNorth);
@@ -112,7 +113,7 @@ class AstronomyModel : public QObject {
   /// Saves the manual fields' place under a name, whatever is selected. The caller selects it.
   std::variant<QUuid, LocationError> addCity(const QString& name);
   /// Deletes a saved place; where it was selected, "Manual" is.
-  void deleteCity(const QUuid& id);
+  void deleteCity(QUuid id);
 
   // The outputs of the last calculation; empty before the first.
   [[nodiscard]] const QString& starMapSVG() const { return starMapSVG_; }

@@ -82,11 +82,12 @@ QString canonicalText(const QUuid& id) {
   return id.toString(QUuid::WithoutBraces).toUpper();
 }
 
-QUuid idOf(const QString& text) {
+std::optional<QUuid> idOf(const QString& text) {
   constexpr qsizetype length = 36;
-  const QUuid id = text.size() == length ? QUuid::fromString(text) : QUuid();
+  const QUuid id = QUuid::fromString(text);
   // QUuid reads leniently; what it read must be what stands there.
-  return canonicalText(id) == text.toUpper() ? id : QUuid();
+  return text.size() == length && canonicalText(id) == text.toUpper() ? std::optional(id)
+                                                                      : std::nullopt;
 }
 
 }  // namespace veyruna::model

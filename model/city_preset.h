@@ -4,6 +4,7 @@
 #include <QString>
 #include <QUuid>
 #include <functional>
+#include <optional>
 
 namespace veyruna::model {
 
@@ -43,7 +44,7 @@ bool isSameName(const QString& a, const QString& b);
 /// The 36 characters of a UUID in upper case, without braces.
 QString canonicalText(const QUuid& id);
 
-/// The UUID of exactly 36 characters in either case; the null UUID for any other text.
-QUuid idOf(const QString& text);
+/// The UUID of exactly 36 characters in either case; nothing for any other text.
+std::optional<QUuid> idOf(const QString& text);
 
 }  // namespace veyruna::model

@@ -41,6 +41,7 @@ bool LocationsFile::write(const QList<CityPreset>& places) const {
   QSaveFile file(path_);
   const QByteArray text = locationsText(places);
   return makeFolder() && file.open(QIODevice::WriteOnly) && file.write(text) == text.size() &&
+         file.flush() &&  // commit() would put an empty file in place on a full disk
          file.commit();
 }
 
@@ -54,7 +55,12 @@ std::unique_ptr<QLockFile> LocationsFile::lock() const {
     return nullptr;
   }
   auto lock = std::make_unique<QLockFile>(path_ + QStringLiteral(".lock"));
-  return lock->tryLock(patienceMilliseconds) ? std::move(lock) : nullptr;
+  removeOwnerlessLock(lock->fileName());
+  if (lock->tryLock(patienceMilliseconds)) {
+    return lock;
+  }
+  removeOwnerlessLock(lock->fileName());  // by now it is old enough to tell
+  return lock->tryLock() ? std::move(lock) : nullptr;
 }
 
 bool LocationsFile::makeFolder() const {

@@ -26,7 +26,7 @@ class LocationsFile {
     whole
   };
   struct Reading {
-    State state;
+    State state = State::missing;
     QList<CityPreset> places;  ///< empty unless whole
   };
   [[nodiscard]] Reading read() const;

@@ -21,13 +21,13 @@ bool isFiniteNumber(const QJsonValue& value) {
 
 std::optional<CityPreset> placeIn(const QJsonValue& value) {
   const QJsonObject object = value.toObject();
-  const QUuid id = idOf(object[idKey].toString());
-  const bool isPlace = !id.isNull() && id != manualCityID() && object[nameKey].isString() &&
+  const std::optional<QUuid> id = idOf(object[idKey].toString());
+  const bool isPlace = id && *id != manualCityID() && object[nameKey].isString() &&
                        isFiniteNumber(object[latitudeKey]) && isFiniteNumber(object[longitudeKey]);
   if (!isPlace) {
     return std::nullopt;
   }
-  return CityPreset{id, object[nameKey].toString(), object[latitudeKey].toDouble(),
+  return CityPreset{*id, object[nameKey].toString(), object[latitudeKey].toDouble(),
                     object[longitudeKey].toDouble()};
 }
 
@@ -51,7 +51,7 @@ std::optional<QList<CityPreset>> placesIn(const QByteArray& text) {
   }
   QList<CityPreset> places;
   QSet<QUuid> ids;
-  for (const QJsonValue& value : document.array()) {
+  for (const auto& value : document.array()) {
     const std::optional<CityPreset> place = placeIn(value);
     if (!place || ids.contains(place->id)) {
       return std::nullopt;

@@ -1,7 +1,10 @@
 #include "model/qt_settings_store.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QTemporaryFile>
+#include <algorithm>
 
 #include "model/keep_aside.h"
 #include "model/stored_value.h"
@@ -14,37 +17,74 @@ namespace {
 /// freedesktop folders.
 const QString programName = QStringLiteral("VeyrunaAstro");
 
+/// Whether every line is one that a preferences file has: blank, a comment, a section, or a key
+/// with its value. QSettings drops what is none of these when it writes.
+bool isPreferences(const QByteArray& content) {
+  const QList<QByteArray> lines = content.split('\n');
+  return std::all_of(lines.begin(), lines.end(), [](const QByteArray& line) {
+    const QByteArray text = line.trimmed();
+    const bool isSection = text.startsWith('[') && text.endsWith(']');
+    return text.isEmpty() || text.startsWith(';') || text.startsWith('#') || isSection ||
+           (text.contains('=') && !text.startsWith('['));
+  });
+}
+
 }  // namespace
 
 QtSettingsStore::QtSettingsStore()
-    : settings_(QSettings::NativeFormat, QSettings::UserScope, programName, programName),
-      needsCopy_(settings_.status() != QSettings::NoError) {
+    : settings_(QSettings::NativeFormat, QSettings::UserScope, programName, programName) {
   settings_.setFallbacksEnabled(false);
 }
 
-QtSettingsStore::QtSettingsStore(const QString& path)
-    : settings_(path, QSettings::IniFormat), needsCopy_(settings_.status() != QSettings::NoError) {}
+QtSettingsStore::QtSettingsStore(const QString& path) : settings_(path, QSettings::IniFormat) {}
 
 QVariant QtSettingsStore::stored(const QString& key) const {
   return settings_.value(key);
 }
 
 void QtSettingsStore::store(const std::vector<std::pair<QString, QVariant>>& group) {
-  if (!mayWrite()) {
+  waiting_.insert(waiting_.end(), group.begin(), group.end());
+  if (!keepsAsideWhatIsUnreadable() || !hasRoom()) {
     return;
   }
-  for (const auto& [key, value] : group) {
+  removeOwnerlessLock(settings_.fileName() + QStringLiteral(".lock"));
+  for (const auto& [key, value] : waiting_) {
     settings_.setValue(key, value.typeId() == QMetaType::Double
                                 ? QVariant(storableText(value.toDouble()))
                                 : value);
   }
+  waiting_.clear();
 }
 
-bool QtSettingsStore::mayWrite() {
-  if (needsCopy_ && QFileInfo::exists(settings_.fileName())) {
-    needsCopy_ = !QFile::copy(settings_.fileName(), unreadableName(settings_.fileName()));
+/// False where something unreadable is there and cannot be copied.
+bool QtSettingsStore::keepsAsideWhatIsUnreadable() {
+  QFile file(settings_.fileName());
+  if (!QFileInfo(file).exists()) {
+    return true;
   }
-  return !needsCopy_ || !QFileInfo::exists(settings_.fileName());
+  if (!QFileInfo(file).isFile() || !file.open(QIODevice::ReadOnly)) {
+    return false;
+  }
+  const QByteArray content = file.readAll();
+  if (isPreferences(content) || content == keptAside_) {
+    return true;
+  }
+  if (!QFile::copy(file.fileName(), unreadableName(file.fileName()))) {
+    return false;
+  }
+  keptAside_ = content;
+  return true;
+}
+
+/// QSettings puts an empty file in place where the disk is full; so the room is tried first.
+bool QtSettingsStore::hasRoom() const {
+  constexpr qsizetype ampleBytes = 16384;
+  const QFileInfo file(settings_.fileName());
+  if (!QDir().mkpath(file.path())) {
+    return false;
+  }
+  QTemporaryFile probe(file.filePath() + QStringLiteral(".XXXXXX"));
+  return probe.open() && probe.write(QByteArray(ampleBytes, ' ')) == ampleBytes && probe.flush();
 }
 
 }  // namespace veyruna::model

@@ -1,6 +1,9 @@
 #pragma once
 
+#include <QByteArray>
 #include <QSettings>
+#include <utility>
+#include <vector>
 
 #include "model/settings_store.h"
 
@@ -9,7 +12,8 @@ namespace veyruna::model {
 /// The preferences in the platform's own form and place. What is stored is on disk when the event
 /// loop's turn ends, or when the store is destroyed.
 /// A preferences file that cannot be read in full is copied aside as "….unreadable.conf" (numbered
-/// where that exists) before anything is written over it; where that fails, nothing is written.
+/// where that exists) before anything is written over it. Where that fails, or where the disk has
+/// no room, the old file stays and the values go with the next change.
 class QtSettingsStore final : public SettingsStore {
  public:
   /// The preferences file in the user's configuration folder.
@@ -21,10 +25,12 @@ class QtSettingsStore final : public SettingsStore {
   void store(const std::vector<std::pair<QString, QVariant>>& group) override;
 
  private:
-  [[nodiscard]] bool mayWrite();
+  [[nodiscard]] bool keepsAsideWhatIsUnreadable();
+  [[nodiscard]] bool hasRoom() const;
 
   QSettings settings_;
-  bool needsCopy_;
+  std::vector<std::pair<QString, QVariant>> waiting_;  ///< not handed to settings_ yet
+  QByteArray keptAside_;  ///< the unreadable content that was copied last
 };
 
 }  // namespace veyruna::model

@@ -32,6 +32,12 @@ SavedLocations::SavedLocations(std::optional<QString> path, IdSource newId)
   }
 }
 
+void SavedLocations::saveWhatWaits() {
+  if (file_ && places() != inFile_) {
+    changeShared([](bool /*readFromFile*/) {});
+  }
+}
+
 void SavedLocations::load() {
   if (file_) {
     const LocationsFile::Reading reading = file_->read();
@@ -75,7 +81,7 @@ std::variant<QUuid, LocationError> SavedLocations::add(const QString& name, doub
   return outcome;
 }
 
-void SavedLocations::remove(const QUuid& id) {
+void SavedLocations::remove(QUuid id) {
   if (id == manualCityID()) {
     return;
   }
@@ -103,12 +109,14 @@ void SavedLocations::changeShared(Change change) {
       takeIn(reading.places);
       readFromFile = true;
     } else {
-      inFile_.clear();
       mayWrite = reading.state == LocationsFile::State::missing || file_->keepAside();
+      if (mayWrite) {
+        inFile_.clear();
+      }
     }
   }
   change(readFromFile);
-  if (mayWrite) {
+  if (mayWrite && (!readFromFile || places() != inFile_)) {
     save();
   }
 }
@@ -122,7 +130,7 @@ void SavedLocations::takeIn(const QList<CityPreset>& fromFile) {
 }
 
 void SavedLocations::save() {
-  if (places() != inFile_ && file_->write(places())) {
+  if (file_->write(places())) {
     inFile_ = places();
   }
 }

@@ -24,6 +24,9 @@ class SavedLocations {
   /// start and is saved at once.
   void load();
 
+  /// Tries once more to write what could not be written so far.
+  void saveWhatWaits();
+
   /// "Manual", then the saved places in order.
   [[nodiscard]] const QList<CityPreset>& cities() const { return cities_; }
   [[nodiscard]] const CityPreset* find(const QUuid& id) const;
@@ -32,7 +35,7 @@ class SavedLocations {
   std::variant<QUuid, LocationError> add(const QString& name, double latitude, double longitude);
 
   /// Removes the place with that id; "Manual" stays.
-  void remove(const QUuid& id);
+  void remove(QUuid id);
 
  private:
   void setPlaces(QList<CityPreset> places);

@@ -14,8 +14,7 @@ namespace {
 // How each type of field is told from what is stored, and how it is stored.
 std::optional<QUuid> fromStored(const QVariant& stored, const QUuid* /*type*/) {
   const std::optional<QString> text = storedText(stored);
-  const QUuid id = text ? idOf(*text) : QUuid();
-  return id.isNull() ? std::nullopt : std::optional(id);
+  return text ? idOf(*text) : std::nullopt;
 }
 std::optional<double> fromStored(const QVariant& stored, const double* /*type*/) {
   return storedDouble(stored);
