@@ -1,0 +1,73 @@
+#include "export/document_exporter.h"
+
+#include <cstdio>
+#include <utility>
+
+#include "export/whole_file.h"
+
+namespace veyruna::exports {
+
+namespace {
+
+/// Reports a failure under its prefix and tells the caller how it ended.
+void conclude(const FailureSink& failures, const QString& prefix,
+              const std::optional<QString>& error, const Saved& saved) {
+  if (error) {
+    failures(prefix + *error);
+  }
+  if (saved) {
+    saved(error);
+  }
+}
+
+}  // namespace
+
+FailureSink standardOutput() {
+  return [](const QString& line) {
+    const QByteArray bytes = line.toUtf8() + '\n';
+    std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), stdout);
+    std::fflush(stdout);
+  };
+}
+
+DocumentExporter::DocumentExporter(const model::AstronomyModel& model, PdfRenderer renderer,
+                                   FailureSink failures)
+    : model_(model), renderer_(std::move(renderer)), failures_(std::move(failures)) {}
+
+std::optional<PdfExport> DocumentExporter::pdf(OutputTab tab) const {
+  return pdfExport(model_, tab);
+}
+
+std::optional<NativeExport> DocumentExporter::native(OutputTab tab) const {
+  return nativeExport(model_, tab);
+}
+
+void DocumentExporter::save(const PdfExport& content, const QString& path,
+                            const Saved& saved) const {
+  if (path.isEmpty()) {
+    return;
+  }
+  renderer_(content.html, content.pageSizePoints,
+            [path, saved, failures = failures_](const PdfResult& result) {
+              if (const auto* failure = std::get_if<RenderFailure>(&result)) {
+                conclude(failures, QStringLiteral("Error rendering PDF: "), failure->description,
+                         saved);
+                return;
+              }
+              conclude(failures, QStringLiteral("Error writing PDF: "),
+                       writeWholeFile(path, std::get<QByteArray>(result)), saved);
+            });
+}
+
+void DocumentExporter::save(const NativeExport& content, const QString& path,
+                            const Saved& saved) const {
+  if (path.isEmpty()) {
+    return;
+  }
+  conclude(failures_,
+           content.format == NativeFormat::svg ? QStringLiteral("Error saving SVG: ")
+                                               : QStringLiteral("Error saving text: "),
+           writeWholeFile(path, content.text.toUtf8()), saved);
+}
+
+}  // namespace veyruna::exports

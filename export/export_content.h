@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QSizeF>
+#include <QString>
+#include <optional>
+
+#include "export/output_tab.h"
+#include "model/astronomy_model.h"
+
+/// What is saved, as values: they hold what was on screen when the command was chosen, whatever
+/// the model shows by the time a place on disk has been found.
+namespace veyruna::exports {
+
+/// A document to be rendered as PDF.
+struct PdfExport {
+  QString html;
+  QSizeF pageSizePoints;
+  QString proposedName;
+  QString message;  ///< what the save dialog asks
+};
+
+/// What a native file holds.
+enum class NativeFormat { svg, text };
+
+/// A text to be saved as it is.
+struct NativeExport {
+  QString text;
+  NativeFormat format;
+  QString extension;  ///< "svg" or "txt"
+  QString proposedName;
+  QString message;  ///< what the save dialog asks
+};
+
+/// What the tab saves as PDF; nothing for the location. Before the first calculation the documents
+/// are empty.
+std::optional<PdfExport> pdfExport(const model::AstronomyModel& model, OutputTab tab);
+
+/// What the tab saves as it is: a chart as SVG, tables as text; nothing for the location.
+std::optional<NativeExport> nativeExport(const model::AstronomyModel& model, OutputTab tab);
+
+}  // namespace veyruna::exports

@@ -1,0 +1,232 @@
+// What each tab saves, and how its failures are told.
+#include "export/document_exporter.h"
+
+#include <QFile>
+#include <gtest/gtest.h>
+
+#include "export/report_html.h"
+#include "tests/export/observed.h"
+#include "tests/model/disk.h"
+
+namespace veyruna {
+namespace {
+
+using namespace Qt::StringLiterals;
+using exports::DocumentExporter;
+using exports::OutputTab;
+using exports::RenderFailure;
+using tests::bytesIn;
+
+/// An exporter over the first reference whose renderer answers when it is told to.
+class Exporting : public testing::Test {
+ protected:
+  struct Rendering {
+    QString html;
+    QSizeF pageSizePoints;
+    exports::PdfCompletion completion;
+  };
+
+  exports::PdfRenderer renderer() {
+    return
+        [this](const QString& html, const QSizeF& size, const exports::PdfCompletion& completion) {
+          renderings.push_back({html, size, completion});
+        };
+  }
+  exports::Saved saved() {
+    return [this](const std::optional<QString>& error) {
+      outcomes.push_back(error.value_or(u"saved"_s));
+    };
+  }
+
+  tests::ObservedModel world{tests::referenceCases().front()};
+  std::vector<Rendering> renderings;
+  QStringList failures;
+  QStringList outcomes;
+  tests::Folder folder;
+  std::optional<DocumentExporter> exporter{std::in_place, world.model, renderer(),
+                                           [this](const QString& line) { failures.append(line); }};
+};
+
+TEST(Tabs, HaveTheirTitlesInOrder) {
+  QStringList titles;
+  for (const OutputTab tab : exports::outputTabs) {
+    titles.append(exports::title(tab));
+  }
+  EXPECT_EQ(titles.join(u'|'),
+            u"Star Map|Horoscope|Thessil System|Sun & Moon|Positions|Location"_s);
+  EXPECT_TRUE(exports::isChart(OutputTab::starMap));
+  EXPECT_TRUE(exports::isChart(OutputTab::horoscope));
+  EXPECT_FALSE(exports::isChart(OutputTab::planets));
+  EXPECT_FALSE(exports::isChart(OutputTab::location));
+}
+
+TEST_F(Exporting, PdfsOfTheTabs) {
+  struct Expected {
+    OutputTab tab;
+    QString html;
+    QSizeF points;
+    QString prefix;
+  };
+  const auto& model = world.model;
+  const QString meta = exports::metaText(model);
+  const std::vector<Expected> all = {
+      {OutputTab::starMap, exports::chartPage(model.starMapSVG()), {720, 720}, u"Star Map"_s},
+      {OutputTab::horoscope, exports::chartPage(model.horoscopeSVG()), {1440, 760}, u"Horoscope"_s},
+      {OutputTab::planets,
+       exports::reportDocument(u"Planet Positions"_s, meta,
+                               {{u"Positions"_s, exports::positionsTableText(model.positions())}}),
+       {612, 792},
+       u"Planets"_s},
+      {OutputTab::sunMoon,
+       exports::reportDocument(
+           u"Sun & Moon"_s, meta,
+           {{u"Hourly"_s, model.basicTableHourly()}, {u"Monthly"_s, model.basicTableMonthly()}}),
+       {612, 792},
+       u"Sun & Moon"_s},
+      {OutputTab::positions,
+       exports::reportDocument(
+           u"Conjunctions"_s, meta,
+           {{u"Daily"_s, model.conjunctionDaily()}, {u"Yearly"_s, model.conjunctionYearly()}}),
+       {612, 792},
+       u"Positions"_s},
+  };
+  for (const Expected& expected : all) {
+    const auto content = exporter->pdf(expected.tab);
+    ASSERT_TRUE(content);
+    EXPECT_EQ(content->html, expected.html);
+    EXPECT_EQ(content->pageSizePoints, expected.points);
+    EXPECT_EQ(content->proposedName,
+              expected.prefix + u" - 40.50°N 20.90°W - 720-01-01 12-00.pdf"_s);
+    EXPECT_EQ(content->message, u"Choose where to save the PDF file"_s);
+  }
+  EXPECT_FALSE(exporter->pdf(OutputTab::location));
+}
+
+TEST_F(Exporting, TextsOfTheTabs) {
+  struct Expected {
+    OutputTab tab;
+    QString text;
+    QString name;
+    QString message;
+  };
+  const auto& model = world.model;
+  const QString svgMessage = u"Choose where to save the SVG file"_s;
+  const QString textMessage = u"Choose where to save the text file"_s;
+  const QString at = u" - 40.50°N 20.90°W - 720-01-01 12-00."_s;
+  const std::vector<Expected> all = {
+      {OutputTab::starMap, model.starMapSVG(), u"Star Map"_s + at + u"svg"_s, svgMessage},
+      {OutputTab::horoscope, model.horoscopeSVG(), u"Horoscope"_s + at + u"svg"_s, svgMessage},
+      {OutputTab::planets, exports::positionsTableText(model.positions()),
+       u"Planets"_s + at + u"txt"_s, textMessage},
+      {OutputTab::sunMoon,
+       u"— Hourly —\n\n"_s + model.basicTableHourly() + u"\n\n— Monthly —\n\n"_s +
+           model.basicTableMonthly(),
+       u"Sun & Moon"_s + at + u"txt"_s, textMessage},
+      {OutputTab::positions,
+       u"— Daily Conjunctions —\n\n"_s + model.conjunctionDaily() +
+           u"\n\n— Yearly Conjunctions —\n\n"_s + model.conjunctionYearly(),
+       u"Positions"_s + at + u"txt"_s, textMessage},
+  };
+  for (const Expected& expected : all) {
+    const auto content = exporter->native(expected.tab);
+    ASSERT_TRUE(content);
+    EXPECT_EQ(content->text, expected.text);
+    EXPECT_EQ(content->proposedName, expected.name);
+    EXPECT_EQ(content->message, expected.message);
+    EXPECT_EQ(content->format, exports::isChart(expected.tab) ? exports::NativeFormat::svg
+                                                              : exports::NativeFormat::text);
+    exporter->save(*content, folder / content->proposedName, saved());
+    EXPECT_EQ(bytesIn(folder / content->proposedName), expected.text.toUtf8());
+  }
+  EXPECT_FALSE(exporter->native(OutputTab::location));
+  EXPECT_EQ(outcomes.join(u'|'), u"saved|saved|saved|saved|saved"_s);
+  EXPECT_EQ(folder.names().size(), 5);
+  EXPECT_TRUE(failures.isEmpty());
+}
+
+TEST_F(Exporting, SectionsOfTheReports) {
+  const auto headings = [this](OutputTab tab) {
+    QStringList found = exporter->pdf(tab)->html.split(u"<h2>"_s).mid(1);
+    for (QString& heading : found) {
+      heading = heading.section(u"</h2>"_s, 0, 0);
+    }
+    return found.join(u'|');
+  };
+  EXPECT_EQ(headings(OutputTab::planets), u"Positions"_s);
+  EXPECT_EQ(headings(OutputTab::sunMoon), u"Hourly|Monthly"_s);
+  EXPECT_EQ(headings(OutputTab::positions), u"Daily|Yearly"_s);
+  EXPECT_TRUE(exporter->pdf(OutputTab::positions)->html.contains(u"<h1>Conjunctions</h1>"_s));
+}
+
+TEST_F(Exporting, PlaceNameInReportAndFileName) {
+  world.selectPlaceCalled(u"Salt & <Sand>"_s);
+  const auto content = exporter->pdf(OutputTab::planets);
+  EXPECT_TRUE(content->html.contains(u"OST   Salt &amp; &lt;Sand&gt;</div>"_s));
+  EXPECT_EQ(content->proposedName, u"Planets - Salt & <Sand> - 720-01-01 12-00.pdf"_s);
+}
+
+TEST(ExportingEarly, GivesEmptyDocuments) {
+  const tests::FakeModel world;
+  EXPECT_EQ(exports::pdfExport(world.model, OutputTab::starMap)->html, exports::chartPage({}));
+  EXPECT_EQ(exports::nativeExport(world.model, OutputTab::horoscope)->text, QString());
+  EXPECT_EQ(exports::nativeExport(world.model, OutputTab::sunMoon)->text,
+            u"— Hourly —\n\n\n\n— Monthly —\n\n"_s);
+}
+
+TEST_F(Exporting, SavesWhatWasShownWhenItWasChosen) {
+  const auto svg = exporter->native(OutputTab::starMap);
+  const auto pdf = exporter->pdf(OutputTab::planets);
+  const QString shown = world.model.starMapSVG();
+  const QString html = pdf->html;
+  world.model.setHour(3.0);
+  world.calculate();
+  ASSERT_NE(world.model.starMapSVG(), shown);
+  exporter->save(*svg, folder / svg->proposedName);
+  EXPECT_EQ(bytesIn(folder / svg->proposedName), shown.toUtf8());
+  exporter->save(*pdf, folder / pdf->proposedName);
+  ASSERT_EQ(renderings.size(), 1U);
+  EXPECT_EQ(renderings.front().html, html);
+}
+
+TEST_F(Exporting, DoesNothingWithoutADestination) {
+  exporter->save(*exporter->native(OutputTab::starMap), {}, saved());
+  exporter->save(*exporter->pdf(OutputTab::starMap), {}, saved());
+  EXPECT_TRUE(renderings.empty());
+  EXPECT_TRUE(outcomes.isEmpty());
+  EXPECT_TRUE(failures.isEmpty());
+}
+
+TEST_F(Exporting, TellsEachFailureUnderItsPrefix) {
+  const QString path = folder / u"gone/file"_s;
+  exporter->save(*exporter->native(OutputTab::horoscope), path, saved());
+  exporter->save(*exporter->native(OutputTab::planets), path, saved());
+  exporter->save(*exporter->pdf(OutputTab::planets), path, saved());
+  renderings.front().completion(QByteArray("%PDF"));
+  exporter->save(*exporter->pdf(OutputTab::planets), path, saved());
+  renderings.back().completion(RenderFailure{u"no pages"_s});
+  const QString gone = u"No such file or directory"_s;
+  EXPECT_EQ(failures.join(u'\n'), u"Error saving SVG: "_s + gone + u"\nError saving text: "_s +
+                                      gone + u"\nError writing PDF: "_s + gone +
+                                      u"\nError rendering PDF: no pages"_s);
+  EXPECT_EQ(outcomes.join(u'\n'), QStringList({gone, gone, gone, u"no pages"_s}).join(u'\n'));
+}
+
+TEST_F(Exporting, FailuresGoToStandardOutput) {
+  const DocumentExporter plain(world.model, renderer());
+  testing::internal::CaptureStdout();
+  plain.save(*plain.native(OutputTab::planets), folder / u"gone/°"_s);
+  EXPECT_EQ(testing::internal::GetCapturedStdout(),
+            "Error saving text: No such file or directory\n");
+}
+
+TEST_F(Exporting, OutlivesWhoAskedForIt) {
+  const QString path = folder / u"late.pdf"_s;
+  exporter->save(*exporter->pdf(OutputTab::planets), path, saved());
+  exporter.reset();
+  renderings.front().completion(QByteArray("%PDF late"));
+  EXPECT_EQ(bytesIn(path), QByteArray("%PDF late"));
+  EXPECT_EQ(outcomes.join(u'|'), u"saved"_s);
+}
+
+}  // namespace
+}  // namespace veyruna

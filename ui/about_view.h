@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QWidget>
+
+namespace veyruna::ui {
+
+/// What the program is and whose: picture, title, version, credits and links. Can be dragged by its
+/// background.
+class AboutView final : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit AboutView(QWidget* parent = nullptr);
+
+ protected:
+  void mousePressEvent(QMouseEvent* event) override;
+  void enterEvent(QEnterEvent* event) override;
+  void leaveEvent(QEvent* event) override;
+
+ private:
+  void showHovering(bool isHovering);
+};
+
+}  // namespace veyruna::ui

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QWidget>
+
+#include "export/output_tab.h"
+#include "model/astronomy_model.h"
+
+class QLabel;
+class QStackedWidget;
+
+namespace veyruna::ui {
+
+class PlanetsView;
+class SVGView;
+class TablesView;
+
+/// The outputs of the last calculation, one tab at a time, under the moment and place they belong
+/// to.
+class DetailedView final : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit DetailedView(model::AstronomyModel& model, QWidget* parent = nullptr);
+
+  void setTab(exports::OutputTab tab);
+
+ private:
+  void addTabs();
+  void followModel();
+  void showCaption();
+
+  model::AstronomyModel& model_;
+  QLabel* caption_;
+  QStackedWidget* tabs_;
+  SVGView* starMap_;
+  SVGView* horoscope_;
+  PlanetsView* planets_;
+  TablesView* sunMoon_;
+  TablesView* positions_;
+};
+
+}  // namespace veyruna::ui

@@ -1,0 +1,55 @@
+#pragma once
+
+#include <QGroupBox>
+
+#include "model/astronomy_model.h"
+
+class QAbstractButton;
+class QComboBox;
+class QLabel;
+class QPushButton;
+class QWidget;
+
+namespace veyruna::ui {
+
+class AngleField;
+
+/// Where the observer stands: a saved place, or the manual fields.
+class LocationSection final : public QGroupBox {
+  Q_OBJECT
+
+ public:
+  explicit LocationSection(model::AstronomyModel& model, QWidget* parent = nullptr);
+
+  /// Takes over what is being typed.
+  void commit();
+
+  /// The colour button is there for the horoscope alone.
+  void showColorMode(bool isShown);
+
+ Q_SIGNALS:
+  void saveRequested();
+  void deleteRequested();
+  void mapRequested();
+
+ private:
+  QWidget* makeManualFields();
+  QWidget* makeSavedPlace();
+  QWidget* makeButtons();
+  void showCities();
+  void showPlace();
+  void showManualFields();
+
+  model::AstronomyModel& model_;
+  QComboBox* picker_ = nullptr;
+  QWidget* savedPlace_ = nullptr;
+  QLabel* coordinates_ = nullptr;
+  QWidget* manualFields_ = nullptr;
+  AngleField* latitude_ = nullptr;
+  AngleField* longitude_ = nullptr;
+  QComboBox* northSouth_ = nullptr;
+  QComboBox* eastWest_ = nullptr;
+  QPushButton* colorMode_ = nullptr;
+};
+
+}  // namespace veyruna::ui

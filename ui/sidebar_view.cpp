@@ -1,0 +1,101 @@
+#include "ui/sidebar_view.h"
+
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "ui/calculate_area.h"
+#include "ui/date_section.h"
+#include "ui/location_section.h"
+#include "ui/location_sheets.h"
+#include "ui/named.h"
+#include "ui/program.h"
+#include "ui/time_section.h"
+
+namespace veyruna::ui {
+
+namespace {
+
+constexpr int minimumColumnWidth = 240;
+constexpr int exportPadding = 17;
+constexpr int footerPadding = 3;
+
+QLabel* footerLabel(const QString& text, const char* objectName) {
+  auto* const label = named(new QLabel(text), objectName, text);
+  label->setMargin(footerPadding);
+  label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+  return label;
+}
+
+}  // namespace
+
+SidebarView::SidebarView(model::AstronomyModel& model, QWidget* parent)
+    : QScrollArea(parent),
+      model_(model),
+      location_(new LocationSection(model)),
+      date_(new DateSection(model)) {
+  auto* const content = new QWidget;
+  auto* const calculate = new CalculateArea(model);
+  auto* const column = new QVBoxLayout(content);
+  column->addWidget(location_);
+  column->addWidget(date_);
+  column->addWidget(new TimeSection(model));
+  column->addWidget(calculate);
+  column->addStretch();
+  column->addWidget(makeExportArea());
+  setWidget(content);
+  setWidgetResizable(true);
+  setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  setFrameShape(QFrame::NoFrame);
+  setMinimumWidth(std::max(minimumColumnWidth, content->minimumSizeHint().width()));
+
+  connect(location_, &LocationSection::mapRequested, this, &SidebarView::mapRequested);
+  connect(location_, &LocationSection::saveRequested, this, [this] {
+    commit();
+    (new SaveLocationSheet(model_, window()))->open();
+  });
+  connect(location_, &LocationSection::deleteRequested, this,
+          [this] { (new DeleteLocationSheet(model_, window()))->open(); });
+  connect(calculate, &CalculateArea::calculateRequested, this, [this] {
+    commit();
+    model_.recalculate();
+  });
+}
+
+QWidget* SidebarView::makeExportArea() {
+  auto* const area = new QGroupBox(tr("Export options"));
+  nativeExport_ = named(new QPushButton, "nativeExportButton", tr("Export in its own format"));
+  auto* const pdf = named(new QPushButton(tr("&PDF")), "pdfButton", tr("Export as PDF"));
+  auto* const row = new QHBoxLayout;
+  row->addWidget(nativeExport_);
+  row->addWidget(pdf);
+  auto* const column = new QVBoxLayout(area);
+  column->setContentsMargins(exportPadding, exportPadding, exportPadding, exportPadding);
+  column->addLayout(row);
+  column->addWidget(footerLabel(tr("Version ") + programVersion(), "versionLabel"));
+  column->addWidget(footerLabel(tr("Build ") + programBuild(), "buildLabel"));
+  connect(nativeExport_, &QPushButton::clicked, this, [this] {
+    commit();
+    Q_EMIT nativeExportRequested();
+  });
+  connect(pdf, &QPushButton::clicked, this, [this] {
+    commit();
+    Q_EMIT pdfExportRequested();
+  });
+  return area;
+}
+
+void SidebarView::setTab(exports::OutputTab tab) {
+  const bool isChart = tab == exports::OutputTab::starMap || tab == exports::OutputTab::horoscope;
+  nativeExport_->setText(isChart ? tr("S&VG") : tr("&TXT"));
+  location_->showColorMode(tab == exports::OutputTab::horoscope);
+}
+
+void SidebarView::commit() {
+  location_->commit();
+  date_->commit();
+}
+
+}  // namespace veyruna::ui

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QScrollArea>
+
+#include "export/output_tab.h"
+#include "model/astronomy_model.h"
+
+class QPushButton;
+
+namespace veyruna::ui {
+
+class DateSection;
+class LocationSection;
+
+/// The inputs, top to bottom: place, date, time, the calculation and the exports.
+class SidebarView final : public QScrollArea {
+  Q_OBJECT
+
+ public:
+  explicit SidebarView(model::AstronomyModel& model, QWidget* parent = nullptr);
+
+  /// Fits the buttons to the tab that is shown.
+  void setTab(exports::OutputTab tab);
+
+  /// Takes over what is being typed anywhere in the sidebar.
+  void commit();
+
+ Q_SIGNALS:
+  void mapRequested();
+  void nativeExportRequested();
+  void pdfExportRequested();
+
+ private:
+  QWidget* makeExportArea();
+
+  model::AstronomyModel& model_;
+  LocationSection* location_;
+  DateSection* date_;
+  QPushButton* nativeExport_ = nullptr;
+};
+
+}  // namespace veyruna::ui

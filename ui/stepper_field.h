@@ -1,0 +1,50 @@
+#pragma once
+
+#include <QAbstractSpinBox>
+
+namespace veyruna::ui {
+
+/// A whole number that is stepped or typed, with its word in front: "Day 30", "Year 720".
+/// Shows any number it is given, also one outside its range, and never changes it by showing it;
+/// only what the person steps or types is kept in the range and reported.
+class StepperField final : public QAbstractSpinBox {
+  Q_OBJECT
+
+ public:
+  /// `offset` is added for showing: a day counted from 0 is shown from 1. The range is of the
+  /// number itself, both ends included.
+  StepperField(const QString& word, qint64 least, qint64 most, qint64 offset,
+               QWidget* parent = nullptr);
+
+  /// Shows a number; reports nothing.
+  void show(qint64 number);
+
+  /// Takes over what is being typed, where it is a number of the range.
+  void commit();
+
+  void stepBy(int steps) override;
+  QValidator::State validate(QString& text, int& position) const override;
+  void fixup(QString& text) const override;
+  [[nodiscard]] QSize sizeHint() const override;
+
+ Q_SIGNALS:
+  /// The person chose another number.
+  void edited(qint64 number);
+
+ protected:
+  [[nodiscard]] StepEnabled stepEnabled() const override;
+  void wheelEvent(QWheelEvent* event) override;
+
+ private:
+  [[nodiscard]] QString textOf(qint64 number) const;
+  [[nodiscard]] std::optional<qint64> numberIn(const QString& text) const;
+  void choose(qint64 number);
+
+  QString word_;
+  qint64 least_;
+  qint64 most_;
+  qint64 offset_;
+  qint64 number_ = 0;
+};
+
+}  // namespace veyruna::ui
