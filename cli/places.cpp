@@ -33,7 +33,7 @@ CityPreset manualPlace() {
 }
 
 QList<CityPreset> savedOrFirstPlaces() {
-  const std::optional<QString> path = model::standardLocationsPath();
+  const std::optional<QString> path = model::locationsFileURL();
   if (path) {
     const model::LocationsFile::Reading reading = model::LocationsFile(*path).read();
     if (reading.state == model::LocationsFile::State::whole) {

@@ -23,7 +23,7 @@ double storableAngle(double angle) {
 }  // namespace
 
 AstronomyModel::Surroundings AstronomyModel::standardSurroundings() {
-  return {std::make_shared<QtSettingsStore>(), standardLocationsPath(), &QUuid::createUuid,
+  return {std::make_shared<QtSettingsStore>(), locationsFileURL(), &QUuid::createUuid,
           poolExecutor()};
 }
 
@@ -35,7 +35,7 @@ AstronomyModel::AstronomyModel(Surroundings surroundings, QObject* parent)
       place_(readLocationSettings(*settings_)),
       date_(readDateSettings(*settings_)),
       locations_(std::move(surroundings.locationsPath), newId_) {
-  locations_.load();
+  locations_.loadCities();
 }
 
 AstronomyModel::~AstronomyModel() {

@@ -12,7 +12,7 @@
 
 namespace veyruna::model {
 
-std::optional<QString> standardLocationsPath() {
+std::optional<QString> locationsFileURL() {
   const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
   if (folder.isEmpty()) {
     return std::nullopt;

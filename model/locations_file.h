@@ -13,7 +13,7 @@ namespace veyruna::model {
 
 /// Where the saved places of this user are kept: "VeyrunaAstro/locations.json" in the platform's
 /// folder for application data. Nothing where there is no such folder. Creates nothing.
-std::optional<QString> standardLocationsPath();
+std::optional<QString> locationsFileURL();
 
 /// The file of saved places.
 class LocationsFile {

@@ -38,7 +38,7 @@ void SavedLocations::saveWhatWaits() {
   }
 }
 
-void SavedLocations::load() {
+void SavedLocations::loadCities() {
   if (file_) {
     const LocationsFile::Reading reading = file_->read();
     if (reading.state == LocationsFile::State::whole) {
@@ -117,7 +117,7 @@ void SavedLocations::changeShared(Change change) {
   }
   change(readFromFile);
   if (mayWrite && (!readFromFile || places() != inFile_)) {
-    save();
+    saveCities();
   }
 }
 
@@ -129,7 +129,7 @@ void SavedLocations::takeIn(const QList<CityPreset>& fromFile) {
   setPlaces(without(fromFile, removedHere) + without(addedHere, fromFile));
 }
 
-void SavedLocations::save() {
+void SavedLocations::saveCities() {
   if (file_->write(places())) {
     inFile_ = places();
   }

@@ -22,7 +22,7 @@ class SavedLocations {
 
   /// Reads the file. Where there is none, or one that cannot be read, the list is that of a first
   /// start and is saved at once.
-  void load();
+  void loadCities();
 
   /// Tries once more to write what could not be written so far.
   void saveWhatWaits();
@@ -43,7 +43,7 @@ class SavedLocations {
   template <class Change>
   void changeShared(Change change);
   void takeIn(const QList<CityPreset>& fromFile);
-  void save();
+  void saveCities();
 
   std::optional<LocationsFile> file_;
   IdSource newId_;

@@ -158,7 +158,7 @@ TEST_F(UserFaults, WhereItCannotBeKeptAside) {
     const tests::AsNobody user;
     ASSERT_TRUE(user.holds());
     SavedLocations saved(path, &QUuid::createUuid);
-    saved.load();
+    saved.loadCities();
     EXPECT_EQ(saved.cities().size(), 14);
     saved.add(u"First"_s, 0.1, 0.2);
     EXPECT_EQ(folder.names(), QStringList{u"locations.json"_s});

@@ -44,7 +44,7 @@ TEST(SmallDisk, UnsavedPlacesGoWithTheNextChange) {
   const QString path = disk / u"locations.json"_s;
   writeBytes(path, threePlaces());
   SavedLocations saved(path, &QUuid::createUuid);
-  saved.load();
+  saved.loadCities();
   disk.fill(1);
   saved.add(u"First"_s, 0.1, 0.2);
   EXPECT_EQ(bytesIn(path), threePlaces());

@@ -21,7 +21,7 @@ void announce(std::uint32_t step) {
 
 [[noreturn]] void savePlaces(const QString& path) {
   model::SavedLocations saved(path, &QUuid::createUuid);
-  saved.load();
+  saved.loadCities();
   announce(0);
   QUuid added;
   for (std::uint32_t step = 1;; ++step) {

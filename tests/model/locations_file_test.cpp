@@ -116,7 +116,7 @@ TEST_F(LocationsFileTest, AFileThatVanishedIsWrittenAgain) {
 
 TEST_F(LocationsFileTest, WithoutAPathPlacesLiveInMemory) {
   SavedLocations saved(std::nullopt, countingIds());
-  saved.load();
+  saved.loadCities();
   const QUuid id = add(saved, u"Dune"_s);
   EXPECT_EQ(saved.cities().size(), 15);
   saved.remove(id);

@@ -15,7 +15,7 @@ class LocationsFileTest : public testing::Test {
   /// A program that starts now and reads the file.
   [[nodiscard]] model::SavedLocations started() const {
     model::SavedLocations saved(path, &QUuid::createUuid);
-    saved.load();
+    saved.loadCities();
     return saved;
   }
   static QUuid add(model::SavedLocations& saved, const QString& name) {

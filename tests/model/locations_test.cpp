@@ -18,7 +18,7 @@ using tests::countingIds;
 /// A list of a first start that is kept nowhere.
 class Locations : public testing::Test {
  protected:
-  Locations() { saved.load(); }
+  Locations() { saved.loadCities(); }
 
   [[nodiscard]] QStringList names() const {
     QStringList all;

@@ -23,7 +23,7 @@ inline QByteArray threePlaces() {
 /// A program that starts, saves a place and deletes one, and ends.
 inline void useTheList(const QString& path, const QString& name = QStringLiteral("New place")) {
   model::SavedLocations saved(path, &QUuid::createUuid);
-  saved.load();
+  saved.loadCities();
   EXPECT_GE(saved.cities().size(), 1);
   const auto added = saved.add(name, 0.1, 0.2);
   ASSERT_TRUE(std::holds_alternative<QUuid>(added));
