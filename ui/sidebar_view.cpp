@@ -88,8 +88,7 @@ QWidget* SidebarView::makeExportArea() {
 }
 
 void SidebarView::setTab(exports::OutputTab tab) {
-  const bool isChart = tab == exports::OutputTab::starMap || tab == exports::OutputTab::horoscope;
-  nativeExport_->setText(isChart ? tr("S&VG") : tr("&TXT"));
+  nativeExport_->setText(exports::isChart(tab) ? tr("S&VG") : tr("&TXT"));
   location_->showColorMode(tab == exports::OutputTab::horoscope);
 }
 
