@@ -1,7 +1,7 @@
 #include "ui/application.h"
 
 #include <QApplication>
-#include <QTimer>
+#include <QScreen>
 #include <utility>
 
 #include "ui/about_view.h"
@@ -9,15 +9,29 @@
 
 namespace veyruna::ui {
 
+namespace {
+
+constexpr int cascade = 24;  // from one window to the next, to the right and down
+
+}  // namespace
+
 VeyrunaAstroApp::VeyrunaAstroApp(model::AstronomyModel::Surroundings surroundings,
-                                 const QString& statePath)
-    : model_(std::move(surroundings)), state_(statePath) {}
+                                 PageEngine engine, const QString& statePath)
+    : model_(std::move(surroundings)), engine_(std::move(engine)), state_(statePath) {}
 
 MainWindow* VeyrunaAstroApp::openWindow() {
-  auto* const window = new MainWindow(model_, state_);
+  auto* const window = new MainWindow(model_, engine_, state_);
   connect(window, &MainWindow::newWindowRequested, this, &VeyrunaAstroApp::openWindow);
   connect(window, &MainWindow::aboutRequested, this, &VeyrunaAstroApp::openAbout);
   connect(window, &MainWindow::quitRequested, qApp, &QApplication::closeAllWindows);
+  // Beside the window it was opened from, not on top of it.
+  if (const QWidget* const other = QApplication::activeWindow();
+      qobject_cast<const MainWindow*>(other) != nullptr) {
+    const QRect room = other->screen()->availableGeometry();
+    const QPoint beside = other->pos() + QPoint(cascade, cascade);
+    const bool fits = room.contains(QRect(beside, window->frameSize()));
+    window->move(fits ? beside : room.topLeft());
+  }
   window->show();
   model_.recalculate();
   return window;

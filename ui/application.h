@@ -4,6 +4,7 @@
 #include <QPointer>
 
 #include "model/astronomy_model.h"
+#include "ui/page_engine.h"
 #include "ui/window_state.h"
 
 namespace veyruna::ui {
@@ -16,7 +17,8 @@ class VeyrunaAstroApp final : public QObject {
   Q_OBJECT
 
  public:
-  VeyrunaAstroApp(model::AstronomyModel::Surroundings surroundings, const QString& statePath);
+  VeyrunaAstroApp(model::AstronomyModel::Surroundings surroundings, PageEngine engine,
+                  const QString& statePath);
 
   /// Opens another window on the model and calculates for it.
   MainWindow* openWindow();
@@ -28,6 +30,7 @@ class VeyrunaAstroApp final : public QObject {
 
  private:
   model::AstronomyModel model_;
+  PageEngine engine_;
   WindowState state_;
   QPointer<AboutView> about_;
 };

@@ -23,13 +23,13 @@ QString angleText(double radians) {
 
 }  // namespace
 
-DetailedView::DetailedView(AstronomyModel& model, QWidget* parent)
+DetailedView::DetailedView(AstronomyModel& model, const PageEngine& engine, QWidget* parent)
     : QWidget(parent),
       model_(model),
       caption_(named(new QLabel, "caption", tr("Moment and place of what is shown"))),
       tabs_(new QStackedWidget),
-      starMap_(new SVGView(tr("Star map"))),
-      horoscope_(new SVGView(tr("Horoscope"))),
+      starMap_(new SVGView(engine, tr("Star map"))),
+      horoscope_(new SVGView(engine, tr("Horoscope"))),
       planets_(new PlanetsView),
       sunMoon_(new TablesView({tr("Hourly"), tr("Monthly"), tr("No table data")})),
       positions_(new TablesView({tr("Daily"), tr("Yearly"), tr("No conjunction data")})) {

@@ -4,6 +4,7 @@
 
 #include "export/output_tab.h"
 #include "model/astronomy_model.h"
+#include "ui/page_engine.h"
 
 class QLabel;
 class QStackedWidget;
@@ -20,7 +21,7 @@ class DetailedView final : public QWidget {
   Q_OBJECT
 
  public:
-  explicit DetailedView(model::AstronomyModel& model, QWidget* parent = nullptr);
+  DetailedView(model::AstronomyModel& model, const PageEngine& engine, QWidget* parent = nullptr);
 
   void setTab(exports::OutputTab tab);
 

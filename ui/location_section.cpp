@@ -12,6 +12,7 @@
 #include "astro/number_text.h"
 #include "ui/angle_field.h"
 #include "ui/named.h"
+#include "ui/segmented_picker.h"
 #include "ui/still_controls.h"
 
 namespace veyruna::ui {
@@ -29,13 +30,6 @@ QString coordinateText(double radians, const char* positive, const char* negativ
   }
   astro::appendFixed(text, degrees, 2);
   return QString::fromStdString(text + "° " + (radians >= 0.0 ? positive : negative));
-}
-
-/// Two letters to choose from; the first is index 0.
-QComboBox* letterChoice(const QString& first, const QString& second) {
-  auto* const choice = new StillComboBox;
-  choice->addItems({first, second});
-  return choice;
 }
 
 }  // namespace
@@ -89,9 +83,9 @@ QWidget* LocationSection::makeSavedPlace() {
 QWidget* LocationSection::makeManualFields() {
   auto* const fields = new QWidget;
   latitude_ = named(new AngleField(90.0), "latitudeField", tr("Latitude in degrees"));
+  northSouth_ = new SegmentedPicker("northSouth", {tr("N"), tr("S")}, {tr("North"), tr("South")});
   longitude_ = named(new AngleField(180.0), "longitudeField", tr("Longitude in degrees"));
-  northSouth_ = named(letterChoice(tr("N"), tr("S")), "northSouth", tr("North or south"));
-  eastWest_ = named(letterChoice(tr("E"), tr("W")), "eastWest", tr("East or west"));
+  eastWest_ = new SegmentedPicker("eastWest", {tr("E"), tr("W")}, {tr("East"), tr("West")});
   latitude_->setMinimumWidth(fieldWidth);
   longitude_->setMinimumWidth(fieldWidth);
   auto* const latitudeLabel = new QLabel(tr("L&atitude"));
@@ -114,10 +108,10 @@ QWidget* LocationSection::makeManualFields() {
 
   connect(latitude_, &AngleField::edited, &model_, &model::AstronomyModel::setManualLatDeg);
   connect(longitude_, &AngleField::edited, &model_, &model::AstronomyModel::setManualLongDeg);
-  connect(northSouth_, &QComboBox::activated, &model_,
-          [this](int index) { model_.setLatNorth(index == 0); });
-  connect(eastWest_, &QComboBox::activated, &model_,
-          [this](int index) { model_.setLongWest(index == 1); });
+  connect(northSouth_, &SegmentedPicker::picked, &model_,
+          [this](int segment) { model_.setLatNorth(segment == 0); });
+  connect(eastWest_, &SegmentedPicker::picked, &model_,
+          [this](int segment) { model_.setLongWest(segment == 1); });
   connect(save, &QPushButton::clicked, this, &LocationSection::saveRequested);
   return fields;
 }
@@ -125,7 +119,7 @@ QWidget* LocationSection::makeManualFields() {
 QWidget* LocationSection::makeButtons() {
   auto* const buttons = new QWidget;
   auto* const map = named(
-      new QPushButton(QIcon::fromTheme(QStringLiteral("mark-location")), tr("&Pick from map…")),
+      new QPushButton(QIcon::fromTheme(QStringLiteral("mark-location")), tr("Pic&k from map…")),
       "mapButton", tr("Pick the location from the map"));
   colorMode_ = named(new QPushButton, "colorModeButton", tr("Colour mode of the horoscope"));
   colorMode_->hide();
@@ -179,8 +173,8 @@ void LocationSection::showPlace() {
 void LocationSection::showManualFields() {
   latitude_->show(model_.manualLatDeg());
   longitude_->show(model_.manualLongDeg());
-  northSouth_->setCurrentIndex(model_.latNorth() ? 0 : 1);
-  eastWest_->setCurrentIndex(model_.longWest() ? 1 : 0);
+  northSouth_->setChosen(model_.latNorth() ? 0 : 1);
+  eastWest_->setChosen(model_.longWest() ? 1 : 0);
 }
 
 }  // namespace veyruna::ui

@@ -13,6 +13,7 @@ class QWidget;
 namespace veyruna::ui {
 
 class AngleField;
+class SegmentedPicker;
 
 /// Where the observer stands: a saved place, or the manual fields.
 class LocationSection final : public QGroupBox {
@@ -47,8 +48,8 @@ class LocationSection final : public QGroupBox {
   QWidget* manualFields_ = nullptr;
   AngleField* latitude_ = nullptr;
   AngleField* longitude_ = nullptr;
-  QComboBox* northSouth_ = nullptr;
-  QComboBox* eastWest_ = nullptr;
+  SegmentedPicker* northSouth_ = nullptr;
+  SegmentedPicker* eastWest_ = nullptr;
   QPushButton* colorMode_ = nullptr;
 };
 

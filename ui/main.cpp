@@ -7,6 +7,7 @@
 #include "export/sealed_page.h"
 #include "ui/application.h"
 #include "ui/program.h"
+#include "ui/web_page_engine.h"
 
 namespace {
 
@@ -37,7 +38,7 @@ int main(int argc, char** argv) {
   const QApplication application(argc, argv);
   QApplication::setApplicationName(QStringLiteral("Veyruna Astro"));
   veyruna::ui::VeyrunaAstroApp program(
-      veyruna::model::AstronomyModel::standardSurroundings(),
+      veyruna::model::AstronomyModel::standardSurroundings(), veyruna::ui::webPageEngine(),
       QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
           QStringLiteral("/VeyrunaAstro/window.ini"));
   program.openWindow();

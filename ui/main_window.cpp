@@ -1,24 +1,17 @@
 #include "ui/main_window.h"
 
 #include <QAction>
-#include <QActionGroup>
 #include <QCloseEvent>
-#include <QDir>
-#include <QFileDialog>
-#include <QFileInfo>
-#include <QHBoxLayout>
 #include <QMenuBar>
-#include <QPointer>
 #include <QSplitter>
 #include <QStatusBar>
-#include <QToolBar>
-#include <QToolButton>
 
-#include "export/pdf_exporter.h"
 #include "ui/detailed_view.h"
+#include "ui/export_commands.h"
+#include "ui/export_notice.h"
 #include "ui/help_menu.h"
-#include "ui/named.h"
 #include "ui/sidebar_view.h"
+#include "ui/tab_selector.h"
 #include "ui/window_state.h"
 
 namespace veyruna::ui {
@@ -29,25 +22,20 @@ using exports::OutputTab;
 
 constexpr int idealSidebarWidth = 300;
 constexpr QSize firstSize(1180, 780);
-constexpr int messageMilliseconds = 8000;
-
-exports::PdfRenderer webEngineRenderer() {
-  return [](const QString& html, const QSizeF& pageSize, const exports::PdfCompletion& done) {
-    exports::PDFExporter::start(html, pageSize, done);
-  };
-}
 
 }  // namespace
 
-MainWindow::MainWindow(model::AstronomyModel& model, WindowState& state, QWidget* parent)
+MainWindow::MainWindow(model::AstronomyModel& model, const PageEngine& engine, WindowState& state,
+                       QWidget* parent)
     : QMainWindow(parent),
       state_(state),
-      exporter_(model, webEngineRenderer()),
+      tabs_(new TabSelector(this)),
       sidebar_(new SidebarView(model)),
-      output_(new DetailedView(model)),
-      tabActions_(new QActionGroup(this)) {
+      output_(new DetailedView(model, engine)) {
   setWindowTitle(tr("Veyrunan Astrologer"));
   setAttribute(Qt::WA_DeleteOnClose);
+  setContextMenuPolicy(Qt::NoContextMenu);  // which would offer to hide the toolbar
+  addToolBar(tabs_);
   auto* const columns = new QSplitter;
   columns->addWidget(sidebar_);
   columns->addWidget(output_);
@@ -55,13 +43,17 @@ MainWindow::MainWindow(model::AstronomyModel& model, WindowState& state, QWidget
   columns->setStretchFactor(1, 1);
   columns->setSizes({idealSidebarWidth, firstSize.width() - idealSidebarWidth});
   setCentralWidget(columns);
-  makeTabSelector();
+  auto* const notice = new ExportNotice;
+  statusBar()->addWidget(notice, 1);
+  exports_ = new ExportCommands(model, engine, state, *notice, *this);
   makeMenus();
-  statusBar();
 
+  connect(tabs_, &TabSelector::chosen, this, &MainWindow::selectTab);
   connect(sidebar_, &SidebarView::mapRequested, this, [this] { selectTab(OutputTab::location); });
-  connect(sidebar_, &SidebarView::nativeExportRequested, this, &MainWindow::exportNative);
-  connect(sidebar_, &SidebarView::pdfExportRequested, this, &MainWindow::exportPdf);
+  connect(sidebar_, &SidebarView::nativeExportRequested, this,
+          [this] { exports_->exportNative(selectedTab_); });
+  connect(sidebar_, &SidebarView::pdfExportRequested, this,
+          [this] { exports_->exportPdf(selectedTab_); });
   selectTab(OutputTab::starMap);
   resize(firstSize);
   restoreGeometry(state_.geometry());  // keeps the window on a screen that is there
@@ -70,114 +62,27 @@ MainWindow::MainWindow(model::AstronomyModel& model, WindowState& state, QWidget
 void MainWindow::selectTab(OutputTab tab) {
   sidebar_->commit();
   selectedTab_ = tab;
-  tabActions_->actions().at(static_cast<int>(tab))->setChecked(true);
+  tabs_->setTab(tab);
   sidebar_->setTab(tab);
   output_->setTab(tab);
 }
 
-void MainWindow::makeTabSelector() {
-  // One widget holds all buttons, and the window is at least as wide: none can fold away.
-  auto* const selector = new QWidget;
-  auto* const row = new QHBoxLayout(selector);
-  row->setContentsMargins({});
-  row->addStretch();
-  int number = 1;
-  for (const OutputTab tab : exports::outputTabs) {
-    auto* const action =
-        new QAction(exports::title(tab).replace(QLatin1Char('&'), QStringLiteral("&&")), this);
-    action->setCheckable(true);
-    action->setShortcut(QKeySequence(QStringLiteral("Ctrl+%1").arg(number)));
-    tabActions_->addAction(action);
-    addAction(action);
-    auto* const button = named(new QToolButton, "", tr("Show the tab %1").arg(exports::title(tab)));
-    button->setObjectName(QStringLiteral("tab%1").arg(number));
-    button->setDefaultAction(action);
-    button->setToolButtonStyle(Qt::ToolButtonTextOnly);
-    button->setFocusPolicy(Qt::StrongFocus);
-    row->addWidget(button);
-    connect(action, &QAction::triggered, this, [this, tab] { selectTab(tab); });
-    ++number;
-  }
-  row->addStretch();
-  selector->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-  selector->setMinimumWidth(row->minimumSize().width());
-
-  auto* const bar = new QToolBar(tr("Tabs"));
-  bar->setObjectName(QStringLiteral("tabSelector"));
-  bar->setMovable(false);
-  bar->setFloatable(false);
-  bar->setContextMenuPolicy(Qt::PreventContextMenu);
-  bar->toggleViewAction()->setEnabled(false);
-  bar->addWidget(selector);
-  addToolBar(bar);
-  setContextMenuPolicy(Qt::NoContextMenu);
-  setMinimumWidth(bar->sizeHint().width() + bar->layout()->contentsMargins().left() * 2);
-}
-
 void MainWindow::makeMenus() {
+  const auto add = [this](QMenu* menu, const QString& title, const char* keys, auto signal) {
+    QAction* const action = menu->addAction(title, this, signal);
+    action->setShortcut(QKeySequence(QString::fromLatin1(keys)));
+  };
   QMenu* const program = menuBar()->addMenu(tr("&Veyruna Astro"));
-  program->addAction(tr("&About Veyruna Astro"), this, &MainWindow::aboutRequested);
-  QAction* const quit = program->addAction(tr("&Quit"), this, &MainWindow::quitRequested);
-  quit->setShortcut(QKeySequence(QStringLiteral("Ctrl+Q")));
-
+  add(program, tr("&About Veyruna Astro"), "", &MainWindow::aboutRequested);
+  add(program, tr("&Quit"), "Ctrl+Q", &MainWindow::quitRequested);
   QMenu* const file = menuBar()->addMenu(tr("&File"));
-  QAction* const another =
-      file->addAction(tr("&New Window"), this, &MainWindow::newWindowRequested);
-  another->setShortcut(QKeySequence(QStringLiteral("Ctrl+N")));
-  QAction* const close = file->addAction(tr("&Close"), this, &QWidget::close);
-  close->setShortcut(QKeySequence(QStringLiteral("Ctrl+W")));
-
+  add(file, tr("&New Window"), "Ctrl+N", &MainWindow::newWindowRequested);
+  add(file, tr("&Close"), "Ctrl+W", &QWidget::close);
   addHelpMenu(*menuBar());
 }
 
-void MainWindow::exportNative() {
-  const auto content = exporter_.native(selectedTab_);
-  if (!content) {
-    return;
-  }
-  const bool isSvg = content->format == exports::NativeFormat::svg;
-  ask(content->message, content->proposedName, isSvg ? tr("SVG (*.svg)") : tr("Plain text (*.txt)"),
-      content->extension, [this, content = *content](const QString& path) {
-        exporter_.save(content, path, reportTo(path));
-      });
-}
-
-void MainWindow::exportPdf() {
-  const auto content = exporter_.pdf(selectedTab_);
-  if (!content) {
-    return;
-  }
-  ask(content->message, content->proposedName, tr("PDF (*.pdf)"), QStringLiteral("pdf"),
-      [this, content = *content](const QString& path) {
-        exporter_.save(content, path, reportTo(path));
-      });
-}
-
-void MainWindow::ask(const QString& message, const QString& proposedName, const QString& filter,
-                     const QString& suffix, const std::function<void(const QString& path)>& save) {
-  auto* const dialog = new QFileDialog(this, message, state_.exportFolder(), filter);
-  dialog->setObjectName(QStringLiteral("saveDialog"));
-  dialog->setAttribute(Qt::WA_DeleteOnClose);
-  dialog->setAcceptMode(QFileDialog::AcceptSave);
-  dialog->setDefaultSuffix(suffix);
-  dialog->selectFile(proposedName);
-  connect(dialog, &QFileDialog::fileSelected, this, [this, save](const QString& path) {
-    state_.setExportFolder(QFileInfo(path).absolutePath());
-    save(path);
-  });
-  dialog->open();
-}
-
-exports::Saved MainWindow::reportTo(const QString& path) {
-  return [window = QPointer<MainWindow>(this), path](const std::optional<QString>& error) {
-    if (window) {
-      window->statusBar()->showMessage(
-          error ? *error : tr("Saved %1").arg(QFileInfo(path).fileName()), messageMilliseconds);
-    }
-  };
-}
-
 void MainWindow::closeEvent(QCloseEvent* event) {
+  sidebar_->commit();
   state_.setGeometry(saveGeometry());
   QMainWindow::closeEvent(event);
 }

@@ -2,16 +2,16 @@
 
 #include <QMainWindow>
 
-#include "export/document_exporter.h"
 #include "export/output_tab.h"
 #include "model/astronomy_model.h"
-
-class QActionGroup;
+#include "ui/page_engine.h"
 
 namespace veyruna::ui {
 
 class DetailedView;
+class ExportCommands;
 class SidebarView;
+class TabSelector;
 class WindowState;
 
 /// A window on the shared model: inputs on the left, outputs on the right, the tabs in the toolbar.
@@ -19,9 +19,12 @@ class MainWindow final : public QMainWindow {
   Q_OBJECT
 
  public:
-  MainWindow(model::AstronomyModel& model, WindowState& state, QWidget* parent = nullptr);
+  MainWindow(model::AstronomyModel& model, const PageEngine& engine, WindowState& state,
+             QWidget* parent = nullptr);
 
   [[nodiscard]] exports::OutputTab selectedTab() const { return selectedTab_; }
+
+  /// Takes over what is being typed and shows the tab.
   void selectTab(exports::OutputTab tab);
 
  Q_SIGNALS:
@@ -34,19 +37,13 @@ class MainWindow final : public QMainWindow {
 
  private:
   void makeMenus();
-  void makeTabSelector();
-  void exportNative();
-  void exportPdf();
-  void ask(const QString& message, const QString& proposedName, const QString& filter,
-           const QString& suffix, const std::function<void(const QString& path)>& save);
-  exports::Saved reportTo(const QString& path);
 
   WindowState& state_;
-  exports::DocumentExporter exporter_;
-  exports::OutputTab selectedTab_ = exports::OutputTab::starMap;
+  TabSelector* tabs_;
   SidebarView* sidebar_;
   DetailedView* output_;
-  QActionGroup* tabActions_;
+  ExportCommands* exports_;
+  exports::OutputTab selectedTab_ = exports::OutputTab::starMap;
 };
 
 }  // namespace veyruna::ui

@@ -88,7 +88,7 @@ QWidget* SidebarView::makeExportArea() {
 }
 
 void SidebarView::setTab(exports::OutputTab tab) {
-  nativeExport_->setText(exports::isChart(tab) ? tr("S&VG") : tr("&TXT"));
+  nativeExport_->setText(exports::isChart(tab) ? tr("SV&G") : tr("&TXT"));
   location_->showColorMode(tab == exports::OutputTab::horoscope);
 }
 

@@ -2,31 +2,34 @@
 
 #include <QWidget>
 
+#include "ui/page_engine.h"
+
 class QVBoxLayout;
-class QWebEngineView;
 
 namespace veyruna::ui {
 
-/// A chart, scaled to the view. The web view behind it is made when the chart is first to be seen;
-/// its page runs no scripts and may load nothing.
+/// A chart, scaled to the view. What draws it is made when the chart is first to be seen, after the
+/// window's first paint.
 class SVGView final : public QWidget {
   Q_OBJECT
 
  public:
-  explicit SVGView(const QString& accessibleName, QWidget* parent = nullptr);
+  SVGView(const PageEngine& engine, const QString& accessibleName, QWidget* parent = nullptr);
 
   /// Shows a chart; the same chart again costs nothing.
   void show(const QString& svg);
 
  protected:
-  void showEvent(QShowEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
 
  private:
-  void makeView();
+  void makePage();
   void load();
 
+  std::function<PageView*()> makeView_;
   QVBoxLayout* layout_;
-  QWebEngineView* view_ = nullptr;
+  PageView* page_ = nullptr;
+  bool isPageDue_ = false;
   QString svg_;
   QString loaded_;
 };

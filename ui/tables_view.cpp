@@ -1,13 +1,11 @@
 #include "ui/tables_view.h"
 
-#include <QButtonGroup>
 #include <QHBoxLayout>
-#include <QPushButton>
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
 #include "ui/monospaced_text_view.h"
-#include "ui/named.h"
+#include "ui/segmented_picker.h"
 
 namespace veyruna::ui {
 
@@ -20,19 +18,13 @@ TablesView::TablesView(const Texts& titles, QWidget* parent)
   tables->addWidget(first_);
   tables->addWidget(second_);
 
-  auto* const choice = new QButtonGroup(this);
+  auto* const choice =
+      new SegmentedPicker("show", {titles.first, titles.second}, {titles.first, titles.second});
   auto* const row = new QHBoxLayout;
   row->addStretch();
-  for (const QString& title : {titles.first, titles.second}) {
-    auto* const button = named(new QPushButton(title), "", title);
-    button->setObjectName(QStringLiteral("show") + title);
-    button->setCheckable(true);
-    choice->addButton(button, static_cast<int>(choice->buttons().size()));
-    row->addWidget(button);
-  }
+  row->addWidget(choice);
   row->addStretch();
-  choice->button(0)->setChecked(true);
-  connect(choice, &QButtonGroup::idClicked, tables, &QStackedWidget::setCurrentIndex);
+  connect(choice, &SegmentedPicker::picked, tables, &QStackedWidget::setCurrentIndex);
 
   column_->addLayout(row);
   column_->addWidget(tables, 1);

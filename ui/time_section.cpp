@@ -34,7 +34,7 @@ TimeSection::TimeSection(model::AstronomyModel& model, QWidget* parent)
   clock_ = named(new QLabel, "hourLabel", tr("Hour chosen"));
   clock_->setMinimumWidth(clockWidth);
   clock_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-  auto* const hourLabel = new QLabel(tr("&Hour"));
+  auto* const hourLabel = new QLabel(tr("Ho&ur"));
   hourLabel->setBuddy(slider_);
   auto* const hourRow = new QHBoxLayout;
   hourRow->addWidget(hourLabel);
@@ -51,7 +51,7 @@ TimeSection::TimeSection(model::AstronomyModel& model, QWidget* parent)
   stepRow->addWidget(later_);
 
   auto* const localTime =
-      named(new QCheckBox(tr("&Use local time")), "localTime", tr("Use local time"));
+      named(new QCheckBox(tr("Use local t&ime")), "localTime", tr("Use local time"));
 
   auto* const column = new QVBoxLayout(this);
   column->addLayout(hourRow);

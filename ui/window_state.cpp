@@ -12,25 +12,25 @@ const QString exportFolderKey = QStringLiteral("exportFolder");
 
 }  // namespace
 
-WindowState::WindowState(const QString& path) : state_(path, QSettings::IniFormat) {}
+WindowState::WindowState(const QString& path) : state_(path) {}
 
 QByteArray WindowState::geometry() const {
-  return state_.value(geometryKey).toByteArray();
+  return QByteArray::fromBase64(state_.stored(geometryKey).toString().toLatin1());
 }
 
 void WindowState::setGeometry(const QByteArray& geometry) {
-  state_.setValue(geometryKey, geometry);
+  state_.store({{geometryKey, QString::fromLatin1(geometry.toBase64())}});
 }
 
 QString WindowState::exportFolder() const {
-  const QString folder = state_.value(exportFolderKey).toString();
+  const QString folder = state_.stored(exportFolderKey).toString();
   return QFileInfo(folder).isDir()
              ? folder
              : QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
 }
 
 void WindowState::setExportFolder(const QString& folder) {
-  state_.setValue(exportFolderKey, folder);
+  state_.store({{exportFolderKey, folder}});
 }
 
 }  // namespace veyruna::ui

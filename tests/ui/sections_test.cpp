@@ -103,8 +103,8 @@ TEST_F(Sidebar, TheManualFieldsSetTheManualPlace) {
   EXPECT_EQ(model.manualLatDeg(), 40.5);
   location.commit();
   EXPECT_EQ(model.manualLatDeg(), 12.0);
-  choose(in<QComboBox>(location, "northSouth"), 1);
-  choose(in<QComboBox>(location, "eastWest"), 0);
+  in<QPushButton>(location, "northSouthS")->click();
+  in<QPushButton>(location, "eastWestE")->click();
   EXPECT_FALSE(model.latNorth());
   EXPECT_FALSE(model.longWest());
 }

@@ -4,8 +4,6 @@
 #include <cstdlib>
 #include <gtest/gtest.h>
 
-#include "export/sealed_page.h"
-
 /// Runs the tests under a windowing application, in the plain locale or in the one named in
 /// VEYRUNA_TEST_LOCALE, which must write decimal commas.
 int main(int argc, char** argv) {
@@ -16,7 +14,6 @@ int main(int argc, char** argv) {
     std::fprintf(stderr, "the locale %s writes no decimal comma\n", name);
     return 1;
   }
-  veyruna::exports::prepareWebEngine();
   const QApplication application(argc, argv);
   return RUN_ALL_TESTS();
 }

@@ -10,6 +10,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/model/fakes.h"
+#include "tests/ui/recording_engine.h"
 #include "ui/about_view.h"
 #include "ui/application.h"
 #include "ui/main_window.h"
@@ -25,7 +26,7 @@ using exports::OutputTab;
 struct Window : testing::Test, tests::FakeModel {
   QTemporaryDir folder;
   WindowState state{folder.filePath(QStringLiteral("window.ini"))};
-  MainWindow window{model, state};
+  MainWindow window{model, tests::recordingEngine(), state};
 
   [[nodiscard]] QString nativeExportText() const {
     return window.findChild<QAbstractButton*>(QStringLiteral("nativeExportButton"))
@@ -68,7 +69,7 @@ TEST_F(Window, TheTabSelectorCannotBeHiddenOrMoved) {
   EXPECT_FALSE(bar->isMovable());
   EXPECT_FALSE(bar->isFloatable());
   EXPECT_FALSE(bar->toggleViewAction()->isEnabled());
-  EXPECT_GE(window.minimumWidth(), bar->sizeHint().width());
+  EXPECT_GE(window.minimumSizeHint().width(), bar->sizeHint().width());
 }
 
 TEST_F(Window, EveryControlHasANameToSpeakAndOneToFind) {
@@ -120,7 +121,8 @@ TEST_F(Window, TheHelpMenuHoldsItsTwoLinksAlone) {
 TEST(About, OpensOnceAndComesForward) {
   const tests::FakeWorld world;
   const QTemporaryDir folder;
-  VeyrunaAstroApp program(world.surroundings(), folder.filePath(QStringLiteral("window.ini")));
+  VeyrunaAstroApp program(world.surroundings(), tests::recordingEngine(),
+                          folder.filePath(QStringLiteral("window.ini")));
   const AboutView* const about = program.openAbout();
   EXPECT_EQ(program.openAbout(), about);
   EXPECT_EQ(about->width(), 650);

@@ -1,0 +1,43 @@
+#include "ui/segmented_picker.h"
+
+#include <QButtonGroup>
+#include <QHBoxLayout>
+#include <QPushButton>
+
+namespace veyruna::ui {
+
+SegmentedPicker::SegmentedPicker(const char* name, const QStringList& titles,
+                                 const QStringList& spoken, QWidget* parent)
+    : QWidget(parent), segments_(new QButtonGroup(this)) {
+  setObjectName(QString::fromLatin1(name));
+  auto* const row = new QHBoxLayout(this);
+  row->setContentsMargins({});
+  row->setSpacing(0);
+  for (int segment = 0; segment < titles.size(); ++segment) {
+    const QString& title = titles[segment];
+    auto* const button = new QPushButton(title);
+    button->setObjectName(objectName() + title);
+    button->setAccessibleName(spoken[segment]);
+    button->setCheckable(true);
+    button->setAutoDefault(false);
+    // As wide as its title asks, not as wide as a button that stands alone.
+    const int padding =
+        2 * button->fontMetrics().averageCharWidth() + button->fontMetrics().height();
+    button->setMinimumWidth(button->fontMetrics().horizontalAdvance(title) + padding);
+    button->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    segments_->addButton(button, segment);
+    row->addWidget(button);
+  }
+  segments_->button(0)->setChecked(true);
+  connect(segments_, &QButtonGroup::idClicked, this, &SegmentedPicker::picked);
+}
+
+void SegmentedPicker::setChosen(int segment) {
+  segments_->button(segment)->setChecked(true);
+}
+
+int SegmentedPicker::chosen() const {
+  return segments_->checkedId();
+}
+
+}  // namespace veyruna::ui
