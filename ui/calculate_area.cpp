@@ -4,9 +4,11 @@
 #include <QLabel>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QShortcut>
 #include <QVBoxLayout>
 
 #include "ui/named.h"
+#include "ui/warning_label.h"
 
 namespace veyruna::ui {
 
@@ -14,11 +16,13 @@ namespace {
 
 using model::AstronomyModel;
 
-/// A label in small type that keeps its place when it has nothing to say.
-QLabel* smallLabel() {
-  auto* const label = new QLabel;
+constexpr double smallType = 0.85;
+
+/// Sets a label in small type.
+template <class Label>
+Label* small(Label* label) {
   QFont font = label->font();
-  font.setPointSizeF(font.pointSizeF() * 0.85);
+  font.setPointSizeF(font.pointSizeF() * smallType);
   label->setFont(font);
   label->setWordWrap(true);
   return label;
@@ -30,7 +34,12 @@ CalculateArea::CalculateArea(AstronomyModel& model, QWidget* parent)
     : QWidget(parent), model_(model) {
   auto* const button = named(new QPushButton(tr("&Calculate")), "calculateButton", tr("Calculate"));
   button->setDefault(true);
-  button->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Return));
+  // Beside the mnemonic, which is a button's one shortcut.
+  for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
+    auto* const shortcut = new QShortcut(QKeySequence(Qt::CTRL | key), this);
+    connect(shortcut, &QShortcut::activated, button, &QPushButton::click);
+  }
+  button->setToolTip(QKeySequence(Qt::CTRL | Qt::Key_Return).toString(QKeySequence::NativeText));
   progress_ = named(new QProgressBar, "progress", tr("Calculating"));
   progress_->setRange(0, 0);
   progress_->setTextVisible(false);
@@ -38,10 +47,12 @@ CalculateArea::CalculateArea(AstronomyModel& model, QWidget* parent)
   QSizePolicy reserved = progress_->sizePolicy();
   reserved.setRetainSizeWhenHidden(true);
   progress_->setSizePolicy(reserved);
-  error_ = named(smallLabel(), "errorMessage", tr("Error"));
-  error_->setStyleSheet(QStringLiteral("color: #c0392b"));
-  difference_ = named(smallLabel(), "difference", tr("State of what is shown"));
-  difference_->setEnabled(false);
+  error_ = named(small(new WarningLabel), "errorMessage", tr("Error"));
+  difference_ = named(small(new QLabel), "difference", tr("State of what is shown"));
+  difference_->setEnabled(false);  // drawn in the palette's secondary colour
+  difference_->setAlignment(Qt::AlignTop);
+  difference_->setText(QStringLiteral("\n"));  // room for two lines, at all times
+  difference_->setMinimumHeight(difference_->sizeHint().height());
 
   auto* const row = new QHBoxLayout;
   row->addWidget(button, 1);

@@ -9,11 +9,12 @@ namespace veyruna::ui {
 
 namespace {
 
-void addLink(QMenu& menu, const QString& title, const QUrl& address) {
+QAction* addLink(QMenu& menu, const QString& title, const QUrl& address) {
   QAction* const action = menu.addAction(title);
   action->setEnabled(address.isValid());
   QObject::connect(action, &QAction::triggered, action,
                    [address] { QDesktopServices::openUrl(address); });
+  return action;
 }
 
 }  // namespace
@@ -21,7 +22,8 @@ void addLink(QMenu& menu, const QString& title, const QUrl& address) {
 void addHelpMenu(QMenuBar& bar) {
   const Product product = readProduct();
   QMenu* const menu = bar.addMenu(QMenuBar::tr("&Help"));
-  addLink(*menu, QMenuBar::tr("Veyruna Astro &Help"), product.documentation);
+  addLink(*menu, QMenuBar::tr("Veyruna Astro &Help"), product.documentation)
+      ->setShortcut(QKeySequence::HelpContents);
   addLink(*menu, QMenuBar::tr("&Developer Website"), product.developerWebsite);
 }
 

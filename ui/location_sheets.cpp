@@ -9,6 +9,7 @@
 #include <variant>
 
 #include "ui/named.h"
+#include "ui/warning_label.h"
 
 namespace veyruna::ui {
 
@@ -53,9 +54,7 @@ SaveLocationSheet::SaveLocationSheet(model::AstronomyModel& model, QWidget* pare
   auto* const label = new QLabel(tr("&Name"));
   name_ = named(new QLineEdit, "nameField", tr("Name"));
   label->setBuddy(name_);
-  error_ = named(new QLabel, "saveError", tr("Error"));
-  error_->setWordWrap(true);
-  error_->setTextFormat(Qt::PlainText);
+  error_ = named(new WarningLabel, "saveError", tr("Error"));
   error_->hide();
   auto* const cancel = named(new QPushButton(tr("&Cancel")), "cancelButton", tr("Cancel"));
   auto* const save = named(new QPushButton(tr("&Save")), "confirmButton", tr("Save"));

@@ -1,10 +1,13 @@
 #include "ui/sidebar_view.h"
 
+#include <QEvent>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QStyle>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "ui/calculate_area.h"
 #include "ui/date_section.h"
@@ -36,6 +39,7 @@ SidebarView::SidebarView(model::AstronomyModel& model, QWidget* parent)
       model_(model),
       location_(new LocationSection(model)),
       date_(new DateSection(model)) {
+  setObjectName(QStringLiteral("sidebar"));
   auto* const content = new QWidget;
   auto* const calculate = new CalculateArea(model);
   auto* const column = new QVBoxLayout(content);
@@ -49,7 +53,6 @@ SidebarView::SidebarView(model::AstronomyModel& model, QWidget* parent)
   setWidgetResizable(true);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   setFrameShape(QFrame::NoFrame);
-  setMinimumWidth(std::max(minimumColumnWidth, content->minimumSizeHint().width()));
 
   connect(location_, &LocationSection::mapRequested, this, &SidebarView::mapRequested);
   connect(location_, &LocationSection::saveRequested, this, [this] {
@@ -90,6 +93,19 @@ QWidget* SidebarView::makeExportArea() {
 void SidebarView::setTab(exports::OutputTab tab) {
   nativeExport_->setText(exports::isChart(tab) ? tr("SV&G") : tr("&TXT"));
   location_->showColorMode(tab == exports::OutputTab::horoscope);
+}
+
+QSize SidebarView::minimumSizeHint() const {
+  const int scrollBar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
+  return {std::max(minimumColumnWidth, widget()->minimumSizeHint().width() + scrollBar),
+          QScrollArea::minimumSizeHint().height()};
+}
+
+bool SidebarView::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == widget() && event->type() == QEvent::LayoutRequest) {
+    updateGeometry();  // other controls, another width
+  }
+  return QScrollArea::eventFilter(watched, event);
 }
 
 void SidebarView::commit() {

@@ -25,10 +25,16 @@ class SidebarView final : public QScrollArea {
   /// Takes over what is being typed anywhere in the sidebar.
   void commit();
 
+  /// As wide as the widest control asks, with room for the scroll bar of a short window.
+  [[nodiscard]] QSize minimumSizeHint() const override;
+
  Q_SIGNALS:
   void mapRequested();
   void nativeExportRequested();
   void pdfExportRequested();
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   QWidget* makeExportArea();
