@@ -1,0 +1,269 @@
+// The two export commands through the real window, its dialog and its disk.
+#include <QDialog>
+#include <QDir>
+#include <QFile>
+#include <QFileDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QTimer>
+
+#include "tests/ui/opened_addresses.h"
+#include "tests/ui/shown_window.h"
+
+namespace veyruna::ui {
+namespace {
+
+using exports::OutputTab;
+
+QByteArray contentOf(const QString& path) {
+  QFile file(path);
+  return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(no file)");
+}
+
+struct Exports : testing::Test, tests::ShownWindow {
+  QDir disk{folder.path()};
+
+  Exports() {
+    state.setExportFolder(folder.path());
+    model.setHour(6.5);
+    calculate();
+  }
+
+  /// Chooses an export command and returns the dialog it opens.
+  QFileDialog* ask(const char* button) {
+    press(button);
+    return find<QFileDialog>("saveDialog");
+  }
+  static QLineEdit* nameField(QFileDialog* dialog) {
+    return dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+  }
+  static void confirm(QFileDialog* dialog) {
+    QMetaObject::invokeMethod(dialog, "accept");
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  }
+  void save(const char* button, const QString& name) {
+    QFileDialog* const dialog = ask(button);
+    nameField(dialog)->setText(name);
+    confirm(dialog);
+  }
+  /// Answers the next question whether a file is to be replaced.
+  static std::shared_ptr<bool> answerQuestionWith(QMessageBox::StandardButton answer) {
+    auto wasAsked = std::make_shared<bool>(false);
+    QTimer::singleShot(0, [answer, wasAsked] {
+      if (auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+        *wasAsked = true;
+        box->button(answer)->click();
+      }
+    });
+    return wasAsked;
+  }
+  QString notice() { return find<QLabel>("exportNotice")->text(); }
+  void selectPlaceCalled(const QString& name) {
+    model.setSelectedCityID(std::get<QUuid>(model.addCity(name)));
+  }
+};
+
+TEST_F(Exports, TheDialogCarriesTheMessageTheWholeNameAndOneTypeOfFile) {
+  struct Case {
+    OutputTab tab;
+    const char* button;
+    const char* message;
+    const char* name;
+    const char* type;
+  };
+  const Case cases[] = {
+      {OutputTab::starMap, "nativeExportButton", "SVG file", "Star Map", "svg"},
+      {OutputTab::starMap, "pdfButton", "PDF file", "Star Map", "pdf"},
+      {OutputTab::horoscope, "nativeExportButton", "SVG file", "Horoscope", "svg"},
+      {OutputTab::horoscope, "pdfButton", "PDF file", "Horoscope", "pdf"},
+      {OutputTab::planets, "nativeExportButton", "text file", "Planets", "txt"},
+      {OutputTab::planets, "pdfButton", "PDF file", "Planets", "pdf"},
+      {OutputTab::sunMoon, "nativeExportButton", "text file", "Sun & Moon", "txt"},
+      {OutputTab::sunMoon, "pdfButton", "PDF file", "Sun & Moon", "pdf"},
+      {OutputTab::positions, "nativeExportButton", "text file", "Positions", "txt"},
+      {OutputTab::positions, "pdfButton", "PDF file", "Positions", "pdf"},
+  };
+  for (const Case& wanted : cases) {
+    window.selectTab(wanted.tab);
+    QFileDialog* const dialog = ask(wanted.button);
+    EXPECT_EQ(dialog->windowTitle(), QStringLiteral("Choose where to save the %1")
+                                         .arg(QString::fromLatin1(wanted.message)));
+    EXPECT_EQ(nameField(dialog)->text(),
+              QStringLiteral("%1 - 40.50°N 20.90°W - 720-01-01 06-30.%2")
+                  .arg(QString::fromLatin1(wanted.name), QString::fromLatin1(wanted.type)));
+    EXPECT_EQ(dialog->nameFilters().size(), 1);
+    EXPECT_TRUE(dialog->nameFilters().constFirst().endsWith(
+        QStringLiteral("(*.%1)").arg(QString::fromLatin1(wanted.type))));
+    EXPECT_EQ(dialog->windowModality(), Qt::WindowModal);
+    dialog->reject();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  }
+  EXPECT_EQ(disk.entryList(QDir::Files).filter(QStringLiteral("720-")), QStringList());
+  EXPECT_EQ(drawn->pdfs.size(), 0);
+}
+
+TEST_F(Exports, TheProposedNameIsTakenAsItStands) {
+  for (const char* const name : {"Ebb & <Flow>", "Sky \"Peak\"", "One \" quote", "Möwe 🌙 月",
+                                 "קוסם", "40.5 N.x"}) {
+    selectPlaceCalled(QString::fromUtf8(name));
+    confirm(ask("nativeExportButton"));
+    const QString file = QStringLiteral("Star Map - %1 - 720-01-01 06-30.svg")
+                             .arg(QString::fromUtf8(name));
+    EXPECT_EQ(contentOf(disk.filePath(file)), model.starMapSVG().toUtf8()) << name;
+    EXPECT_EQ(notice(), QStringLiteral("Saved ") + file);
+  }
+}
+
+TEST_F(Exports, APlaceOf300CharactersStillGivesAFile) {
+  selectPlaceCalled(QString(300, QLatin1Char('o')));
+  confirm(ask("nativeExportButton"));
+  const QStringList saved = disk.entryList({QStringLiteral("*.svg")});
+  ASSERT_EQ(saved.size(), 1);
+  EXPECT_EQ(saved.constFirst().toUtf8().size(), 255);
+  EXPECT_TRUE(saved.constFirst().endsWith(QStringLiteral("ooo - 720-01-01 06-30.svg")));
+}
+
+TEST_F(Exports, ANameWithoutItsSuffixGetsIt) {
+  save("nativeExportButton", QStringLiteral("sky over 40.50°N"));
+  EXPECT_EQ(contentOf(disk.filePath(QStringLiteral("sky over 40.50°N.svg"))),
+            model.starMapSVG().toUtf8());
+  save("nativeExportButton", QStringLiteral("upper.SVG"));
+  EXPECT_TRUE(disk.exists(QStringLiteral("upper.SVG")));
+}
+
+TEST_F(Exports, AnExistingFileIsReplacedOnlyAfterTheQuestion) {
+  const QString path = disk.filePath(QStringLiteral("old.svg"));
+  QFile old(path);
+  ASSERT_TRUE(old.open(QIODevice::WriteOnly));
+  old.write("old");
+  old.close();
+  QFileDialog* const dialog = ask("nativeExportButton");
+  nameField(dialog)->setText(QStringLiteral("old"));  // the suffix makes it the file that exists
+  auto asked = answerQuestionWith(QMessageBox::No);
+  QMetaObject::invokeMethod(dialog, "accept");
+  EXPECT_TRUE(*asked);
+  EXPECT_TRUE(dialog->isVisible());
+  EXPECT_EQ(contentOf(path), QByteArray("old"));
+  asked = answerQuestionWith(QMessageBox::Yes);
+  confirm(dialog);
+  EXPECT_TRUE(*asked);
+  EXPECT_EQ(contentOf(path), model.starMapSVG().toUtf8());
+}
+
+TEST_F(Exports, WhatIsSavedIsWhatWasOnScreenWhenTheCommandWasChosen) {
+  const QByteArray before = model.starMapSVG().toUtf8();
+  QFileDialog* const dialog = ask("nativeExportButton");
+  model.setYear(900);
+  calculate();
+  ASSERT_NE(model.starMapSVG().toUtf8(), before);
+  nameField(dialog)->setText(QStringLiteral("then.svg"));
+  confirm(dialog);
+  EXPECT_EQ(contentOf(disk.filePath(QStringLiteral("then.svg"))), before);
+}
+
+TEST_F(Exports, ThePdfIsWrittenWhenItsBytesCome) {
+  window.selectTab(OutputTab::horoscope);
+  save("pdfButton", QStringLiteral("wheel"));
+  ASSERT_EQ(drawn->pdfs.size(), 1);
+  EXPECT_EQ(drawn->pdfs[0].pageSize, QSizeF(1440, 760));
+  EXPECT_TRUE(drawn->pdfs[0].html.contains(model.horoscopeSVG()));
+  EXPECT_EQ(notice(), QStringLiteral("Saving wheel.pdf …"));
+  EXPECT_FALSE(disk.exists(QStringLiteral("wheel.pdf")));
+  drawn->pdfs[0].completion(QByteArray("%PDF-"));
+  EXPECT_EQ(contentOf(disk.filePath(QStringLiteral("wheel.pdf"))), QByteArray("%PDF-"));
+  EXPECT_EQ(notice(), QStringLiteral("Saved wheel.pdf"));
+}
+
+TEST_F(Exports, SeveralAtOnceAllFinish) {
+  for (int number = 0; number < 4; ++number) {
+    save("pdfButton", QStringLiteral("sky %1.pdf").arg(number));
+  }
+  ASSERT_EQ(drawn->pdfs.size(), 4);
+  for (int number = 3; number >= 0; --number) {
+    drawn->pdfs[number].completion(QByteArray::number(number));
+  }
+  for (int number = 0; number < 4; ++number) {
+    EXPECT_EQ(contentOf(disk.filePath(QStringLiteral("sky %1.pdf").arg(number))),
+              QByteArray::number(number));
+  }
+}
+
+TEST_F(Exports, APdfIsWrittenAlsoWhenItsWindowHasGone) {
+  {
+    MainWindow passing(model, tests::recordingEngine(drawn), state);
+    passing.setAttribute(Qt::WA_DeleteOnClose, false);
+    passing.show();
+    QTest::mouseClick(passing.findChild<QAbstractButton*>(QStringLiteral("pdfButton")),
+                      Qt::LeftButton);
+    auto* const dialog = passing.findChild<QFileDialog*>(QStringLiteral("saveDialog"));
+    ASSERT_NE(dialog, nullptr);
+    nameField(dialog)->setText(QStringLiteral("left.pdf"));
+    confirm(dialog);
+  }
+  ASSERT_EQ(drawn->pdfs.size(), 1);
+  drawn->pdfs[0].completion(QByteArray("%PDF-left"));
+  EXPECT_EQ(contentOf(disk.filePath(QStringLiteral("left.pdf"))), QByteArray("%PDF-left"));
+}
+
+TEST_F(Exports, AFailureIsSaidInPlainWordsAndInNoDialog) {
+  save("pdfButton", QStringLiteral("wheel.pdf"));
+  drawn->pdfs[0].completion(exports::RenderFailure{QStringLiteral("The document could not be drawn.")});
+  EXPECT_EQ(notice(),
+            QStringLiteral("wheel.pdf was not saved: The document could not be drawn."));
+  EXPECT_FALSE(find<QWidget>("openFolder")->isVisible());
+  EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+  EXPECT_FALSE(disk.exists(QStringLiteral("wheel.pdf")));
+}
+
+TEST_F(Exports, AFolderThatVanishesWhileOneIsAskedIsAFailure) {
+  ASSERT_TRUE(disk.mkdir(QStringLiteral("gone")));
+  state.setExportFolder(disk.filePath(QStringLiteral("gone")));
+  QFileDialog* const dialog = ask("nativeExportButton");
+  nameField(dialog)->setText(QStringLiteral("sky.svg"));
+  ASSERT_TRUE(disk.rmdir(QStringLiteral("gone")));
+  confirm(dialog);
+  EXPECT_TRUE(notice().startsWith(QStringLiteral("sky.svg was not saved: ")))
+      << notice().toStdString();
+  EXPECT_EQ(state.exportFolder().contains(QStringLiteral("gone")), false);
+}
+
+TEST_F(Exports, ATypedNameThatIsTooLongIsAFailure) {
+  save("nativeExportButton", QString(300, QLatin1Char('x')));
+  EXPECT_TRUE(notice().contains(QStringLiteral("was not saved"))) << notice().toStdString();
+}
+
+TEST_F(Exports, OpenFolderOpensTheFolderOfTheFile) {
+  save("nativeExportButton", QStringLiteral("sky.svg"));
+  tests::OpenedAddresses opened;
+  press("openFolder");
+  EXPECT_EQ(opened.addresses(), QList<QUrl>({QUrl::fromLocalFile(folder.path())}));
+}
+
+TEST_F(Exports, TheFolderOfTheLastExportIsRemembered) {
+  ASSERT_TRUE(disk.mkdir(QStringLiteral("prints")));
+  QFileDialog* dialog = ask("nativeExportButton");
+  nameField(dialog)->setText(disk.filePath(QStringLiteral("prints/sky.svg")));
+  confirm(dialog);
+  EXPECT_TRUE(disk.exists(QStringLiteral("prints/sky.svg")));
+  EXPECT_EQ(ask("nativeExportButton")->directory(), QDir(disk.filePath(QStringLiteral("prints"))));
+  const WindowState again(disk.filePath(QStringLiteral("window.ini")));
+  EXPECT_EQ(again.exportFolder(), disk.filePath(QStringLiteral("prints")));
+}
+
+TEST_F(Exports, BeforeTheFirstCalculationTheDocumentsAreEmpty) {
+  tests::FakeModel fresh;
+  MainWindow empty(fresh.model, tests::recordingEngine(), state);
+  empty.setAttribute(Qt::WA_DeleteOnClose, false);
+  empty.show();
+  empty.selectTab(OutputTab::planets);
+  QTest::mouseClick(empty.findChild<QAbstractButton*>(QStringLiteral("nativeExportButton")),
+                    Qt::LeftButton);
+  auto* const dialog = empty.findChild<QFileDialog*>(QStringLiteral("saveDialog"));
+  nameField(dialog)->setText(QStringLiteral("empty.txt"));
+  confirm(dialog);
+  EXPECT_EQ(contentOf(disk.filePath(QStringLiteral("empty.txt"))).count('\n'), 2);
+}
+
+}  // namespace
+}  // namespace veyruna::ui
