@@ -70,9 +70,20 @@ AboutView::AboutView(QWidget* parent) : QWidget(parent, Qt::Dialog) {
 }
 
 void AboutView::mousePressEvent(QMouseEvent* event) {
-  if (event->button() == Qt::LeftButton && windowHandle() != nullptr) {
-    windowHandle()->startSystemMove();
+  // The window manager moves it, where there is one that can.
+  if (event->button() == Qt::LeftButton && !windowHandle()->startSystemMove()) {
+    grip_ = event->position().toPoint();
   }
+}
+
+void AboutView::mouseMoveEvent(QMouseEvent* event) {
+  if (grip_) {
+    move(pos() + event->position().toPoint() - *grip_);
+  }
+}
+
+void AboutView::mouseReleaseEvent(QMouseEvent* /*event*/) {
+  grip_.reset();
 }
 
 void AboutView::enterEvent(QEnterEvent* /*event*/) {

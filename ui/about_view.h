@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QWidget>
+#include <optional>
 
 namespace veyruna::ui {
 
@@ -14,11 +15,15 @@ class AboutView final : public QWidget {
 
  protected:
   void mousePressEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
   void enterEvent(QEnterEvent* event) override;
   void leaveEvent(QEvent* event) override;
 
  private:
   void showHovering(bool isHovering);
+
+  std::optional<QPoint> grip_;  ///< where it is held, while this window moves itself
 };
 
 }  // namespace veyruna::ui

@@ -11,7 +11,8 @@ namespace veyruna::ui {
 
 namespace {
 
-constexpr int cascade = 24;  // from one window to the next, to the right and down
+constexpr int cascade = 24;      // from one window to the next, to the right and down
+constexpr QSize grip(300, 100);  // as much of a new window is on the screen at least
 
 }  // namespace
 
@@ -19,8 +20,17 @@ VeyrunaAstroApp::VeyrunaAstroApp(model::AstronomyModel::Surroundings surrounding
                                  PageEngine engine, const QString& statePath)
     : model_(std::move(surroundings)), engine_(std::move(engine)), state_(statePath) {}
 
+VeyrunaAstroApp::~VeyrunaAstroApp() {
+  for (const QPointer<MainWindow>& window : windows_) {
+    delete window;
+  }
+  delete about_;
+}
+
 MainWindow* VeyrunaAstroApp::openWindow() {
   auto* const window = new MainWindow(model_, engine_, state_);
+  windows_.removeAll(nullptr);
+  windows_.append(window);
   connect(window, &MainWindow::newWindowRequested, this, &VeyrunaAstroApp::openWindow);
   connect(window, &MainWindow::aboutRequested, this, &VeyrunaAstroApp::openAbout);
   connect(window, &MainWindow::quitRequested, qApp, &QApplication::closeAllWindows);
@@ -29,8 +39,7 @@ MainWindow* VeyrunaAstroApp::openWindow() {
       qobject_cast<const MainWindow*>(other) != nullptr) {
     const QRect room = other->screen()->availableGeometry();
     const QPoint beside = other->pos() + QPoint(cascade, cascade);
-    const bool fits = room.contains(QRect(beside, window->frameSize()));
-    window->move(fits ? beside : room.topLeft());
+    window->move(room.contains(QRect(beside, grip)) ? beside : room.topLeft());
   }
   window->show();
   model_.recalculate();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QList>
 #include <QObject>
 #include <QPointer>
 
@@ -19,6 +20,10 @@ class VeyrunaAstroApp final : public QObject {
  public:
   VeyrunaAstroApp(model::AstronomyModel::Surroundings surroundings, PageEngine engine,
                   const QString& statePath);
+  /// Deletes the windows that are still open: none outlives the model.
+  ~VeyrunaAstroApp() override;
+  VeyrunaAstroApp(const VeyrunaAstroApp&) = delete;
+  VeyrunaAstroApp& operator=(const VeyrunaAstroApp&) = delete;
 
   /// Opens another window on the model and calculates for it.
   MainWindow* openWindow();
@@ -27,11 +32,13 @@ class VeyrunaAstroApp final : public QObject {
   AboutView* openAbout();
 
   [[nodiscard]] model::AstronomyModel& model() { return model_; }
+  [[nodiscard]] WindowState& state() { return state_; }
 
  private:
   model::AstronomyModel model_;
   PageEngine engine_;
   WindowState state_;
+  QList<QPointer<MainWindow>> windows_;
   QPointer<AboutView> about_;
 };
 

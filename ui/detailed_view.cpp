@@ -5,7 +5,7 @@
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
-#include "astro/arc.h"
+#include "ui/coordinate_text.h"
 #include "ui/named.h"
 #include "ui/planets_view.h"
 #include "ui/svg_view.h"
@@ -17,8 +17,16 @@ namespace {
 
 using model::AstronomyModel;
 
-QString angleText(double radians) {
-  return QString::fromStdString(astro::Arc(radians).degMinText()).trimmed();
+/// The name of the saved place that lies exactly here, and where that is.
+QString placeText(const AstronomyModel& model, double latitude, double longitude) {
+  QString name;
+  for (const model::CityPreset& city : model.cities()) {
+    if (city.id != model::manualCityID() && city.latitude == latitude &&
+        city.longitude == longitude) {
+      name = city.name + QStringLiteral("   ");
+    }
+  }
+  return name + coordinateText(latitude, longitude);
 }
 
 }  // namespace
@@ -28,12 +36,13 @@ DetailedView::DetailedView(AstronomyModel& model, const PageEngine& engine, QWid
       model_(model),
       caption_(named(new QLabel, "caption", tr("Moment and place of what is shown"))),
       tabs_(new QStackedWidget),
-      starMap_(new SVGView(engine, tr("Star map"))),
-      horoscope_(new SVGView(engine, tr("Horoscope"))),
+      starMap_(named(new SVGView(engine, tr("Star map")), "starMap", tr("Star map"))),
+      horoscope_(named(new SVGView(engine, tr("Horoscope")), "horoscope", tr("Horoscope"))),
       planets_(new PlanetsView),
       sunMoon_(new TablesView({tr("Hourly"), tr("Monthly"), tr("No table data")})),
       positions_(new TablesView({tr("Daily"), tr("Yearly"), tr("No conjunction data")})) {
   caption_->setAlignment(Qt::AlignCenter);
+  caption_->setWordWrap(true);
   caption_->setTextInteractionFlags(Qt::TextSelectableByMouse);
   auto* const column = new QVBoxLayout(this);
   column->addWidget(caption_);
@@ -107,11 +116,9 @@ void DetailedView::showCaption() {
     caption_->setText(QString());
     return;
   }
-  const double latitude = model_.lastHoroscopeLatitude();
-  const double longitude = model_.lastHoroscopeLongitude();
-  caption_->setText(model_.dateLabel() + QStringLiteral("   ") + angleText(std::abs(latitude)) +
-                    (latitude >= 0.0 ? tr(" N") : tr(" S")) + QStringLiteral("  ") +
-                    angleText(std::abs(longitude)) + (longitude >= 0.0 ? tr(" E") : tr(" W")));
+  caption_->setText(
+      model_.dateLabel() + QStringLiteral("   ") +
+      placeText(model_, model_.lastHoroscopeLatitude(), model_.lastHoroscopeLongitude()));
   starMap_->setAccessibleDescription(tr("The sky above the horizon, %1").arg(caption_->text()));
   horoscope_->setAccessibleDescription(
       tr("The wheel of the ecliptic with its interpretation, %1").arg(caption_->text()));

@@ -5,12 +5,9 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
-#include <cmath>
-#include <string>
 
-#include "astro/angle.h"
-#include "astro/number_text.h"
 #include "ui/angle_field.h"
+#include "ui/coordinate_text.h"
 #include "ui/named.h"
 #include "ui/segmented_picker.h"
 #include "ui/still_controls.h"
@@ -20,17 +17,6 @@ namespace veyruna::ui {
 namespace {
 
 constexpr int fieldWidth = 80;
-
-/// "40.50° N": two decimals of the magnitude, and the hemisphere's letter.
-QString coordinateText(double radians, const char* positive, const char* negative) {
-  std::string text;
-  const double degrees = std::abs(radians) * 180.0 / astro::pi;
-  if (!std::isfinite(degrees)) {
-    return QStringLiteral("–");
-  }
-  astro::appendFixed(text, degrees, 2);
-  return QString::fromStdString(text + "° " + (radians >= 0.0 ? positive : negative));
-}
 
 }  // namespace
 
@@ -164,9 +150,7 @@ void LocationSection::showPlace() {
   manualFields_->setVisible(isManual);
   savedPlace_->setVisible(!isManual);
   if (!isManual) {
-    coordinates_->setText(coordinateText(model_.effectiveLatitude(), "N", "S") +
-                          QStringLiteral("   ") +
-                          coordinateText(model_.effectiveLongitude(), "E", "W"));
+    coordinates_->setText(coordinateText(model_.effectiveLatitude(), model_.effectiveLongitude()));
   }
 }
 

@@ -3,8 +3,10 @@
 #include <QAction>
 #include <QCloseEvent>
 #include <QMenuBar>
+#include <QScreen>
 #include <QSplitter>
 #include <QStatusBar>
+#include <algorithm>
 
 #include "ui/detailed_view.h"
 #include "ui/export_commands.h"
@@ -56,7 +58,17 @@ MainWindow::MainWindow(model::AstronomyModel& model, const PageEngine& engine, W
           [this] { exports_->exportPdf(selectedTab_); });
   selectTab(OutputTab::starMap);
   resize(firstSize);
-  restoreGeometry(state_.geometry());  // keeps the window on a screen that is there
+  restoreGeometry(state_.geometry());
+  keepOnScreen();
+}
+
+void MainWindow::keepOnScreen() {
+  const QRect room = screen()->availableGeometry();
+  const QPoint last = room.bottomRight() - QPoint(width(), height());
+  if (!isMaximized() && !isFullScreen() && !room.contains(geometry())) {
+    move(std::clamp(x(), room.left(), std::max(room.left(), last.x())),
+         std::clamp(y(), room.top(), std::max(room.top(), last.y())));
+  }
 }
 
 void MainWindow::selectTab(OutputTab tab) {

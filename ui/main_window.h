@@ -37,6 +37,7 @@ class MainWindow final : public QMainWindow {
 
  private:
   void makeMenus();
+  void keepOnScreen();
 
   WindowState& state_;
   TabSelector* tabs_;

@@ -2,6 +2,7 @@
 
 #include <QFontDatabase>
 #include <QPlainTextEdit>
+#include <QScrollBar>
 
 #include "ui/named.h"
 
@@ -25,7 +26,12 @@ MonospacedTextView::MonospacedTextView(QPlainTextEdit* view, const QString& plac
 
 void MonospacedTextView::show(const QString& text) {
   if (view_->toPlainText() != text) {
+    // The same lines of the new table: one compares two moments.
+    const int line = view_->verticalScrollBar()->value();
+    const int column = view_->horizontalScrollBar()->value();
     view_->setPlainText(text);
+    view_->verticalScrollBar()->setValue(line);
+    view_->horizontalScrollBar()->setValue(column);
   }
   showView(!text.isEmpty());
 }

@@ -87,8 +87,9 @@ TEST_F(Exports, TheDialogCarriesTheMessageTheWholeNameAndOneTypeOfFile) {
   for (const Case& wanted : cases) {
     window.selectTab(wanted.tab);
     QFileDialog* const dialog = ask(wanted.button);
-    EXPECT_EQ(dialog->windowTitle(), QStringLiteral("Choose where to save the %1")
-                                         .arg(QString::fromLatin1(wanted.message)));
+    EXPECT_EQ(
+        dialog->windowTitle(),
+        QStringLiteral("Choose where to save the %1").arg(QString::fromLatin1(wanted.message)));
     EXPECT_EQ(nameField(dialog)->text(),
               QStringLiteral("%1 - 40.50°N 20.90°W - 720-01-01 06-30.%2")
                   .arg(QString::fromLatin1(wanted.name), QString::fromLatin1(wanted.type)));
@@ -104,12 +105,12 @@ TEST_F(Exports, TheDialogCarriesTheMessageTheWholeNameAndOneTypeOfFile) {
 }
 
 TEST_F(Exports, TheProposedNameIsTakenAsItStands) {
-  for (const char* const name : {"Ebb & <Flow>", "Sky \"Peak\"", "One \" quote", "Möwe 🌙 月",
-                                 "קוסם", "40.5 N.x"}) {
+  for (const char* const name :
+       {"Ebb & <Flow>", "Sky \"Peak\"", "One \" quote", "Möwe 🌙 月", "קוסם", "40.5 N.x"}) {
     selectPlaceCalled(QString::fromUtf8(name));
     confirm(ask("nativeExportButton"));
-    const QString file = QStringLiteral("Star Map - %1 - 720-01-01 06-30.svg")
-                             .arg(QString::fromUtf8(name));
+    const QString file =
+        QStringLiteral("Star Map - %1 - 720-01-01 06-30.svg").arg(QString::fromUtf8(name));
     EXPECT_EQ(contentOf(disk.filePath(file)), model.starMapSVG().toUtf8()) << name;
     EXPECT_EQ(notice(), QStringLiteral("Saved ") + file);
   }
@@ -208,9 +209,9 @@ TEST_F(Exports, APdfIsWrittenAlsoWhenItsWindowHasGone) {
 
 TEST_F(Exports, AFailureIsSaidInPlainWordsAndInNoDialog) {
   save("pdfButton", QStringLiteral("wheel.pdf"));
-  drawn->pdfs[0].completion(exports::RenderFailure{QStringLiteral("The document could not be drawn.")});
-  EXPECT_EQ(notice(),
-            QStringLiteral("wheel.pdf was not saved: The document could not be drawn."));
+  drawn->pdfs[0].completion(
+      exports::RenderFailure{QStringLiteral("The document could not be drawn.")});
+  EXPECT_EQ(notice(), QStringLiteral("wheel.pdf was not saved: The document could not be drawn."));
   EXPECT_FALSE(find<QWidget>("openFolder")->isVisible());
   EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
   EXPECT_FALSE(disk.exists(QStringLiteral("wheel.pdf")));

@@ -1,0 +1,190 @@
+// The outputs as the window shows them.
+#include <QClipboard>
+#include <QHeaderView>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QScrollBar>
+#include <QTableWidget>
+
+#include "tests/ui/shown_window.h"
+
+namespace veyruna::ui {
+namespace {
+
+struct Views : testing::Test, tests::ShownWindow {
+  /// The table's text that can be seen now.
+  QPlainTextEdit* table() {
+    for (auto* const view : window.findChildren<QPlainTextEdit*>()) {
+      if (view->isVisible()) {
+        return view;
+      }
+    }
+    throw std::runtime_error("no table is shown");
+  }
+  QStringList placeholders() {
+    QStringList texts;
+    for (const auto* const label : window.findChildren<QLabel*>(QStringLiteral("placeholder"))) {
+      if (label->isVisible()) {
+        EXPECT_EQ(label->alignment(), Qt::AlignCenter);
+        texts.append(label->text());
+      }
+    }
+    return texts;
+  }
+};
+
+TEST_F(Views, WithoutACalculationTheViewsSayThatThereIsNothing) {
+  press("tab3");
+  EXPECT_EQ(placeholders(), QStringList(QStringLiteral("No Positions")));
+  press("tab4");
+  EXPECT_EQ(placeholders(), QStringList(QStringLiteral("No table data")));
+  press("showMonthly");
+  EXPECT_EQ(placeholders(), QStringList(QStringLiteral("No table data")));
+  press("tab5");
+  EXPECT_EQ(placeholders(), QStringList(QStringLiteral("No conjunction data")));
+  calculate();
+  EXPECT_EQ(placeholders(), QStringList());
+}
+
+TEST_F(Views, TheTablesShowTheirTexts) {
+  calculate();
+  press("tab4");
+  EXPECT_EQ(table()->toPlainText(), model.basicTableHourly());
+  press("showMonthly");
+  EXPECT_EQ(table()->toPlainText(), model.basicTableMonthly());
+  EXPECT_EQ(find<QLabel>("nextFullMoon")->text(), model.nextFullMoonLabel());
+  EXPECT_EQ(find<QLabel>("nextNewMoon")->text(), model.nextNewMoonLabel());
+  press("tab5");
+  EXPECT_EQ(table()->toPlainText(), model.conjunctionDaily());
+  press("showYearly");
+  EXPECT_EQ(table()->toPlainText(), model.conjunctionYearly());
+  EXPECT_GE(table()->blockCount(), 360);
+}
+
+TEST_F(Views, ATableIsReadOnlyUnwrappedAndScrollsBothWays) {
+  calculate();
+  press("tab5");
+  window.resize(window.minimumSizeHint());
+  tests::turnEventLoop();
+  EXPECT_TRUE(table()->isReadOnly());
+  EXPECT_EQ(table()->lineWrapMode(), QPlainTextEdit::NoWrap);
+  EXPECT_GT(table()->verticalScrollBar()->maximum(), 0);
+  EXPECT_GT(table()->horizontalScrollBar()->maximum(), 0);
+  table()->selectAll();
+  table()->copy();
+  EXPECT_EQ(QApplication::clipboard()->text(), model.conjunctionDaily());
+}
+
+TEST_F(Views, TheChoiceOfTableAndTheScrollPositionStay) {
+  calculate();
+  press("tab5");
+  press("showYearly");
+  table()->verticalScrollBar()->setValue(100);
+  press("tab1");
+  press("tab5");
+  EXPECT_EQ(table()->toPlainText(), model.conjunctionYearly());
+  EXPECT_EQ(table()->verticalScrollBar()->value(), 100);
+  // One compares the same lines of two years.
+  model.setYear(721);
+  calculate();
+  EXPECT_EQ(table()->toPlainText(), model.conjunctionYearly());
+  EXPECT_EQ(table()->verticalScrollBar()->value(), 100);
+}
+
+TEST_F(Views, ThePositionsAreATableOfTheBodiesInTheirOrder) {
+  calculate();
+  press("tab3");
+  const auto* const positions = find<QTableWidget>("positionsTable");
+  QStringList titles;
+  for (int column = 0; column < positions->columnCount(); ++column) {
+    titles.append(positions->horizontalHeaderItem(column)->text());
+    for (int row = 0; row < positions->rowCount(); ++row) {
+      const int wanted =
+          positions->fontMetrics().horizontalAdvance(positions->item(row, column)->text());
+      EXPECT_GT(positions->columnWidth(column), wanted);
+    }
+  }
+  EXPECT_EQ(titles.join(QLatin1Char('|')),
+            QStringLiteral("Body|Type|Azimuth|Altitude|Ec. Longitude|Sign"));
+  ASSERT_EQ(positions->rowCount(), model.positions().size());
+  for (int row = 0; row < positions->rowCount(); ++row) {
+    EXPECT_EQ(positions->item(row, 0)->text(), model.positions()[row].name);
+    EXPECT_EQ(positions->item(row, 5)->text(), model.positions()[row].sign);
+  }
+}
+
+TEST_F(Views, EveryMarkCanBeSeenOnLightAndOnDark) {
+  calculate();
+  press("tab3");
+  const auto* const positions = find<QTableWidget>("positionsTable");
+  for (int row = 0; row < positions->rowCount(); ++row) {
+    const QIcon icon = positions->item(row, 0)->icon();
+    ASSERT_FALSE(icon.isNull());
+    const QImage mark = icon.pixmap(32, 32).toImage();
+    for (const QColor& ground : {QColor(Qt::white), QColor(0x20, 0x20, 0x20)}) {
+      int farthest = 0;
+      for (int x = 0; x < mark.width(); ++x) {
+        const QColor here = mark.pixelColor(x, mark.height() / 2);
+        if (here.alpha() > 200) {
+          farthest = std::max({farthest, std::abs(here.red() - ground.red()),
+                               std::abs(here.green() - ground.green()),
+                               std::abs(here.blue() - ground.blue())});
+        }
+      }
+      EXPECT_GT(farthest, 90) << model.positions()[row].name.toStdString();
+    }
+  }
+}
+
+TEST_F(Views, ThePositionsAreCopiedAsText) {
+  calculate();
+  press("tab3");
+  auto* const positions = find<QTableWidget>("positionsTable");
+  positions->setFocus();
+  positions->selectAll();
+  QTest::keyClick(positions, Qt::Key_C, Qt::ControlModifier);
+  const QStringList lines = QApplication::clipboard()->text().split(QLatin1Char('\n'));
+  ASSERT_EQ(lines.size(), model.positions().size());
+  const auto& first = model.positions().constFirst();
+  EXPECT_EQ(lines.constFirst(), QStringList({first.name, first.bodyType, first.azimuth,
+                                             first.altitude, first.ecLong, first.sign})
+                                    .join(QLatin1Char('\t')));
+}
+
+TEST_F(Views, AChartIsDrawnWhenItsTabIsSeenAndWheneverItChanges) {
+  QTest::qWait(50);
+  EXPECT_EQ(drawn->views, 1);  // the star map alone
+  EXPECT_EQ(drawn->pages.size(), 0);
+  calculate();
+  ASSERT_EQ(drawn->pages.size(), 1);
+  EXPECT_TRUE(drawn->pages[0].contains(model.starMapSVG()));
+  press("tab2");
+  QTest::qWait(50);
+  EXPECT_EQ(drawn->views, 2);
+  ASSERT_EQ(drawn->pages.size(), 2);
+  EXPECT_TRUE(drawn->pages[1].contains(model.horoscopeSVG()));
+  calculate();  // the same again costs nothing
+  press("tab1");
+  press("tab2");
+  QTest::qWait(50);
+  EXPECT_EQ(drawn->views, 2);
+  EXPECT_EQ(drawn->pages.size(), 2);
+  model.setYear(900);
+  calculate();
+  EXPECT_EQ(drawn->pages.size(), 4);
+}
+
+TEST_F(Views, TheCaptionAndTheChartsSayWhatIsShown) {
+  calculate();
+  EXPECT_EQ(find<QLabel>("caption")->text(),
+            model.dateLabel() + QStringLiteral("   Wendmark   40.50° N   20.90° W"));
+  QTest::qWait(50);
+  const auto* const chart = find<QWidget>("starMap");
+  EXPECT_EQ(chart->accessibleName(), QStringLiteral("Star map"));
+  EXPECT_TRUE(chart->accessibleDescription().contains(model.dateLabel()));
+  model.setYear(900);
+  EXPECT_FALSE(find<QLabel>("caption")->text().contains(QStringLiteral("900-")));
+}
+
+}  // namespace
+}  // namespace veyruna::ui

@@ -1,0 +1,11 @@
+#pragma once
+
+#include <QString>
+
+namespace veyruna::ui {
+
+/// "40.50° N   20.90° W": a place on the globe in radians, north and east positive, as degrees with
+/// two decimals. A coordinate that is no number is a dash.
+QString coordinateText(double latitude, double longitude);
+
+}  // namespace veyruna::ui
