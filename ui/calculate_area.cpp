@@ -43,10 +43,12 @@ CalculateArea::CalculateArea(AstronomyModel& model, QWidget* parent)
   progress_ = named(new QProgressBar, "progress", tr("Calculating"));
   progress_->setRange(0, 0);
   progress_->setTextVisible(false);
-  progress_->setFixedWidth(button->sizeHint().height() * 2);
-  QSizePolicy reserved = progress_->sizePolicy();
-  reserved.setRetainSizeWhenHidden(true);
-  progress_->setSizePolicy(reserved);
+  progress_->setFixedSize(button->sizeHint().height() * 2, button->sizeHint().height() / 2);
+  progress_->setAttribute(Qt::WA_TransparentForMouseEvents);
+  // In the button, beside the word, where nothing else stands.
+  auto* const besideTheWord = new QHBoxLayout(button);
+  besideTheWord->addStretch();
+  besideTheWord->addWidget(progress_);
   error_ = named(small(new WarningLabel), "errorMessage", tr("Error"));
   difference_ = named(small(new QLabel), "difference", tr("State of what is shown"));
   difference_->setEnabled(false);  // drawn in the palette's secondary colour
@@ -54,12 +56,9 @@ CalculateArea::CalculateArea(AstronomyModel& model, QWidget* parent)
   difference_->setText(QStringLiteral("\n"));  // room for two lines, at all times
   difference_->setMinimumHeight(difference_->sizeHint().height());
 
-  auto* const row = new QHBoxLayout;
-  row->addWidget(button, 1);
-  row->addWidget(progress_);
   auto* const column = new QVBoxLayout(this);
   column->setContentsMargins({});
-  column->addLayout(row);
+  column->addWidget(button);
   column->addWidget(error_);
   column->addWidget(difference_);
 

@@ -16,6 +16,8 @@ namespace {
 using model::BodyColor;
 using model::BodyPosition;
 
+constexpr int columnSpacing = 16;
+
 QColor shadeOf(BodyColor color) {
   switch (color) {
     case BodyColor::yellow:
@@ -92,6 +94,9 @@ void PlanetsView::show(const QList<BodyPosition>& positions) {
     table_->item(row, 0)->setIcon(markOf(positions[row].color));
   }
   table_->resizeColumnsToContents();
+  for (int column = 0; column < table_->columnCount(); ++column) {
+    table_->setColumnWidth(column, table_->columnWidth(column) + columnSpacing);
+  }
   showView(!positions.isEmpty());
 }
 

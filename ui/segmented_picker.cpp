@@ -2,7 +2,8 @@
 
 #include <QButtonGroup>
 #include <QHBoxLayout>
-#include <QPushButton>
+
+#include "ui/choice_button.h"
 
 namespace veyruna::ui {
 
@@ -15,7 +16,7 @@ SegmentedPicker::SegmentedPicker(const char* name, const QStringList& titles,
   row->setSpacing(0);
   for (int segment = 0; segment < titles.size(); ++segment) {
     const QString& title = titles[segment];
-    auto* const button = new QPushButton(title);
+    auto* const button = new SegmentButton(title);
     button->setObjectName(objectName() + title);
     button->setAccessibleName(spoken[segment]);
     button->setCheckable(true);

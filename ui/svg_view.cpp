@@ -1,12 +1,21 @@
 #include "ui/svg_view.h"
 
+#include <QPaintEvent>
+#include <QPainter>
 #include <QTimer>
 #include <QVBoxLayout>
 
 #include "export/report_html.h"
 #include "ui/named.h"
+#include "ui/shades.h"
 
 namespace veyruna::ui {
+
+namespace {
+
+constexpr QColor paper(0xe4, 0xe2, 0xde);
+
+}  // namespace
 
 SVGView::SVGView(const PageEngine& engine, const QString& accessibleName, QWidget* parent)
     : QWidget(parent), makeView_(engine.makeView), layout_(new QVBoxLayout(this)) {
@@ -22,7 +31,10 @@ void SVGView::show(const QString& svg) {
 }
 
 void SVGView::paintEvent(QPaintEvent* event) {
-  QWidget::paintEvent(event);
+  // The charts are drawn in inks for paper; on a dark desktop they get a sheet of it.
+  if (isDark(palette())) {
+    QPainter(this).fillRect(event->rect(), paper);
+  }
   if (!isPageDue_) {
     isPageDue_ = true;
     QTimer::singleShot(0, this, &SVGView::makePage);

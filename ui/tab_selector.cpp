@@ -2,8 +2,8 @@
 
 #include <QActionGroup>
 #include <QHBoxLayout>
-#include <QToolButton>
 
+#include "ui/choice_button.h"
 #include "ui/named.h"
 
 namespace veyruna::ui {
@@ -32,7 +32,7 @@ TabSelector::TabSelector(QWidget* parent)
     action->setToolTip(
         tr("%1 (%2)").arg(title, action->shortcut().toString(QKeySequence::NativeText)));
     actions_->addAction(action);
-    auto* const button = named(new QToolButton, "", tr("Show the tab %1").arg(title));
+    auto* const button = named(new TabButton, "", tr("Show the tab %1").arg(title));
     button->setObjectName(QStringLiteral("tab%1").arg(number));
     button->setDefaultAction(action);
     button->setToolButtonStyle(Qt::ToolButtonTextOnly);

@@ -1,0 +1,107 @@
+// window_pictures FOLDER WIDTH HEIGHT light|dark
+// Opens the window on the screen it is given, visits its tabs and saves a picture of each as
+// FOLDER/star-map.png and so on, with the sidebar alone and the About window. Everything it stores
+// goes to where XDG_CONFIG_HOME and XDG_DATA_HOME point; tools/make_screenshots points them to a
+// scratch folder.
+#include <QApplication>
+#include <QDir>
+#include <QEventLoop>
+#include <QScreen>
+#include <QStandardPaths>
+#include <QStyleFactory>
+#include <QTimer>
+#include <cstdio>
+
+#include "export/sealed_page.h"
+#include "ui/about_view.h"
+#include "ui/application.h"
+#include "ui/main_window.h"
+#include "ui/web_page_engine.h"
+
+namespace {
+
+using veyruna::exports::OutputTab;
+
+/// The look of a dark desktop.
+QPalette darkPalette() {
+  QPalette dark(QColor(0x35, 0x35, 0x39), QColor(0x2b, 0x2b, 0x2e));
+  dark.setColor(QPalette::Base, QColor(0x1f, 0x1f, 0x22));
+  dark.setColor(QPalette::AlternateBase, QColor(0x28, 0x28, 0x2b));
+  dark.setColor(QPalette::Text, QColor(0xee, 0xee, 0xee));
+  dark.setColor(QPalette::WindowText, QColor(0xee, 0xee, 0xee));
+  dark.setColor(QPalette::ButtonText, QColor(0xee, 0xee, 0xee));
+  dark.setColor(QPalette::ToolTipBase, QColor(0x1f, 0x1f, 0x22));
+  dark.setColor(QPalette::ToolTipText, QColor(0xee, 0xee, 0xee));
+  dark.setColor(QPalette::Highlight, QColor(0x3d, 0x7a, 0xc8));
+  dark.setColor(QPalette::HighlightedText, Qt::white);
+  dark.setColor(QPalette::Link, QColor(0x6a, 0xa8, 0xf0));
+  for (const QPalette::ColorRole role :
+       {QPalette::Text, QPalette::WindowText, QPalette::ButtonText}) {
+    dark.setColor(QPalette::Disabled, role, QColor(0x90, 0x90, 0x94));
+  }
+  return dark;
+}
+
+void wait(int milliseconds) {
+  QEventLoop loop;
+  QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
+  loop.exec();
+}
+
+bool save(const QWidget& widget, const QString& path) {
+  const QPixmap screen = widget.screen()->grabWindow(0);
+  const int pixels = qRound(screen.devicePixelRatio());
+  const QRect part(widget.mapToGlobal(QPoint()) * pixels, widget.size() * pixels);
+  return screen.copy(part).save(path);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  if (argc != 5) {
+    std::fputs("window_pictures FOLDER WIDTH HEIGHT light|dark\n", stderr);
+    return 2;
+  }
+  veyruna::exports::prepareWebEngine();
+  const QApplication application(argc, argv);
+  QApplication::setApplicationName(QStringLiteral("Veyruna Astro"));
+  QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+  const QDir folder(QString::fromLocal8Bit(argv[1]));
+  const QSize size(QByteArray(argv[2]).toInt(), QByteArray(argv[3]).toInt());
+  if (QByteArray(argv[4]) == "dark") {
+    QApplication::setPalette(darkPalette());
+  }
+
+  veyruna::ui::VeyrunaAstroApp program(
+      veyruna::model::AstronomyModel::standardSurroundings(), veyruna::ui::webPageEngine(),
+      QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
+          QStringLiteral("/window.ini"));
+  auto& model = program.model();
+  // A full moon's evening in late autumn.
+  model.setMonthIndex(5);
+  model.setDayIndex(11);
+  model.setHour(22.5);
+  model.setUseLocalTime(true);
+  veyruna::ui::MainWindow* const window = program.openWindow();
+  window->setGeometry(QRect(QPoint(), size));
+  constexpr int untilDrawn = 1500;  // the first chart starts the engine
+  wait(2 * untilDrawn);
+  bool isSaved = true;
+  for (const auto& [tab, name] : {std::pair{OutputTab::starMap, "star-map"},
+                                  {OutputTab::horoscope, "horoscope"},
+                                  {OutputTab::planets, "planets"},
+                                  {OutputTab::sunMoon, "sun-and-moon"},
+                                  {OutputTab::positions, "positions"},
+                                  {OutputTab::location, "location"}}) {
+    window->selectTab(tab);
+    wait(untilDrawn);
+    isSaved &= save(*window, folder.filePath(QStringLiteral("%1.png").arg(QLatin1String(name))));
+  }
+  isSaved &= save(*window->findChild<QWidget*>(QStringLiteral("sidebar")),
+                  folder.filePath(QStringLiteral("sidebar.png")));
+  veyruna::ui::AboutView* const about = program.openAbout();
+  wait(untilDrawn / 3);
+  isSaved &= save(*about, folder.filePath(QStringLiteral("about.png")));
+  QApplication::closeAllWindows();
+  return isSaved ? 0 : 1;
+}

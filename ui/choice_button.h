@@ -1,0 +1,52 @@
+#pragma once
+
+#include <QPushButton>
+#include <QStyleOptionButton>
+#include <QStyleOptionToolButton>
+#include <QStylePainter>
+#include <QToolButton>
+
+/// Buttons of which one is chosen. The chosen one is drawn in the palette's highlight: pressed in
+/// alone it is hard to tell on a dark desktop.
+namespace veyruna::ui {
+
+/// Gives what is drawn the highlight's colours where it is chosen.
+inline void highlightChosen(QStyleOption& option, bool isChosen) {
+  if (isChosen) {
+    const QPalette colors = option.palette;
+    option.palette.setColor(QPalette::Button, colors.color(QPalette::Highlight));
+    option.palette.setColor(QPalette::ButtonText, colors.color(QPalette::HighlightedText));
+  }
+}
+
+/// One segment of a choice.
+class SegmentButton final : public QPushButton {
+ public:
+  using QPushButton::QPushButton;
+
+ protected:
+  void paintEvent(QPaintEvent* /*event*/) override {
+    QStylePainter painter(this);
+    QStyleOptionButton option;
+    initStyleOption(&option);
+    highlightChosen(option, isChecked());
+    painter.drawControl(QStyle::CE_PushButton, option);
+  }
+};
+
+/// One tab of the toolbar.
+class TabButton final : public QToolButton {
+ public:
+  using QToolButton::QToolButton;
+
+ protected:
+  void paintEvent(QPaintEvent* /*event*/) override {
+    QStylePainter painter(this);
+    QStyleOptionToolButton option;
+    initStyleOption(&option);
+    highlightChosen(option, isChecked());
+    painter.drawComplexControl(QStyle::CC_ToolButton, option);
+  }
+};
+
+}  // namespace veyruna::ui
