@@ -27,12 +27,30 @@ class WebPageView final : public PageView {
     layout->setContentsMargins({});
     layout->addWidget(view_);
     setFocusProxy(view_);
+    connect(view_, &QWebEngineView::renderProcessTerminated, this, &WebPageView::revive,
+            Qt::QueuedConnection);
   }
 
-  void setHtml(const QString& html) override { view_->setHtml(html); }
+  void setHtml(const QString& html) override {
+    html_ = html;
+    revivals_ = 0;
+    view_->setHtml(html);
+  }
 
  private:
+  /// Shows the document again when the process that draws it has died. Not without end: a document
+  /// that kills its process would do so again.
+  void revive() {
+    constexpr int mostRevivals = 3;
+    if (revivals_ < mostRevivals) {
+      ++revivals_;
+      view_->setHtml(html_);
+    }
+  }
+
   QWebEngineView* view_;
+  QString html_;
+  int revivals_ = 0;
 };
 
 }  // namespace

@@ -1,0 +1,120 @@
+// Charts on screen, through the web engine itself.
+#include <QTemporaryDir>
+#include <QTest>
+#include <QWebEngineView>
+#include <csignal>
+#include <gtest/gtest.h>
+#include <set>
+
+#include "tests/model/fakes.h"
+#include "ui/application.h"
+#include "ui/main_window.h"
+#include "ui/svg_view.h"
+#include "ui/web_page_engine.h"
+
+namespace veyruna::ui {
+namespace {
+
+/// A chart of one colour all over.
+QString sheetOf(const char* color) {
+  return QStringLiteral(
+             "<svg xmlns=\"http://www.w3.org/2000/svg\" viewBox=\"0 0 10 10\" "
+             "preserveAspectRatio=\"none\"><rect width=\"10\" height=\"10\" fill=\"%1\"/></svg>")
+      .arg(QLatin1String(color));
+}
+
+struct Charts : testing::Test {
+  const PageEngine engine = webPageEngine();
+  SVGView view{engine, QStringLiteral("Chart")};
+
+  Charts() {
+    view.resize(300, 200);
+    static_cast<QWidget&>(view).show();
+  }
+
+  [[nodiscard]] QColor middle() {
+    return view.grab().toImage().pixelColor(view.width() / 2, view.height() / 2);
+  }
+  [[nodiscard]] bool becomes(const QColor& color) {
+    return QTest::qWaitFor([this, color] { return middle() == color; }, 20000);
+  }
+};
+
+TEST_F(Charts, AreDrawnAndFollowEveryUpdate) {
+  view.show(sheetOf("red"));
+  EXPECT_TRUE(becomes(Qt::red));
+  view.show(sheetOf("blue"));
+  EXPECT_TRUE(becomes(Qt::blue));
+}
+
+TEST_F(Charts, AnUpdateShowsTheOldChartUntilTheNewOneIsThere) {
+  view.show(sheetOf("red"));
+  ASSERT_TRUE(becomes(Qt::red));
+  for (int round = 0; round < 4; ++round) {
+    const QColor next = round % 2 == 0 ? Qt::blue : Qt::red;
+    view.show(sheetOf(round % 2 == 0 ? "blue" : "red"));
+    std::set<QRgb> others;
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&] {
+          const QColor now = middle();
+          if (now != Qt::red && now != Qt::blue) {
+            others.insert(now.rgba());
+          }
+          return now == next;
+        },
+        20000));
+    EXPECT_TRUE(others.empty()) << std::hex << *others.cbegin();
+  }
+}
+
+TEST_F(Charts, ThePageIsTransparent) {
+  QPalette green;
+  green.setColor(QPalette::Window, Qt::green);
+  view.setPalette(green);
+  view.setAutoFillBackground(true);
+  view.show(QStringLiteral(
+      "<svg xmlns=\"http://www.w3.org/2000/svg\" viewBox=\"0 0 30 20\"><rect width=\"1\" "
+      "height=\"20\" fill=\"red\"/></svg>"));
+  ASSERT_TRUE(QTest::qWaitFor(
+      [this] { return view.grab().toImage().pixelColor(2, 100) == QColor(Qt::red); }, 20000));
+  EXPECT_EQ(middle(), QColor(Qt::green));
+}
+
+TEST_F(Charts, ComeBackWhenTheProcessThatDrawsThemDies) {
+  view.show(sheetOf("red"));
+  ASSERT_TRUE(becomes(Qt::red));
+  const auto* const page = view.findChild<QWebEngineView*>()->page();
+  const qint64 before = page->renderProcessPid();
+  ASSERT_GT(before, 0);
+  ::kill(static_cast<pid_t>(before), SIGKILL);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return page->renderProcessPid() != before; }, 20000));
+  EXPECT_TRUE(becomes(Qt::red));
+}
+
+TEST(WindowWithCharts, DrawsBothChartsOfACalculation) {
+  tests::FakeWorld world;
+  const QTemporaryDir folder;
+  VeyrunaAstroApp program(world.surroundings(), webPageEngine(),
+                          folder.filePath(QStringLiteral("window.ini")));
+  MainWindow* const window = program.openWindow();
+  world.tasks.runNext();
+  tests::turnEventLoop();
+  const auto colorsIn = [window](const char* name) {
+    std::set<QRgb> colors;
+    const QImage chart =
+        window->findChild<QWidget*>(QString::fromLatin1(name))->grab().toImage();
+    for (int y = 0; y < chart.height(); y += 3) {
+      for (int x = 0; x < chart.width(); x += 3) {
+        colors.insert(chart.pixel(x, y));
+      }
+    }
+    return colors.size();
+  };
+  EXPECT_TRUE(QTest::qWaitFor([&] { return colorsIn("starMap") > 20; }, 20000));
+  window->selectTab(exports::OutputTab::horoscope);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return colorsIn("horoscope") > 20; }, 20000));
+  EXPECT_EQ(window->findChildren<QWebEngineView*>().size(), 2);
+}
+
+}  // namespace
+}  // namespace veyruna::ui
