@@ -4,6 +4,7 @@
 #include <QEventLoop>
 #include <QFile>
 #include <QTimer>
+#include <algorithm>
 #include <csignal>
 #include <gtest/gtest.h>
 #include <unistd.h>
@@ -105,26 +106,26 @@ TEST(Failures, AreToldUnderTheirPrefixAndLeaveNoFile) {
 }
 
 TEST(Failures, ARenderProcessThatDiesBeforeItPrints) {
-  int failed = 0;
-  int killed = 0;
-  for (int delay = 0; delay <= 40; delay += 4) {
+  for (int round = 0; round < 10; ++round) {
     Answers answers;
-    PDFExporter::start(longReport(), letterPoints, answers.completion(), std::chrono::seconds(10));
-    runEventLoopFor(milliseconds(delay));
-    if (answers.descriptions.isEmpty()) {
-      for (const pid_t process : renderProcesses()) {
-        killed += kill(process, SIGKILL) == 0 ? 1 : 0;
-      }
+    const std::vector<pid_t> before = renderProcesses();
+    PDFExporter::start(longReport(), letterPoints, answers.completion(), std::chrono::seconds(20));
+    // Killed as soon as it is there: the document is still being read.
+    const auto newest = [&] {
+      std::vector<pid_t> found = renderProcesses();
+      std::erase_if(found, [&](pid_t id) { return std::ranges::count(before, id) > 0; });
+      return found;
+    };
+    for (int wait = 0; wait < 5000 && newest().empty() && answers.descriptions.isEmpty(); ++wait) {
+      runEventLoopFor(milliseconds(1));
     }
-    ASSERT_TRUE(PDFExporter::waitForAll(std::chrono::seconds(15))) << delay;
+    for (const pid_t process : newest()) {
+      ASSERT_EQ(kill(process, SIGKILL), 0);
+    }
+    ASSERT_TRUE(PDFExporter::waitForAll(std::chrono::seconds(30)));
     runEventLoopFor(milliseconds(20));
-    ASSERT_EQ(answers.descriptions.size(), 1) << delay;
-    EXPECT_NE(answers.descriptions.front(), u"Drawing the document took too long."_s) << delay;
-    failed += answers.descriptions.front() == u"a PDF"_s ? 0 : 1;
+    EXPECT_EQ(answers.descriptions, QStringList(u"The process that draws the document ended."_s));
   }
-  EXPECT_GT(killed, 2);
-  EXPECT_GT(failed, 2);
-  std::printf("%d render processes killed, %d renderings failed\n", killed, failed);
 }
 
 TEST(Failures, PatienceThatEndsAtAnyMoment) {
