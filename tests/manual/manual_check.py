@@ -1,0 +1,164 @@
+"""Reads the manual as a reader would follow it and names what is wrong: links, pictures and anchors
+that lead nowhere, pages nobody can reach, anything fetched from elsewhere, examples that the program
+does not write, and options or commands of `veyruna` that the page of the command line lacks or invents.
+
+    manual_check.py MANUAL_FOLDER VEYRUNA
+
+Prints a line for each fault; exit status 1 where there is one."""
+
+import os
+import re
+import shlex
+import subprocess
+import sys
+import tempfile
+from html.parser import HTMLParser
+from pathlib import Path
+
+VOID = {"area", "base", "br", "col", "hr", "img", "input", "link", "meta", "source", "wbr"}
+
+
+class Page(HTMLParser):
+    """What one page holds: anchors, links, sources, examples and the first cells of its tables."""
+
+    def __init__(self, path):
+        super().__init__(convert_charrefs=True)
+        self.anchors, self.links, self.sources, self.faults = set(), [], [], []
+        self.examples, self.first_cells = [], []
+        self._open, self._cells_in_row, self._collects = [], 0, None
+        self.feed(path.read_text(encoding="utf-8"))
+        self.close()
+        self.faults += [f"<{tag}> is not closed" for tag in self._open]
+
+    def handle_starttag(self, tag, attributes):
+        given = dict(attributes)
+        if tag not in VOID:
+            self._open.append(tag)
+        if tag == "script" or any(name.startswith("on") for name in given):
+            self.faults.append("holds a script")
+        if "id" in given:
+            if given["id"] in self.anchors:
+                self.faults.append(f"has two anchors #{given['id']}")
+            self.anchors.add(given["id"])
+        if tag == "a" and "href" in given:
+            self.links.append(given["href"])
+        if tag == "link":
+            self.sources.append(given["href"])
+        if "src" in given:
+            self.sources.append(given["src"])
+        if tag == "img" and not given.get("alt"):
+            self.faults.append(f"says nothing in place of the picture {given.get('src')}")
+        if tag == "tr":
+            self._cells_in_row = 0
+        if tag == "td":
+            self._cells_in_row += 1
+            if self._cells_in_row == 1:
+                self.first_cells.append("")
+                self._collects = "cell"
+        if tag == "pre" and "data-command" in given:
+            self.examples.append([given["data-command"], ""])
+            self._collects = "example"
+
+    def handle_endtag(self, tag):
+        if tag in VOID:
+            return
+        if not self._open or self._open.pop() != tag:
+            self.faults.append(f"closes <{tag}> out of turn in line {self.getpos()[0]}")
+        if tag in ("td", "pre"):
+            self._collects = None
+
+    def handle_data(self, text):
+        if self._collects == "cell":
+            self.first_cells[-1] += text
+        elif self._collects == "example":
+            self.examples[-1][1] += text
+
+
+def check_links(manual, pages):
+    """Faults of links and sources, and the pages that no way leads to from index.html."""
+    followed = {name: set() for name in pages}
+    for name, page in pages.items():
+        for address in page.links + page.sources:
+            if re.match(r"[a-z]+:|//", address):
+                yield f"{name} leads out of the manual: {address}"
+                continue
+            file, _, anchor = address.partition("#")
+            target = os.path.normpath(file or name)
+            if not (manual / target).is_file():
+                yield f"{name}: {address} is missing"
+            elif anchor and anchor not in pages[target].anchors:
+                yield f"{name}: {address} is no anchor of that page"
+            if target in pages:
+                followed[name].add(target)
+    reached, ahead = set(), ["index.html"]
+    while ahead:
+        name = ahead.pop()
+        if name not in reached:
+            reached.add(name)
+            ahead += followed.get(name, ())
+    yield from (f"{name} cannot be reached from index.html" for name in sorted(set(pages) - reached))
+    sheet = (manual / "manual.css").read_text(encoding="utf-8")
+    if "url(" in sheet or "@import" in sheet:
+        yield "manual.css fetches something"
+
+
+class Program:
+    """The command, run in an empty home of its own."""
+
+    def __init__(self, path, home):
+        self._path, self._home = os.path.abspath(path), home
+
+    def lines(self, *arguments):
+        result = subprocess.run(
+            [self._path, *arguments], capture_output=True, text=True, check=False, cwd=self._home,
+            env={"HOME": self._home, "PATH": os.defpath})
+        return [line.rstrip() for line in (result.stdout + result.stderr).splitlines()]
+
+    def commands(self):
+        text = "\n".join(self.lines("--help"))
+        return re.findall(r"^  ([a-z][a-z-]*)  ", text.split("Commands:")[1], re.MULTILINE)
+
+    def options(self):
+        """Every name of an option, in the help of the program and of each command."""
+        helps = [self.lines("--help")] + [self.lines("help", name) for name in self.commands()]
+        names = set()
+        for line in (line for text in helps for line in text):
+            option = re.match(r"  (-\S+)", line)
+            names |= set(option.group(1).split(",")) if option else set()
+        return names
+
+
+def check_examples(pages, program):
+    """Faults of examples: each line is to come in the program's output, in that order."""
+    for name, page in pages.items():
+        for command, text in page.examples:
+            output = iter(program.lines(*shlex.split(command)[1:]))
+            for line in text.split("\n"):
+                if line != "…" and line.rstrip() not in output:
+                    yield f"{name}: `{command}` does not write: {line}"
+                    break
+
+
+def check_command_line(page, program):
+    """Differences between the tables of the page and what the program offers."""
+    words = {word for cell in page.first_cells for word in re.split(r"[\s,]+", cell)}
+    offered = program.options() | set(program.commands())
+    described = {word for word in words if re.fullmatch(r"-{0,2}[a-z][a-z-]*", word)}
+    yield from (f"command-line.html lacks {word}" for word in sorted(offered - described))
+    yield from (f"command-line.html invents {word}" for word in sorted(described - offered))
+
+
+def faults_of(manual, veyruna):
+    pages = {path.name: Page(path) for path in sorted(manual.glob("*.html"))}
+    yield from (f"{name} {fault}" for name, page in pages.items() for fault in page.faults)
+    yield from check_links(manual, pages)
+    with tempfile.TemporaryDirectory() as home:
+        program = Program(veyruna, home)
+        yield from check_examples(pages, program)
+        yield from check_command_line(pages["command-line.html"], program)
+
+
+if __name__ == "__main__":
+    found = list(faults_of(Path(sys.argv[1]), sys.argv[2]))
+    print("\n".join(found) or "The manual leads where it says.")
+    sys.exit(1 if found else 0)
