@@ -8,6 +8,7 @@
 #include <QVBoxLayout>
 #include <QWindow>
 
+#include "ui/icons.h"
 #include "ui/named.h"
 #include "ui/product.h"
 #include "ui/program.h"
@@ -18,6 +19,7 @@ namespace {
 
 constexpr int contentWidth = 650;
 constexpr int spacing = 6;
+constexpr int pictureSize = 100;
 
 QPushButton* linkButton(const QString& title, const QUrl& address) {
   auto* const button = named(new QPushButton(title), "", title);
@@ -46,6 +48,8 @@ AboutView::AboutView(QWidget* parent) : QWidget(parent, Qt::Dialog) {
   setAutoFillBackground(true);
   const Product product = readProduct();
 
+  auto* const picture = named(centred(QString()), "picture", tr("The sky of Veyruna"));
+  picture->setPixmap(programIcon().pixmap(QSize(pictureSize, pictureSize), devicePixelRatio()));
   auto* const title = centred(tr("Veyrunan Astrologer"));
   QFont titleFont = title->font();
   titleFont.setPointSizeF(titleFont.pointSizeF() * 2.0);
@@ -53,6 +57,7 @@ AboutView::AboutView(QWidget* parent) : QWidget(parent, Qt::Dialog) {
 
   auto* const column = new QVBoxLayout(this);
   column->setSpacing(spacing);
+  column->addWidget(picture);
   column->addWidget(title);
   column->addWidget(centred(tr("Version %1 (Build %2)").arg(programVersion(), programBuild())));
   for (const QString& paragraph : product.credits) {

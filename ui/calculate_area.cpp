@@ -7,6 +7,7 @@
 #include <QShortcut>
 #include <QVBoxLayout>
 
+#include "ui/icons.h"
 #include "ui/named.h"
 #include "ui/warning_label.h"
 
@@ -32,7 +33,8 @@ Label* small(Label* label) {
 
 CalculateArea::CalculateArea(AstronomyModel& model, QWidget* parent)
     : QWidget(parent), model_(model) {
-  auto* const button = named(new QPushButton(tr("&Calculate")), "calculateButton", tr("Calculate"));
+  auto* const button = named(new QPushButton(icon("", "calculate"), tr("&Calculate")),
+                             "calculateButton", tr("Calculate"));
   button->setDefault(true);
   // Beside the mnemonic, which is a button's one shortcut.
   for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {

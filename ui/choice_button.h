@@ -45,6 +45,10 @@ class TabButton final : public QToolButton {
     QStyleOptionToolButton option;
     initStyleOption(&option);
     highlightChosen(option, isChecked());
+    if (isChecked()) {
+      // The icon in the ink of what is highlighted.
+      option.icon = QIcon(icon().pixmap(option.iconSize, devicePixelRatio(), QIcon::Selected));
+    }
     painter.drawComplexControl(QStyle::CC_ToolButton, option);
   }
 };

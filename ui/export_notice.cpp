@@ -9,6 +9,7 @@
 #include <QUrl>
 #include <chrono>
 
+#include "ui/icons.h"
 #include "ui/named.h"
 
 namespace veyruna::ui {
@@ -22,8 +23,8 @@ constexpr std::chrono::seconds shown{8};
 ExportNotice::ExportNotice(QWidget* parent)
     : QWidget(parent),
       line_(named(new QLabel, "exportNotice", tr("Result of the export"))),
-      openFolder_(named(new QPushButton(tr("Open Folder")), "openFolder",
-                        tr("Open the folder of the saved file"))) {
+      openFolder_(named(new QPushButton(icon("folder-open", "folder"), tr("Open Folder")),
+                        "openFolder", tr("Open the folder of the saved file"))) {
   line_->setTextFormat(Qt::PlainText);
   line_->setTextInteractionFlags(Qt::TextSelectableByMouse);
   line_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);  // cut, with a tooltip

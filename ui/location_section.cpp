@@ -8,6 +8,7 @@
 
 #include "ui/angle_field.h"
 #include "ui/coordinate_text.h"
+#include "ui/icons.h"
 #include "ui/named.h"
 #include "ui/segmented_picker.h"
 #include "ui/still_controls.h"
@@ -104,9 +105,8 @@ QWidget* LocationSection::makeManualFields() {
 
 QWidget* LocationSection::makeButtons() {
   auto* const buttons = new QWidget;
-  auto* const map = named(
-      new QPushButton(QIcon::fromTheme(QStringLiteral("mark-location")), tr("Pic&k from map…")),
-      "mapButton", tr("Pick the location from the map"));
+  auto* const map = named(new QPushButton(icon("mark-location", "location"), tr("Pic&k from map…")),
+                          "mapButton", tr("Pick the location from the map"));
   colorMode_ = named(new QPushButton, "colorModeButton", tr("Colour mode of the horoscope"));
   colorMode_->hide();
   auto* const row = new QHBoxLayout(buttons);

@@ -6,6 +6,7 @@
 #include "export/pdf_exporter.h"
 #include "export/sealed_page.h"
 #include "ui/application.h"
+#include "ui/icons.h"
 #include "ui/program.h"
 #include "ui/web_page_engine.h"
 
@@ -37,6 +38,8 @@ int main(int argc, char** argv) {
   QCoreApplication::setAttribute(Qt::AA_DisableShaderDiskCache);
   const QApplication application(argc, argv);
   QApplication::setApplicationName(QStringLiteral("Veyruna Astro"));
+  QApplication::setDesktopFileName(QStringLiteral("veyruna-astro"));
+  QApplication::setWindowIcon(veyruna::ui::programIcon());
   veyruna::ui::VeyrunaAstroApp program(
       veyruna::model::AstronomyModel::standardSurroundings(), veyruna::ui::webPageEngine(),
       QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +

@@ -11,6 +11,7 @@
 
 #include "ui/calculate_area.h"
 #include "ui/date_section.h"
+#include "ui/icons.h"
 #include "ui/location_section.h"
 #include "ui/location_sheets.h"
 #include "ui/named.h"
@@ -69,8 +70,10 @@ SidebarView::SidebarView(model::AstronomyModel& model, QWidget* parent)
 
 QWidget* SidebarView::makeExportArea() {
   auto* const area = new QGroupBox(tr("Export options"));
-  nativeExport_ = named(new QPushButton, "nativeExportButton", tr("Export in its own format"));
-  auto* const pdf = named(new QPushButton(tr("&PDF")), "pdfButton", tr("Export as PDF"));
+  nativeExport_ = named(new QPushButton(icon("document-save-as", "export"), QString()),
+                        "nativeExportButton", tr("Export in its own format"));
+  auto* const pdf = named(new QPushButton(icon("document-save-as", "export"), tr("&PDF")),
+                          "pdfButton", tr("Export as PDF"));
   auto* const row = new QHBoxLayout;
   row->addWidget(nativeExport_);
   row->addWidget(pdf);

@@ -2,8 +2,10 @@
 
 #include <QActionGroup>
 #include <QHBoxLayout>
+#include <array>
 
 #include "ui/choice_button.h"
+#include "ui/icons.h"
 #include "ui/named.h"
 
 namespace veyruna::ui {
@@ -22,11 +24,14 @@ TabSelector::TabSelector(QWidget* parent)
   auto* const row = new QHBoxLayout(buttons);
   row->setContentsMargins({});
   row->addStretch();
+  constexpr std::array<const char*, exports::outputTabs.size()> icons = {
+      "star_map", "horoscope", "planets", "sun_moon", "positions", "location"};
   int number = 1;
   for (const exports::OutputTab tab : exports::outputTabs) {
     const QString title = exports::title(tab);
     auto* const action = new QAction(QString(title).replace(QLatin1Char('&'), QLatin1String("&&")));
     action->setParent(this);
+    action->setIcon(icon("", icons.at(static_cast<std::size_t>(number - 1))));
     action->setCheckable(true);
     action->setShortcut(QKeySequence(QStringLiteral("Ctrl+%1").arg(number)));
     action->setToolTip(
@@ -35,7 +40,7 @@ TabSelector::TabSelector(QWidget* parent)
     auto* const button = named(new TabButton, "", tr("Show the tab %1").arg(title));
     button->setObjectName(QStringLiteral("tab%1").arg(number));
     button->setDefaultAction(action);
-    button->setToolButtonStyle(Qt::ToolButtonTextOnly);
+    button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     button->setFocusPolicy(Qt::StrongFocus);
     row->addWidget(button);
     connect(action, &QAction::triggered, this, [this, tab] { Q_EMIT chosen(tab); });

@@ -6,6 +6,7 @@
 #include <QMenuBar>
 #include <QScreen>
 
+#include "tests/ui/opened_addresses.h"
 #include "tests/ui/shown_window.h"
 #include "ui/about_view.h"
 
@@ -199,6 +200,17 @@ TEST_F(Application, ALinkWithoutAnAddressIsDisabledAndSaysSo) {
   ASSERT_EQ(titles.size(), 5);
   EXPECT_EQ(titles[0], QStringLiteral("Application Documentation"));
   EXPECT_EQ(titles[1], QStringLiteral("Developer Website"));
+}
+
+TEST_F(Application, TheDocumentationIsTheManualOfTheProgram) {
+  tests::OpenedAddresses opened;
+  const AboutView* const about = program.openAbout();
+  about->findChild<QAbstractButton*>(QStringLiteral("linkApplication Documentation"))->click();
+  trigger(*program.openWindow(), "Veyruna Astro Help");
+  ASSERT_EQ(opened.addresses().size(), 2);
+  EXPECT_EQ(opened.addresses()[0], opened.addresses()[1]);
+  EXPECT_TRUE(QFile::exists(opened.addresses()[0].toLocalFile()));
+  EXPECT_EQ(opened.addresses()[0].fileName(), QStringLiteral("index.html"));
 }
 
 }  // namespace
