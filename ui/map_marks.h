@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QPointF>
+#include <QRect>
+#include <QString>
+#include <vector>
+
+#include "model/astronomy_model.h"
+#include "ui/map_layout.h"
+
+class QPainter;
+
+namespace veyruna::ui {
+
+/// A place marked on the map.
+struct MapMark {
+  MapPlace place;
+  QString name;             ///< shown while the pointer is over the mark; empty: nothing is
+  bool isSelected = false;  ///< the place the sky is asked for
+};
+
+/// The saved places, and the manual one while it is selected, in the mapped area or not. A
+/// selection whose place is gone marks nothing.
+std::vector<MapMark> marksOf(const model::AstronomyModel& model);
+
+/// Draws those marks that touch the view: a dot for each, a ring around the selected one.
+void drawMarks(QPainter& painter, const std::vector<MapMark>& marks, const Layout& layout,
+               const QRectF& view);
+
+/// A name and where its mark lies; the text is empty where there is none.
+struct NameOnMap {
+  QString text;
+  QPointF mark;
+};
+
+/// The name of the mark nearest to a point, within eight points; those of several marks at one
+/// spot, each on a line.
+NameOnMap nameAt(QPointF point, const std::vector<MapMark>& marks, const Layout& layout);
+
+}  // namespace veyruna::ui
