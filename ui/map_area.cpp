@@ -129,8 +129,6 @@ void MapArea::repaintTile(QRect area) {
 void MapArea::paintEvent(QPaintEvent* event) {
   QPainter painter(this);
   drawMap(painter, event->rect());
-  painter.setRenderHint(QPainter::Antialiasing);
-  drawMarks(painter, marks_, shown_, rect());
   if (hasFocus()) {
     painter.setPen(QPen(palette().color(QPalette::Highlight), 2.0));
     painter.setBrush(Qt::NoBrush);
@@ -150,6 +148,7 @@ void MapArea::drawMap(QPainter& painter, const QRectF& exposed) {
     painter.fillRect(bare, ground);
   }
   tiles_->draw(painter, image, view, part);
+  stamps_.draw(painter, marks_, shown_, toDevice, view);
   painter.restore();
 }
 

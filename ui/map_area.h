@@ -85,6 +85,7 @@ class MapArea final : public QWidget {
   TranslucentLabel* placeName_;
   Layout shown_;
   std::vector<MapMark> marks_;
+  MarkStamps stamps_;
   bool hasAskedForPicture_ = false;
 
   std::optional<QPointF> pointer_;

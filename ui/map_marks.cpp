@@ -14,18 +14,45 @@ constexpr double reach = 8.0;       ///< points from a mark at which its name sh
 constexpr QRgb ink = 0xff8b1a1a;    // a red that is seen on sea, land and parchment
 constexpr QRgb outline = 0xfffff8e8;
 
-void drawDot(QPainter& painter, QPointF centre) {
-  painter.setPen(QPen(QColor(outline), 1.5));
-  painter.setBrush(QColor(ink));
-  painter.drawEllipse(centre, dotRadius, dotRadius);
+/// An empty stamp for everything within `radius` points of its centre, which is the centre of its
+/// middle pixel.
+QImage stampOf(double radius, double pixelsPerPoint) {
+  const int pixels = 2 * static_cast<int>(std::ceil(radius * pixelsPerPoint)) + 1;
+  QImage stamp(pixels, pixels, QImage::Format_ARGB32_Premultiplied);
+  stamp.fill(Qt::transparent);
+  return stamp;
 }
 
-void drawRing(QPainter& painter, QPointF centre) {
-  painter.setBrush(Qt::NoBrush);
+QImage drawnDot(double pixelsPerPoint) {
+  QImage stamp = stampOf(dotRadius + 1.0, pixelsPerPoint);
+  QPainter painter(&stamp);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.translate(stamp.width() * 0.5, stamp.height() * 0.5);
+  painter.scale(pixelsPerPoint, pixelsPerPoint);
+  painter.setPen(QPen(QColor(outline), 1.5));
+  painter.setBrush(QColor(ink));
+  painter.drawEllipse(QPointF(), dotRadius, dotRadius);
+  return stamp;
+}
+
+QImage drawnRing(double pixelsPerPoint) {
+  QImage stamp = stampOf(ringRadius + 3.0, pixelsPerPoint);
+  QPainter painter(&stamp);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.translate(stamp.width() * 0.5, stamp.height() * 0.5);
+  painter.scale(pixelsPerPoint, pixelsPerPoint);
   painter.setPen(QPen(QColor(outline), 4.5));
-  painter.drawEllipse(centre, ringRadius, ringRadius);
+  painter.drawEllipse(QPointF(), ringRadius, ringRadius);
   painter.setPen(QPen(QColor(ink), 2.5));
-  painter.drawEllipse(centre, ringRadius, ringRadius);
+  painter.drawEllipse(QPointF(), ringRadius, ringRadius);
+  return stamp;
+}
+
+/// The stamp's corner where its middle pixel is the one the centre lies in.
+QPoint cornerFor(const QImage& stamp, QPointF centre) {
+  return QPoint(static_cast<int>(std::floor(centre.x())),
+                static_cast<int>(std::floor(centre.y()))) -
+         QPoint(stamp.width() / 2, stamp.height() / 2);
 }
 
 }  // namespace
@@ -43,18 +70,31 @@ std::vector<MapMark> marksOf(const model::AstronomyModel& model) {
   return marks;
 }
 
-void drawMarks(QPainter& painter, const std::vector<MapMark>& marks, const Layout& layout,
-               const QRectF& view) {
+void MarkStamps::draw(QPainter& painter, const std::vector<MapMark>& marks, const Layout& layout,
+                      const QTransform& toDevice, const QRect& view) {
+  prepare(toDevice.m11());
   const QRectF near =
-      view.adjusted(-ringRadius * 2, -ringRadius * 2, ringRadius * 2, ringRadius * 2);
+      view.marginsAdded({ring_.width(), ring_.width(), ring_.width(), ring_.width()});
   for (const MapMark& mark : marks) {
-    const std::optional<QPointF> centre = pointOf(mark.place, layout);
-    if (centre && near.contains(*centre)) {
-      drawDot(painter, *centre);
+    const std::optional<QPointF> point = pointOf(mark.place, layout);
+    if (!point) {
+      continue;
+    }
+    const QPointF centre = toDevice.map(*point);
+    if (near.contains(centre)) {
+      painter.drawImage(cornerFor(dot_, centre), dot_);
       if (mark.isSelected) {
-        drawRing(painter, *centre);
+        painter.drawImage(cornerFor(ring_, centre), ring_);
       }
     }
+  }
+}
+
+void MarkStamps::prepare(double pixelsPerPoint) {
+  if (pixelsPerPoint != pixelsPerPoint_) {
+    pixelsPerPoint_ = pixelsPerPoint;
+    dot_ = drawnDot(pixelsPerPoint);
+    ring_ = drawnRing(pixelsPerPoint);
   }
 }
 

@@ -1,8 +1,10 @@
 #pragma once
 
+#include <QImage>
 #include <QPointF>
 #include <QRect>
 #include <QString>
+#include <QTransform>
 #include <vector>
 
 #include "model/astronomy_model.h"
@@ -23,9 +25,23 @@ struct MapMark {
 /// selection whose place is gone marks nothing.
 std::vector<MapMark> marksOf(const model::AstronomyModel& model);
 
-/// Draws those marks that touch the view: a dot for each, a ring around the selected one.
-void drawMarks(QPainter& painter, const std::vector<MapMark>& marks, const Layout& layout,
-               const QRectF& view);
+/// What a mark looks like, drawn once for a screen's scale factor and stamped from then on: frames
+/// must not cost more for being marked.
+class MarkStamps {
+ public:
+  /// Draws those marks that touch the view: a dot for each, a ring around the selected one, their
+  /// centres on the nearest device pixel. The painter counts in device pixels; `toDevice` leads
+  /// there from the layout's points.
+  void draw(QPainter& painter, const std::vector<MapMark>& marks, const Layout& layout,
+            const QTransform& toDevice, const QRect& view);
+
+ private:
+  void prepare(double pixelsPerPoint);
+
+  double pixelsPerPoint_ = 0.0;
+  QImage dot_;
+  QImage ring_;
+};
 
 /// A name and where its mark lies; the text is empty where there is none.
 struct NameOnMap {

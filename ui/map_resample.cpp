@@ -13,7 +13,7 @@ namespace veyruna::ui {
 
 namespace {
 
-constexpr int longest = 256;  ///< pixels of a row
+constexpr int longest = 512;  ///< pixels of a row
 constexpr int channels = 4;   ///< blue, green, red, and one to fill up
 
 using Row = std::array<float, std::size_t{longest} * channels>;
@@ -95,7 +95,7 @@ void write(const Row& row, int width, uchar* line) {
 }  // namespace
 
 QImage resampled(const QImage& source, QSizeF scale, QPoint first, QSize size) {
-  astro::requireInvariant(size.width() <= longest, "a piece of the map is at most 256 pixels wide");
+  astro::requireInvariant(size.width() <= longest, "a piece of the map is at most 512 pixels wide");
   const std::vector<Taps> columns = allTaps(first.x(), size.width(), scale.width());
   const std::vector<Taps> lines = allTaps(first.y(), size.height(), scale.height());
   const int top = lines.front().first;

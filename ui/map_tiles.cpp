@@ -15,7 +15,7 @@ namespace veyruna::ui {
 
 namespace {
 
-constexpr int tileBytes = MapTiles::tileSide * MapTiles::tileSide * 4;
+constexpr int tileBytes = MapTiles::tileSize.width() * MapTiles::tileSize.height() * 4;
 constexpr std::size_t mostTiles = MapTiles::budgetBytes / tileBytes;
 
 /// One thread of the machine stays free for what else the person asks for.
@@ -25,9 +25,10 @@ int mostWorkers() {
 
 /// The columns and rows of tiles that a part of the picture touches.
 QRect tilesTouching(const QRect& part) {
-  constexpr int side = MapTiles::tileSide;
-  return {QPoint(part.left() / side, part.top() / side),
-          QPoint(part.right() / side, part.bottom() / side)};
+  constexpr int width = MapTiles::tileSize.width();
+  constexpr int height = MapTiles::tileSize.height();
+  return {QPoint(part.left() / width, part.top() / height),
+          QPoint(part.right() / width, part.bottom() / height)};
 }
 
 QSizeF scaleOf(const QSize& picture, QSizeF shown) {
@@ -58,7 +59,7 @@ void MapTiles::setPicture(std::shared_ptr<const MapPicture> picture) {
 }
 
 QRect MapTiles::areaOf(const Key& key) {
-  return QRect(key.column * tileSide, key.row * tileSide, tileSide, tileSide) &
+  return QRect(QPoint(key.column * tileSize.width(), key.row * tileSize.height()), tileSize) &
          QRect(0, 0, key.imageWidth, key.imageHeight);
 }
 

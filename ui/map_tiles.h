@@ -3,6 +3,7 @@
 #include <QImage>
 #include <QObject>
 #include <QRect>
+#include <QSize>
 #include <compare>
 #include <map>
 #include <memory>
@@ -15,7 +16,7 @@ class QPainter;
 
 namespace veyruna::ui {
 
-/// The map at the scale at which it is shown, in square tiles that wait finished to be copied to
+/// The map at the scale at which it is shown, in tiles that wait finished to be copied to
 /// the screen. What is in sight, and one tile around it, is drawn with high-quality interpolation
 /// by the executor; until a tile has come, its part of the picture is shown in rough pixels. Holds
 /// at most `budgetBytes` of tiles: where a screen is larger than that, its rim stays rough. All
@@ -24,7 +25,8 @@ class MapTiles final : public QObject {
   Q_OBJECT
 
  public:
-  static constexpr int tileSide = 256;  ///< pixels
+  /// Pixels; wide, so that a frame is copied in long rows.
+  static constexpr QSize tileSize{512, 256};
   static constexpr int budgetBytes = 40'000'000;
 
   explicit MapTiles(model::Executor executor, QObject* parent = nullptr);
