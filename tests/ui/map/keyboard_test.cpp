@@ -1,0 +1,57 @@
+// The map without a pointer.
+#include "tests/ui/map/shown_picker.h"
+
+namespace veyruna::tests {
+namespace {
+
+TEST_F(ShownPicker, TheMapTakesTheFocusAndHasAName) {
+  EXPECT_EQ(area->focusPolicy(), Qt::StrongFocus);
+  EXPECT_FALSE(area->accessibleName().isEmpty());
+  EXPECT_FALSE(area->accessibleDescription().isEmpty());
+  for (const char* const name : {"zoomOutButton", "zoomReadout", "zoomInButton", "resetButton"}) {
+    const auto* const control = view->findChild<QWidget*>(QString::fromLatin1(name));
+    ASSERT_NE(control, nullptr) << name;
+    EXPECT_FALSE(control->accessibleName().isEmpty()) << name;
+  }
+}
+
+TEST_F(ShownPicker, TheArrowsLookThatWay) {
+  area->setFocus();
+  QTest::keyClick(window.windowHandle(), Qt::Key_Right);
+  EXPECT_EQ(view->pan(), QPointF(-40.0, 0.0));
+  QTest::keyClick(window.windowHandle(), Qt::Key_Down);
+  EXPECT_EQ(view->pan(), QPointF(-40.0, -40.0));
+  QTest::keyClick(window.windowHandle(), Qt::Key_Left);
+  QTest::keyClick(window.windowHandle(), Qt::Key_Left);
+  QTest::keyClick(window.windowHandle(), Qt::Key_Up);
+  EXPECT_EQ(view->pan(), QPointF(40.0, 0.0));
+}
+
+TEST_F(ShownPicker, TheReadoutFollowsTheMapUnderAPointerAtRest) {
+  pointAt({400, 300});
+  const QString before = text("mapReadout");
+  QTest::keyClick(area, Qt::Key_Right);
+  EXPECT_NE(text("mapReadout"), before);
+  pointAt({401, 300});
+  pointAt({400, 300});
+  const QString moved = text("mapReadout");
+  QTest::keyClick(area, Qt::Key_Left);
+  EXPECT_EQ(text("mapReadout"), before);
+  QTest::keyClick(area, Qt::Key_Right);
+  EXPECT_EQ(text("mapReadout"), moved);
+}
+
+TEST_F(ShownPicker, OtherKeysPassOn) {
+  for (const Qt::Key key : {Qt::Key_Tab, Qt::Key_A, Qt::Key_Escape}) {
+    QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier);
+    event.accept();
+    QCoreApplication::sendEvent(area, &event);
+  }
+  QKeyEvent withAlt(QEvent::KeyPress, Qt::Key_Left, Qt::AltModifier);
+  QCoreApplication::sendEvent(area, &withAlt);
+  EXPECT_EQ(view->pan(), QPointF());
+  EXPECT_EQ(zoomText(), QStringLiteral("100%"));
+}
+
+}  // namespace
+}  // namespace veyruna::tests

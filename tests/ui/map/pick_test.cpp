@@ -1,0 +1,70 @@
+// What a place of the map becomes in the model, and in words.
+#include <gtest/gtest.h>
+
+#include "tests/model/fakes.h"
+#include "ui/map_pick.h"
+
+namespace veyruna::ui {
+namespace {
+
+constexpr double degree = astro::pi / 180.0;
+
+struct Pick : testing::Test, tests::FakeModel {};
+
+TEST_F(Pick, RoundsToAThousandthOfADegree) {
+  pick({12.34567 * degree, -3.0004 * degree}, model);
+  EXPECT_EQ(model.manualLatDeg(), 12.346);
+  EXPECT_EQ(model.manualLongDeg(), 3.0);
+  EXPECT_TRUE(model.latNorth());
+  EXPECT_TRUE(model.longWest());
+  EXPECT_EQ(model.selectedCityID(), model::manualCityID());
+}
+
+TEST_F(Pick, TheHemispheresFollowTheSigns) {
+  pick({-1.0 * degree, 2.0 * degree}, model);
+  EXPECT_EQ(model.manualLatDeg(), 1.0);
+  EXPECT_FALSE(model.latNorth());
+  EXPECT_FALSE(model.longWest());
+  pick({0.0, -0.0}, model);
+  EXPECT_TRUE(model.latNorth());
+  EXPECT_FALSE(model.longWest());
+}
+
+TEST_F(Pick, SetsLatitudeThenLongitudeThenFlagsThenSelection) {
+  model.setSelectedCityID(model.cities().at(3).id);
+  model.setLatNorth(false);
+  model.setLongWest(false);
+  QStringList order;
+  const auto note = [&order](const char* what) {
+    return [&order, what] { order.append(QString::fromLatin1(what)); };
+  };
+  using model::AstronomyModel;
+  QObject::connect(&model, &AstronomyModel::manualLatDegChanged, note("latitude"));
+  QObject::connect(&model, &AstronomyModel::manualLongDegChanged, note("longitude"));
+  QObject::connect(&model, &AstronomyModel::latNorthChanged, note("north"));
+  QObject::connect(&model, &AstronomyModel::longWestChanged, note("west"));
+  QObject::connect(&model, &AstronomyModel::selectedCityIDChanged, note("selection"));
+  settings->groups.clear();
+  pick({12.0 * degree, -3.0 * degree}, model);
+  EXPECT_EQ(order.join(QLatin1Char(' ')).toStdString(), "latitude longitude north west selection");
+  EXPECT_EQ(settings->groups.size(), 5U);
+  EXPECT_FALSE(model.isCalculating());
+}
+
+TEST_F(Pick, StoresEvenWhatIsThereAlready) {
+  pick({12.0 * degree, -3.0 * degree}, model);
+  settings->groups.clear();
+  pick({12.0 * degree, -3.0 * degree}, model);
+  EXPECT_EQ(settings->groups.size(), 5U);
+}
+
+TEST(CoordinatesText, HasThreeDecimalsAndThreeSpacesInEveryLocale) {
+  EXPECT_EQ(coordinatesText({40.5 * degree, -20.9 * degree}),
+            QStringLiteral("40.500° N   20.900° W"));
+  EXPECT_EQ(coordinatesText({0.0, 0.0}), QStringLiteral("0.000° N   0.000° E"));
+  EXPECT_EQ(coordinatesText({-1.23449 * degree, 44.9996 * degree}),
+            QStringLiteral("1.234° S   45.000° E"));
+}
+
+}  // namespace
+}  // namespace veyruna::ui

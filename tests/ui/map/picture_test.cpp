@@ -1,0 +1,126 @@
+// The picture's halvings and the filter that draws it at every scale.
+#include <QTemporaryDir>
+#include <cmath>
+#include <gtest/gtest.h>
+
+#include "ui/map_picture.h"
+#include "ui/map_resample.h"
+
+namespace veyruna::ui {
+namespace {
+
+QImage filled(QSize size, QRgb color) {
+  QImage image(size, QImage::Format_RGB32);
+  image.fill(color);
+  return image;
+}
+
+int distance(QRgb a, QRgb b) {
+  return std::max({std::abs(qRed(a) - qRed(b)), std::abs(qGreen(a) - qGreen(b)),
+                   std::abs(qBlue(a) - qBlue(b))});
+}
+
+/// Grey that grows by 2 to the right and by 1 downwards.
+QImage slope(int width, int height) {
+  QImage image(width, height, QImage::Format_RGB32);
+  for (int y = 0; y < height; ++y) {
+    for (int x = 0; x < width; ++x) {
+      const int grey = 2 * x + y;
+      image.setPixel(x, y, qRgb(grey, grey / 2, 255 - grey));
+    }
+  }
+  return image;
+}
+
+TEST(MapPicture, HalvesUntilItIsSmallAndRoundsUp) {
+  const MapPicture picture(filled({101, 75}, 0xff102030));
+  EXPECT_EQ(picture.size(), QSize(101, 75));
+  EXPECT_EQ(picture.level(1).size(), QSize(51, 38));
+  EXPECT_EQ(picture.level(2).size(), QSize(26, 19));
+  EXPECT_EQ(picture.level(2).pixel(25, 18), 0xff102030);
+}
+
+TEST(MapPicture, AHalvingIsTheMeanOfFourPixels) {
+  QImage image = filled({64, 64}, 0xff000000);
+  image.setPixel(0, 0, qRgb(200, 100, 40));
+  const MapPicture picture(image);
+  EXPECT_EQ(picture.level(1).pixel(0, 0), qRgb(50, 25, 10));
+  EXPECT_EQ(picture.level(1).pixel(1, 0), qRgb(0, 0, 0));
+}
+
+TEST(MapPicture, ChoosesTheCoarsestLevelThatIsFineEnough) {
+  const MapPicture picture(filled({400, 300}, 0xff000000));  // levels 400, 200, 100, 50
+  EXPECT_EQ(picture.levelFor(3.0), 0);
+  EXPECT_EQ(picture.levelFor(1.0), 0);
+  EXPECT_EQ(picture.levelFor(0.51), 0);
+  EXPECT_EQ(picture.levelFor(0.5), 1);
+  EXPECT_EQ(picture.levelFor(0.26), 1);
+  EXPECT_EQ(picture.levelFor(0.25), 2);
+  EXPECT_EQ(picture.levelFor(1e-9), 4);
+}
+
+TEST(MapPicture, ReadsAFileAndIsNoneWhereThereIsNone) {
+  const QTemporaryDir folder;
+  const QString path = folder.filePath(QStringLiteral("map.png"));
+  ASSERT_TRUE(filled({20, 10}, 0xff336699).save(path));
+  EXPECT_EQ(pictureFile(path)().size(), QSize(20, 10));
+  EXPECT_TRUE(pictureFile(folder.filePath(QStringLiteral("none.png")))().isNull());
+}
+
+TEST(Resampled, AtItsOwnScaleItIsTheSourceToTheBit) {
+  const QImage source = slope(80, 60);
+  EXPECT_EQ(resampled(source, {1.0, 1.0}, {10, 20}, {30, 25}), source.copy(10, 20, 30, 25));
+}
+
+TEST(Resampled, OneColourStaysThatColour) {
+  const QImage source = filled({90, 70}, qRgb(17, 130, 250));
+  for (const double scale : {0.5, 0.6, 0.99, 1.0, 1.7, 3.67}) {
+    const QImage piece = resampled(source, {scale, scale}, {0, 0}, {32, 32});
+    for (int i = 0; i < 32; ++i) {
+      EXPECT_EQ(piece.pixel(i, i), qRgb(17, 130, 250)) << scale;
+    }
+  }
+}
+
+TEST(Resampled, ASlopeStaysASlopeAtItsPlace) {
+  // A linear picture tells whether pixels lie where they should: half a pixel off would show.
+  const QImage source = slope(80, 60);
+  for (const double scale : {0.5, 0.7, 1.0, 1.4, 2.0, 3.5}) {
+    const int side = static_cast<int>(20.0 * scale);
+    const QPoint first(side, side);
+    const QImage piece = resampled(source, {scale, scale}, first, {side, side});
+    for (int i = 0; i < side; ++i) {
+      const double at = (first.x() + i + 0.5) / scale - 0.5;
+      EXPECT_NEAR(qRed(piece.pixel(i, i)), 3.0 * at, 1.0) << scale << ' ' << i;
+    }
+  }
+}
+
+TEST(Resampled, PiecesMeetWithoutASeam) {
+  const QImage source = slope(80, 60);
+  const QSizeF scale(2.3, 1.7);
+  const QImage whole = resampled(source, scale, {0, 0}, {100, 80});
+  EXPECT_EQ(resampled(source, scale, {37, 41}, {50, 39}), whole.copy(37, 41, 50, 39));
+}
+
+TEST(Resampled, BeyondTheEdgeTheEdgeGoesOn) {
+  const QImage source = filled({10, 10}, qRgb(90, 80, 70));
+  const QImage piece = resampled(source, {2.0, 2.0}, {15, 15}, {20, 20});
+  EXPECT_EQ(piece.pixel(19, 19), qRgb(90, 80, 70));
+}
+
+TEST(Resampled, AnEdgeGrowsSmoothly) {
+  QImage source = filled({20, 20}, qRgb(0, 0, 0));
+  for (int y = 0; y < 20; ++y) {
+    for (int x = 10; x < 20; ++x) {
+      source.setPixel(x, y, qRgb(200, 200, 200));
+    }
+  }
+  const QImage piece = resampled(source, {4.0, 4.0}, {20, 20}, {40, 10});
+  for (int x = 1; x < 40; ++x) {
+    EXPECT_LE(distance(piece.pixel(x, 5), piece.pixel(x - 1, 5)), 70) << x;  // no steps of 200
+  }
+}
+
+}  // namespace
+}  // namespace veyruna::ui

@@ -1,0 +1,171 @@
+// The picture on the screen: not there, rough, sharp; exactly where its layout says.
+#include <QColor>
+
+#include "tests/ui/map/shown_picker.h"
+#include "ui/map_tiles.h"
+
+namespace veyruna::tests {
+namespace {
+
+struct DrawnPicker : ShownPicker {
+  DrawnPicker() {
+    for (const model::CityPreset& city : QList<model::CityPreset>(model.cities())) {
+      model.deleteCity(city.id);
+    }
+    model.setSelectedCityID(QUuid::createUuid());  // no marks on the picture
+  }
+
+  QImage shown() const { return area->grab().toImage(); }
+
+  /// Runs whatever the map has asked for, and draws, until nothing is missing.
+  void finish() {
+    for (int turn = 0; turn < 100 && !(area->isComplete() && tasks.count() == 0); ++turn) {
+      while (tasks.count() > 0) {
+        tasks.runNext();
+      }
+      turnEventLoop();
+      area->grab();
+    }
+    EXPECT_TRUE(area->isComplete());
+  }
+
+  /// The part of the picture at a point, from 0 to 1 across and down, as its colour tells.
+  static QPointF partAt(const QImage& image, QPointF point) {
+    const double pixels = image.devicePixelRatio();
+    const QRgb color = image.pixel((point * pixels).toPoint());
+    return {qRed(color) / 255.0, qGreen(color) / 255.0};
+  }
+  void expectThePictureWhereItShouldBe(const char* when) const {
+    const QImage image = shown();
+    const ui::Layout layout = view->mapLayout();
+    for (const QPointF point : {QPointF(150, 150), QPointF(400, 300), QPointF(700, 500)}) {
+      const QPointF inside = point - layout.origin;
+      const QPointF part = partAt(image, point);
+      EXPECT_NEAR(part.x(), inside.x() / layout.displaySize.width(), 0.006) << when;
+      EXPECT_NEAR(part.y(), inside.y() / layout.displaySize.height(), 0.006) << when;
+    }
+  }
+};
+
+TEST_F(DrawnPicker, UntilThePictureIsThereItsGroundIs) {
+  const QColor ground(shown().pixel(300, 300));
+  const QColor plain = area->palette().color(QPalette::Window);
+  EXPECT_NEAR(ground.red(), plain.red() * 0.96, 1.0);
+  EXPECT_NEAR(ground.green(), plain.green() * 0.96, 1.0);
+  EXPECT_NEAR(ground.blue(), plain.blue() * 0.96, 1.0);
+}
+
+TEST_F(DrawnPicker, OnADarkWindowTheGroundIsStillToBeSeen) {
+  QPalette dark;
+  dark.setColor(QPalette::Window, QColor(0x20, 0x20, 0x24));
+  area->setPalette(dark);
+  const QColor ground(shown().pixel(300, 300));
+  EXPECT_GE(ground.green() - 0x20, 5);
+}
+
+TEST_F(DrawnPicker, TheFirstFrameIsRoughAndInItsPlace) {
+  tasks.runNext();  // the picture
+  turnEventLoop();
+  EXPECT_FALSE(area->isComplete());
+  expectThePictureWhereItShouldBe("rough");
+}
+
+TEST_F(DrawnPicker, SharpItIsInTheSamePlaceAtEveryZoom) {
+  finish();
+  expectThePictureWhereItShouldBe("sharp");
+  pointAt({300, 400});
+  for (int step = 0; step < 9; ++step) {
+    turnWheel(area, Qt::AltModifier, {120, 0});
+    expectThePictureWhereItShouldBe("rough");
+    finish();
+    expectThePictureWhereItShouldBe("sharp");
+  }
+}
+
+TEST_F(DrawnPicker, DraggedFarItIsRoughThenSharpInItsPlace) {
+  finish();
+  for (int step = 0; step < 6; ++step) {
+    push("zoomInButton");
+  }
+  finish();
+  press({100, 100});
+  pointAt({700, 600});
+  expectThePictureWhereItShouldBe("dragged");
+  release({700, 600});
+  expectThePictureWhereItShouldBe("let go");
+  finish();
+  expectThePictureWhereItShouldBe("sharp");
+}
+
+TEST_F(DrawnPicker, AShortDragFindsItsMarginSharp) {
+  finish();
+  for (int step = 0; step < 6; ++step) {
+    push("zoomInButton");
+  }
+  finish();
+  const std::size_t waiting = tasks.count();
+  press({400, 300});
+  pointAt({410, 290});
+  area->grab();
+  EXPECT_EQ(tasks.count(), waiting);  // no tile was missing
+  EXPECT_TRUE(area->isComplete());
+}
+
+TEST_F(DrawnPicker, BesideThePictureIsGround) {
+  finish();
+  const QImage image = shown();
+  const double pixels = image.devicePixelRatio();
+  const auto at = [&](double x, double y) {
+    return image.pixel((QPointF(x, y) * pixels).toPoint());
+  };
+  // The picture is 800 × 605.4 in an area of 800 × 653: 23.8 points are free above and below.
+  EXPECT_EQ(at(400, 5), at(20, 640));
+  EXPECT_EQ(at(400, 22), at(400, 5));
+  EXPECT_NE(at(400, 26), at(400, 5));
+  EXPECT_NE(at(400, 627), at(400, 5));
+  EXPECT_EQ(at(400, 631), at(400, 5));
+}
+
+TEST_F(DrawnPicker, WithoutAPictureAClickStillPicks) {
+  ui::MapLocationPickerView bare(
+      model, [] { return QImage(); }, immediateExecutor());
+  bare.resize(600, 600);
+  bare.show();
+  turnEventLoop();
+  auto* const map = bare.findChild<ui::MapArea*>();
+  QTest::mouseClick(map, Qt::LeftButton, {}, map->rect().center());
+  EXPECT_EQ(model.selectedCityID(), model::manualCityID());
+  EXPECT_FALSE(map->isComplete());
+}
+
+TEST_F(DrawnPicker, ThreadsMayDrawTheTiles) {
+  ui::MapLocationPickerView real(model, &smallPicture);
+  real.resize(900, 700);
+  real.show();
+  auto* const map = real.findChild<ui::MapArea*>();
+  EXPECT_TRUE(QTest::qWaitFor([map] { return map->isComplete(); }));
+  for (int step = 0; step < 5; ++step) {
+    QTest::keyClick(map, Qt::Key_Plus);
+    turnEventLoop();
+  }
+  EXPECT_TRUE(QTest::qWaitFor([map] { return map->isComplete(); }));
+}
+
+TEST_F(DrawnPicker, ThePickerMayGoWhileThreadsDraw) {
+  for (int run = 0; run < 60; ++run) {
+    auto real =
+        std::make_unique<ui::MapLocationPickerView>(model, &smallPicture, model::poolExecutor());
+    real->resize(900, 700);
+    real->show();
+    for (int turn = 0; turn < run % 7; ++turn) {
+      turnEventLoop();
+      real->grab();
+      QTest::keyClick(real->findChild<ui::MapArea*>(), Qt::Key_Plus);
+    }
+    real.reset();
+    turnEventLoop();
+  }
+}
+
+}  // namespace
+}  // namespace veyruna::tests
