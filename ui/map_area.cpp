@@ -80,6 +80,7 @@ MapArea::MapArea(PictureSource source, model::Executor executor, QWidget* parent
 
 void MapArea::showLayout(const Layout& layout) {
   shown_ = layout;
+  isDrawn_ = false;
   showNameUnderPointer();
   update();
 }
@@ -95,7 +96,7 @@ void MapArea::showReadout(const QString& text) {
 }
 
 bool MapArea::isComplete() const {
-  return tiles_->hasPicture() && tiles_->isComplete();
+  return tiles_->hasPicture() && isDrawn_ && tiles_->isComplete();
 }
 
 void MapArea::readPicture() {
@@ -116,6 +117,7 @@ void MapArea::readPicture() {
 
 void MapArea::takePicture(const std::shared_ptr<const MapPicture>& picture) {
   tiles_->setPicture(picture);
+  isDrawn_ = false;
   update();
 }
 
@@ -150,12 +152,16 @@ void MapArea::drawMap(QPainter& painter, const QRectF& exposed) {
   tiles_->draw(painter, image, view, part);
   stamps_.draw(painter, marks_, shown_, toDevice, view);
   painter.restore();
+  isDrawn_ = true;
 }
 
 bool MapArea::event(QEvent* event) {
-  return event->type() == QEvent::NativeGesture
-             ? pinch(static_cast<const QNativeGestureEvent&>(*event))
-             : QWidget::event(event);
+  if (event->type() != QEvent::NativeGesture) {
+    return QWidget::event(event);
+  }
+  const bool isTaken = pinch(static_cast<const QNativeGestureEvent&>(*event));
+  event->setAccepted(isTaken);
+  return isTaken;
 }
 
 bool MapArea::pinch(const QNativeGestureEvent& event) {

@@ -84,6 +84,7 @@ class MapArea final : public QWidget {
   TranslucentLabel* readout_;
   TranslucentLabel* placeName_;
   Layout shown_;
+  bool isDrawn_ = false;  ///< as it is to be shown now
   std::vector<MapMark> marks_;
   MarkStamps stamps_;
   bool hasAskedForPicture_ = false;

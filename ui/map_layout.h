@@ -39,7 +39,8 @@ Layout layoutOf(QSizeF view, const Framing& framing);
 /// The place under a point of the view; nothing outside the picture or the mapped area.
 std::optional<MapPlace> placeAt(QPointF point, const Layout& layout);
 
-/// The point of the view where a place lies, in sight or not; nothing outside the mapped area.
+/// The point of the view where a place lies, in sight or not; nothing for a place the
+/// picture does not show.
 std::optional<QPointF> pointOf(const MapPlace& place, const Layout& layout);
 
 /// The framing enlarged by a factor within the range, with the point of the picture that lies at

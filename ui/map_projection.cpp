@@ -29,9 +29,10 @@ std::optional<QPointF> pixelOf(const MapPlace& place) {
   if (!isMapped(place)) {
     return std::nullopt;
   }
-  return QPointF(
+  const QPointF pixel(
       centralMeridianColumn + place.longitude * pixelsPerLongitude * std::cos(place.latitude),
       equatorRow - place.latitude * pixelsPerLatitude);
+  return pixel.x() >= 0.0 && pixel.x() <= mapWidth ? std::optional(pixel) : std::nullopt;
 }
 
 }  // namespace veyruna::ui

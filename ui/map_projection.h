@@ -34,7 +34,8 @@ struct MapPlace {
 /// The place at a pixel; nothing outside the mapped area or where a coordinate is no number.
 std::optional<MapPlace> placeAtPixel(QPointF pixel);
 
-/// The pixel of a place; nothing outside the mapped area or where an angle is no number.
+/// The pixel of a place; nothing outside the mapped area, beyond the picture's western edge, which
+/// cuts it off, or where an angle is no number.
 std::optional<QPointF> pixelOf(const MapPlace& place);
 
 }  // namespace veyruna::ui

@@ -3,10 +3,10 @@
 #include <QCoreApplication>
 #include <QMutex>
 #include <QPainter>
-#include <QPointer>
 #include <QThread>
 #include <algorithm>
 #include <deque>
+#include <iterator>
 #include <utility>
 
 #include "ui/map_resample.h"
@@ -38,11 +38,13 @@ QSizeF scaleOf(const QSize& picture, QSizeF shown) {
 }  // namespace
 
 /// What is still to be made. Shared with the workers, which look here before each tile: what has
-/// gone out of sight is never begun.
+/// gone out of sight is never begun. Tiles no longer wanted are drawn over, so that the memory for
+/// all of them is taken once.
 struct MapTiles::Order {
   QMutex mutex;
   std::deque<Key> waiting;
   std::vector<Key> begun;  ///< and not yet delivered
+  std::vector<QImage> spare;
   int workers = 0;
 };
 
@@ -61,13 +63,6 @@ void MapTiles::setPicture(std::shared_ptr<const MapPicture> picture) {
 QRect MapTiles::areaOf(const Key& key) {
   return QRect(QPoint(key.column * tileSize.width(), key.row * tileSize.height()), tileSize) &
          QRect(0, 0, key.imageWidth, key.imageHeight);
-}
-
-QImage MapTiles::make(const MapPicture& picture, const Key& key) {
-  const QSizeF scale = scaleOf(picture.size(), QSizeF(key.imageWidth, key.imageHeight));
-  const int level = picture.levelFor(scale.width());
-  const QRect area = areaOf(key);
-  return resampled(picture.level(level), scale * (1 << level), area.topLeft(), area.size());
 }
 
 std::vector<MapTiles::Key> MapTiles::keysAround(const QRect& image, const QRect& view) const {
@@ -104,7 +99,7 @@ void MapTiles::draw(QPainter& painter, const QRect& image, const QRect& view,
         const QRect target = areaOf(key).translated(image.topLeft());
         const auto tile = tiles_.find(key);
         if (tile != tiles_.end()) {
-          painter.drawImage(target.topLeft(), tile->second);
+          painter.drawImage(target.topLeft(), tile->second, QRect(QPoint(), target.size()));
         } else {
           drawRough(painter, key, target);
         }
@@ -132,11 +127,19 @@ void MapTiles::want(std::vector<Key> keys) {
   const auto isWanted = [this](const Key& key) {
     return std::ranges::find(wanted_, key) != wanted_.end();
   };
-  std::erase_if(tiles_, [&isWanted](const auto& tile) { return !isWanted(tile.first); });
+  std::vector<QImage> spare;
+  std::erase_if(tiles_, [&](const auto& tile) {
+    const bool isSpare = !isWanted(tile.first);
+    if (isSpare) {
+      spare.push_back(tile.second);
+    }
+    return isSpare;
+  });
 
   int newWorkers = 0;
   {
     const QMutexLocker locked(&order_->mutex);
+    std::ranges::move(spare, std::back_inserter(order_->spare));
     order_->waiting.clear();
     for (const Key& key : wanted_) {
       if (!tiles_.contains(key) && std::ranges::find(order_->begun, key) == order_->begun.end()) {
@@ -147,41 +150,60 @@ void MapTiles::want(std::vector<Key> keys) {
         std::min(mostWorkers() - order_->workers, static_cast<int>(order_->waiting.size()));
     order_->workers += std::max(0, newWorkers);
   }
-  const auto work = [self = QPointer<MapTiles>(this), order = order_, picture = picture_] {
-    while (true) {
-      Key key;
-      {
-        const QMutexLocker locked(&order->mutex);
-        if (order->waiting.empty()) {
-          --order->workers;
-          return;
-        }
-        key = order->waiting.front();
-        order->waiting.pop_front();
-        order->begun.push_back(key);
-      }
-      const QImage tile = make(*picture, key);
-      QMetaObject::invokeMethod(
-          qApp,
-          [self, key, tile] {
-            if (self) {
-              self->take(key, tile);
-            }
-          },
-          Qt::QueuedConnection);
-    }
-  };
   for (int worker = 0; worker < newWorkers; ++worker) {
-    executor_(work);
+    executor_([tiles = QPointer<MapTiles>(this), order = order_, picture = picture_] {
+      work(*order, *picture, tiles);
+    });
+  }
+}
+
+void MapTiles::work(Order& order, const MapPicture& picture, const QPointer<MapTiles>& tiles) {
+  Resampler resampler;
+  while (true) {
+    Key key;
+    QImage tile;
+    {
+      const QMutexLocker locked(&order.mutex);
+      if (order.waiting.empty()) {
+        --order.workers;
+        return;
+      }
+      key = order.waiting.front();
+      order.waiting.pop_front();
+      order.begun.push_back(key);
+      if (!order.spare.empty()) {
+        tile = std::move(order.spare.back());
+        order.spare.pop_back();
+      }
+    }
+    if (tile.isNull()) {
+      tile = QImage(tileSize, QImage::Format_RGB32);
+    }
+    const QSizeF scale = scaleOf(picture.size(), QSizeF(key.imageWidth, key.imageHeight));
+    const int level = picture.levelFor(scale.width());
+    const QRect area = areaOf(key);
+    resampler.draw(picture.level(level), scale * (1 << level), area.topLeft(), area.size(), tile);
+    QMetaObject::invokeMethod(
+        qApp,
+        [tiles, key, tile] {
+          if (tiles) {
+            tiles->take(key, tile);
+          }
+        },
+        Qt::QueuedConnection);
   }
 }
 
 void MapTiles::take(const Key& key, const QImage& tile) {
+  const bool isWanted = std::ranges::find(wanted_, key) != wanted_.end();
   {
     const QMutexLocker locked(&order_->mutex);
     std::erase(order_->begun, key);
+    if (!isWanted) {
+      order_->spare.push_back(tile);
+    }
   }
-  if (std::ranges::find(wanted_, key) != wanted_.end()) {
+  if (isWanted) {
     tiles_[key] = tile;
     Q_EMIT tileCame(areaOf(key));
   }

@@ -2,6 +2,7 @@
 
 #include <QImage>
 #include <QObject>
+#include <QPointer>
 #include <QRect>
 #include <QSize>
 #include <compare>
@@ -27,7 +28,7 @@ class MapTiles final : public QObject {
  public:
   /// Pixels; wide, so that a frame is copied in long rows.
   static constexpr QSize tileSize{512, 256};
-  static constexpr int budgetBytes = 40'000'000;
+  static constexpr int budgetBytes = 38'000'000;
 
   explicit MapTiles(model::Executor executor, QObject* parent = nullptr);
   ~MapTiles() override;
@@ -61,7 +62,7 @@ class MapTiles final : public QObject {
   struct Order;
 
   static QRect areaOf(const Key& key);
-  static QImage make(const MapPicture& picture, const Key& key);
+  static void work(Order& order, const MapPicture& picture, const QPointer<MapTiles>& tiles);
   [[nodiscard]] std::vector<Key> keysAround(const QRect& image, const QRect& view) const;
   void drawRough(QPainter& painter, const Key& key, const QRect& target) const;
   void want(std::vector<Key> keys);

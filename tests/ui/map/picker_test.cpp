@@ -68,6 +68,7 @@ TEST_F(ShownPicker, AClickLandsOnTheSamePlaceAtEveryScaleFactor) {
   EXPECT_EQ(model.manualLatDeg(), 32.674);
   EXPECT_EQ(model.manualLongDeg(), 8.872);
   EXPECT_FALSE(model.longWest());
+  pointAt(besideMap());
   push("zoomInButton");
   push("zoomInButton");
   push("zoomInButton");

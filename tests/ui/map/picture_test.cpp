@@ -67,6 +67,12 @@ TEST(MapPicture, ReadsAFileAndIsNoneWhereThereIsNone) {
   EXPECT_TRUE(pictureFile(folder.filePath(QStringLiteral("none.png")))().isNull());
 }
 
+QImage resampled(const QImage& source, QSizeF scale, QPoint first, QSize size) {
+  QImage piece(size, QImage::Format_RGB32);
+  Resampler().draw(source, scale, first, size, piece);
+  return piece;
+}
+
 TEST(Resampled, AtItsOwnScaleItIsTheSourceToTheBit) {
   const QImage source = slope(80, 60);
   EXPECT_EQ(resampled(source, {1.0, 1.0}, {10, 20}, {30, 25}), source.copy(10, 20, 30, 25));
@@ -107,6 +113,14 @@ TEST(Resampled, BeyondTheEdgeTheEdgeGoesOn) {
   const QImage source = filled({10, 10}, qRgb(90, 80, 70));
   const QImage piece = resampled(source, {2.0, 2.0}, {15, 15}, {20, 20});
   EXPECT_EQ(piece.pixel(19, 19), qRgb(90, 80, 70));
+}
+
+TEST(Resampled, WritesNothingBesideThePiece) {
+  QImage larger = filled({30, 20}, qRgb(1, 2, 3));
+  Resampler().draw(filled({10, 10}, qRgb(200, 200, 200)), {1.0, 1.0}, {0, 0}, {5, 4}, larger);
+  EXPECT_EQ(larger.pixel(4, 3), qRgb(200, 200, 200));
+  EXPECT_EQ(larger.pixel(5, 3), qRgb(1, 2, 3));
+  EXPECT_EQ(larger.pixel(4, 4), qRgb(1, 2, 3));
 }
 
 TEST(Resampled, AnEdgeGrowsSmoothly) {

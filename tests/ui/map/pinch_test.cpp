@@ -13,7 +13,7 @@ struct PinchedPicker : ShownPicker {
     const QPointF at(200.0, 200.0);
     QNativeGestureEvent gesture(type, QPointingDevice::primaryPointingDevice(), 2, at, at,
                                 QPointF(area->mapToGlobal(at.toPoint())), increment, QPointF());
-    return QCoreApplication::sendEvent(area, &gesture);
+    return QCoreApplication::sendEvent(area, &gesture) && gesture.isAccepted();
   }
   [[nodiscard]] double shownZoom() const { return view->mapLayout().displaySize.width() / 800.0; }
 };

@@ -3,6 +3,7 @@
 #include <limits>
 #include <rapidcheck/gtest.h>
 
+#include "tests/ui/map/map_places.h"
 #include "ui/map_projection.h"
 
 namespace veyruna::ui {
@@ -69,17 +70,19 @@ TEST(MapProjection, PlacesOutsideHaveNoPixel) {
   EXPECT_FALSE(pixelOf({northernmost + 0.001, 0.0}));
   EXPECT_FALSE(pixelOf({0.5, easternmost + 0.001}));
   EXPECT_FALSE(pixelOf({0.5, -easternmost - 0.001}));
+  // 45° west on the equator lies 582 pixels beyond the picture's western edge.
+  EXPECT_FALSE(pixelOf({0.0, -easternmost}));
+  EXPECT_TRUE(pixelOf({0.0, easternmost}));
 }
 
 RC_GTEST_PROP(MapProjection, ThereAndBackIsTheSamePlace, ()) {
-  const double latitude = *rc::gen::inRange(1, 60'000) / 1000.0 * degree;
-  const double longitude = *rc::gen::inRange(-44'999, 45'000) / 1000.0 * degree;
-  const auto pixel = pixelOf({latitude, longitude});
+  const MapPlace shown = tests::someShownPlace();
+  const auto pixel = pixelOf(shown);
   RC_ASSERT(pixel);
   const auto place = placeAtPixel(*pixel);
   RC_ASSERT(place);
-  RC_ASSERT(std::abs(place->latitude - latitude) < 1e-12);
-  RC_ASSERT(std::abs(place->longitude - longitude) < 1e-12);
+  RC_ASSERT(std::abs(place->latitude - shown.latitude) < 1e-12);
+  RC_ASSERT(std::abs(place->longitude - shown.longitude) < 1e-12);
 }
 
 }  // namespace
