@@ -124,8 +124,11 @@ void MapArea::takePicture(const std::shared_ptr<const MapPicture>& picture) {
 void MapArea::repaintTile(QRect area) {
   const double pixels = devicePixelRatioF();
   const QRectF points(QPointF(area.topLeft()) / pixels, QSizeF(area.size()) / pixels);
-  // The picture lies on whole device pixels, up to one beside its layout.
-  update(points.translated(shown_.origin).toAlignedRect().adjusted(-1, -1, 1, 1));
+  const QRectF inSight = points.translated(shown_.origin) & QRectF(rect());
+  if (!inSight.isEmpty()) {
+    // The picture lies on whole device pixels, up to one beside its layout.
+    update(inSight.toAlignedRect().adjusted(-1, -1, 1, 1));
+  }
 }
 
 void MapArea::paintEvent(QPaintEvent* event) {

@@ -10,7 +10,7 @@ namespace {
 
 constexpr double dotRadius = 3.0;   ///< points
 constexpr double ringRadius = 8.0;  ///< points
-constexpr double reach = 8.0;       ///< points from a mark at which its name shows
+constexpr double nameReach = 8.0;   ///< points from a mark at which its name shows
 constexpr QRgb ink = 0xff8b1a1a;    // a red that is seen on sea, land and parchment
 constexpr QRgb outline = 0xfffff8e8;
 
@@ -48,6 +48,12 @@ QImage drawnRing(double pixelsPerPoint) {
   return stamp;
 }
 
+/// False also where a coordinate is no number, as in a map enlarged beyond all bounds.
+bool isInside(QPointF point, const QRectF& rect) {
+  return point.x() >= rect.left() && point.x() <= rect.right() && point.y() >= rect.top() &&
+         point.y() <= rect.bottom();
+}
+
 /// The stamp's corner where its middle pixel is the one the centre lies in.
 QPoint cornerFor(const QImage& stamp, QPointF centre) {
   return QPoint(static_cast<int>(std::floor(centre.x())),
@@ -73,15 +79,15 @@ std::vector<MapMark> marksOf(const model::AstronomyModel& model) {
 void MarkStamps::draw(QPainter& painter, const std::vector<MapMark>& marks, const Layout& layout,
                       const QTransform& toDevice, const QRect& view) {
   prepare(toDevice.m11());
-  const QRectF near =
-      view.marginsAdded({ring_.width(), ring_.width(), ring_.width(), ring_.width()});
+  const int reach = ring_.width();
+  const QRectF near = view.adjusted(-reach, -reach, reach, reach);
   for (const MapMark& mark : marks) {
     const std::optional<QPointF> point = pointOf(mark.place, layout);
     if (!point) {
       continue;
     }
     const QPointF centre = toDevice.map(*point);
-    if (near.contains(centre)) {
+    if (isInside(centre, near)) {
       painter.drawImage(cornerFor(dot_, centre), dot_);
       if (mark.isSelected) {
         painter.drawImage(cornerFor(ring_, centre), ring_);
@@ -100,7 +106,7 @@ void MarkStamps::prepare(double pixelsPerPoint) {
 
 NameOnMap nameAt(QPointF point, const std::vector<MapMark>& marks, const Layout& layout) {
   NameOnMap nearest;
-  double least = reach;
+  double least = nameReach;
   for (const MapMark& mark : marks) {
     const std::optional<QPointF> centre = pointOf(mark.place, layout);
     if (!centre || mark.name.isEmpty()) {

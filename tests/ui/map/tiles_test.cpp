@@ -125,6 +125,17 @@ TEST_F(DrawnPicker, BesideThePictureIsGround) {
   EXPECT_EQ(at(400, 631), at(400, 5));
 }
 
+TEST(MapMemory, ThePictureAndItsTilesTakeLessThan120Megabytes) {
+  const ui::MapPicture picture(QImage(4316, 3266, QImage::Format_RGB32));
+  qsizetype bytes = ui::MapTiles::budgetBytes;
+  int level = 0;
+  do {
+    bytes += picture.level(level).sizeInBytes();
+  } while (picture.level(level++).height() > 32);
+  constexpr qsizetype workingMemory = 520 * 512 * 16;  // a worker's rows at two pixels to one
+  EXPECT_LT(bytes + workingMemory, 120'000'000);
+}
+
 TEST_F(DrawnPicker, WithoutAPictureAClickStillPicks) {
   ui::MapLocationPickerView bare(
       model, [] { return QImage(); }, immediateExecutor());
