@@ -28,9 +28,10 @@ QImage halved(const QImage& image) {
     const QRgb* const upper = rowOf(image, 2 * y);
     const QRgb* const lower = rowOf(image, std::min(2 * y + 1, image.height() - 1));
     auto* const row = reinterpret_cast<QRgb*>(half.scanLine(y));
-    for (int x = 0; x < half.width(); ++x) {
-      const int right = std::min(2 * x + 1, image.width() - 1);
-      row[x] = meanOf(upper[2 * x], upper[right], lower[2 * x], lower[right]);
+    for (qsizetype x = 0; x < half.width(); ++x) {
+      const qsizetype left = 2 * x;
+      const qsizetype right = std::min(left + 1, qsizetype{image.width()} - 1);
+      row[x] = meanOf(upper[left], upper[right], lower[left], lower[right]);
     }
   }
   return half;

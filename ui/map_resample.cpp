@@ -42,6 +42,7 @@ Taps tapsOf(int shown, double scale, int length) {
     weights.push_back(kernel((pixel - centre) / widening));
   }
   const double sum = std::accumulate(weights.begin(), weights.end(), 0.0);
+  taps.weights.reserve(weights.size());
   for (const double weight : weights) {
     taps.weights.push_back(static_cast<float>(weight / sum));
   }
@@ -50,6 +51,7 @@ Taps tapsOf(int shown, double scale, int length) {
 
 std::vector<Taps> allTaps(int first, int count, double scale, int length) {
   std::vector<Taps> all;
+  all.reserve(static_cast<std::size_t>(count));
   for (int i = 0; i < count; ++i) {
     all.push_back(tapsOf(first + i, scale, length));
   }

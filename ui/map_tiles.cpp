@@ -1,12 +1,11 @@
 #include "ui/map_tiles.h"
 
 #include <QCoreApplication>
-#include <QMutex>
 #include <QPainter>
 #include <QThread>
 #include <algorithm>
 #include <deque>
-#include <iterator>
+#include <mutex>
 #include <utility>
 
 #include "ui/map_resample.h"
@@ -41,7 +40,7 @@ QSizeF scaleOf(const QSize& picture, QSizeF shown) {
 /// gone out of sight is never begun. Tiles no longer wanted are drawn over, so that the memory for
 /// all of them is taken once.
 struct MapTiles::Order {
-  QMutex mutex;
+  std::mutex mutex;
   std::deque<Key> waiting;
   std::vector<Key> begun;  ///< and not yet delivered
   std::vector<QImage> spare;
@@ -52,7 +51,7 @@ MapTiles::MapTiles(model::Executor executor, QObject* parent)
     : QObject(parent), executor_(std::move(executor)), order_(std::make_shared<Order>()) {}
 
 MapTiles::~MapTiles() {
-  const QMutexLocker locked(&order_->mutex);
+  const std::scoped_lock locked(order_->mutex);
   order_->waiting.clear();
 }
 
@@ -79,8 +78,8 @@ std::vector<MapTiles::Key> MapTiles::keysAround(const QRect& image, const QRect&
       keys.push_back({image.width(), image.height(), column, row});
     }
   }
-  std::ranges::stable_partition(
-      keys, [&seen](const Key& key) { return seen.contains(key.column, key.row); });
+  std::stable_partition(keys.begin(), keys.end(),
+                        [&seen](const Key& key) { return seen.contains(key.column, key.row); });
   keys.resize(std::min(keys.size(), mostTiles));
   return keys;
 }
@@ -138,8 +137,8 @@ void MapTiles::want(std::vector<Key> keys) {
 
   int newWorkers = 0;
   {
-    const QMutexLocker locked(&order_->mutex);
-    std::ranges::move(spare, std::back_inserter(order_->spare));
+    const std::scoped_lock locked(order_->mutex);
+    order_->spare.insert(order_->spare.end(), spare.begin(), spare.end());
     order_->waiting.clear();
     for (const Key& key : wanted_) {
       if (!tiles_.contains(key) && std::ranges::find(order_->begun, key) == order_->begun.end()) {
@@ -163,7 +162,7 @@ void MapTiles::work(Order& order, const MapPicture& picture, const QPointer<MapT
     Key key;
     QImage tile;
     {
-      const QMutexLocker locked(&order.mutex);
+      const std::scoped_lock locked(order.mutex);
       if (order.waiting.empty()) {
         --order.workers;
         return;
@@ -197,7 +196,7 @@ void MapTiles::work(Order& order, const MapPicture& picture, const QPointer<MapT
 void MapTiles::take(const Key& key, const QImage& tile) {
   const bool isWanted = std::ranges::find(wanted_, key) != wanted_.end();
   {
-    const QMutexLocker locked(&order_->mutex);
+    const std::scoped_lock locked(order_->mutex);
     std::erase(order_->begun, key);
     if (!isWanted) {
       order_->spare.push_back(tile);

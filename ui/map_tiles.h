@@ -5,9 +5,9 @@
 #include <QPointer>
 #include <QRect>
 #include <QSize>
-#include <compare>
 #include <map>
 #include <memory>
+#include <tuple>
 #include <vector>
 
 #include "model/executor.h"
@@ -57,7 +57,11 @@ class MapTiles final : public QObject {
     int column = 0;
     int row = 0;
 
-    friend auto operator<=>(const Key&, const Key&) = default;
+    friend bool operator==(const Key&, const Key&) = default;
+    friend bool operator<(const Key& a, const Key& b) {
+      return std::tie(a.imageWidth, a.imageHeight, a.column, a.row) <
+             std::tie(b.imageWidth, b.imageHeight, b.column, b.row);
+    }
   };
   struct Order;
 
