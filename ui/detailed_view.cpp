@@ -6,6 +6,7 @@
 #include <QVBoxLayout>
 
 #include "ui/coordinate_text.h"
+#include "ui/map_location_picker_view.h"
 #include "ui/named.h"
 #include "ui/planets_view.h"
 #include "ui/svg_view.h"
@@ -71,10 +72,9 @@ void DetailedView::addTabs() {
   connect(&model_, &AstronomyModel::nextFullMoonLabelChanged, this, showMoons);
   connect(&model_, &AstronomyModel::nextNewMoonLabelChanged, this, showMoons);
 
-  auto* const map = new QLabel(tr("The map of the world will be here."));
-  map->setObjectName(QStringLiteral("mapPlaceholder"));
-  map->setAlignment(Qt::AlignCenter);
-  map->setEnabled(false);
+  auto* const map =
+      named(new MapLocationPickerView(model_, pictureFile(QStringLiteral(":/tamsorel.jpg"))),
+            "locationTab", tr("Map"));
   for (QWidget* const tab : {static_cast<QWidget*>(starMap_), static_cast<QWidget*>(horoscope_),
                              static_cast<QWidget*>(planets_), static_cast<QWidget*>(sunMoon_),
                              static_cast<QWidget*>(positions_), static_cast<QWidget*>(map)}) {

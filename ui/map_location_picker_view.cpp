@@ -10,7 +10,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "ui/magnifier_icon.h"
+#include "ui/icons.h"
 #include "ui/map_area.h"
 #include "ui/map_marks.h"
 #include "ui/map_pick.h"
@@ -28,9 +28,9 @@ constexpr ZoomRange zoomRange{MapLocationPickerView::minZoom, MapLocationPickerV
 constexpr int spacing = 12;       ///< points
 constexpr int readoutWidth = 56;  ///< points
 
-QToolButton* zoomButton(Magnifier sign, const QString& help) {
+QToolButton* zoomButton(const QIcon& picture, const QString& help) {
   auto* const button = new QToolButton;
-  button->setIcon(magnifierIcon(sign));
+  button->setIcon(picture);
   button->setToolTip(help);
   button->setFocusPolicy(Qt::StrongFocus);
   return button;
@@ -64,15 +64,15 @@ MapLocationPickerView::MapLocationPickerView(AstronomyModel& model, PictureSourc
 MapLocationPickerView::~MapLocationPickerView() = default;
 
 QHBoxLayout* MapLocationPickerView::makeControls() {
-  auto* const zoomOut =
-      named(zoomButton(Magnifier::minus, tr("Zoom out (⌘−)")), "zoomOutButton", tr("Zoom out"));
-  auto* const zoomIn =
-      named(zoomButton(Magnifier::plus, tr("Zoom in (⌘+)")), "zoomInButton", tr("Zoom in"));
+  auto* const zoomOut = named(zoomButton(icon("zoom-out", "zoom_out"), tr("Zoom out (⌘−)")),
+                              "zoomOutButton", tr("Zoom out"));
+  auto* const zoomIn = named(zoomButton(icon("zoom-in", "zoom_in"), tr("Zoom in (⌘+)")),
+                             "zoomInButton", tr("Zoom in"));
   zoomReadout_ = named(new QLabel, "zoomReadout", tr("Zoom"));
   zoomReadout_->setFixedWidth(readoutWidth);
   zoomReadout_->setAlignment(Qt::AlignCenter);
-  auto* const resetButton =
-      named(new QPushButton(tr("Reset")), "resetButton", tr("Show the whole map"));
+  auto* const resetButton = named(new QPushButton(icon("zoom-original", "reset"), tr("Reset")),
+                                  "resetButton", tr("Show the whole map"));
   auto* const hint = named(new QLabel(tr("Click to pick · ⌥-scroll to zoom · drag to pan")),
                            "mapHint", tr("How to use the map"));
   hint->setToolTip(tr("⌥ is the Alt key, ⌘ is the Ctrl key."));

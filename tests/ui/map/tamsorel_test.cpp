@@ -21,20 +21,46 @@ const QImage& tamsorel() {
   return map;
 }
 
-/// The pixel that holds a point of the picture: pixel (0, 0) reaches from 0 to 1.
-QPoint holding(QPointF point) {
-  return {static_cast<int>(std::floor(point.x())), static_cast<int>(std::floor(point.y()))};
+constexpr double mostError = 0.75;  ///< pixels
+
+/// How strongly a pixel belongs to what is measured; 0 where it does not.
+using Weight = double (*)(QRgb);
+
+/// The red disc of a place.
+double ofPlace(QRgb pixel) {
+  return std::max(0.0, qRed(pixel) - (qGreen(pixel) + qBlue(pixel)) / 2.0 - 50.0);
 }
 
-// TO BE FILLED IN with the draughtsman's colours: whether the mark of a place is centred on a
-// pixel.
-bool isMarkOfPlace(const QImage& map, QPoint pixel) {
-  return qGray(map.pixel(pixel)) < 96;
+/// The dark dot of a crossing on its light disc.
+double ofCrossing(QRgb pixel) {
+  return std::max(0.0, 150.0 - qGray(pixel));
 }
 
-// TO BE FILLED IN likewise: whether a line of the graticule crosses another there.
-bool isCrossing(const QImage& map, QPoint pixel) {
-  return qGray(map.pixel(pixel)) < qGray(map.pixel(pixel + QPoint(12, 12)));
+/// How far the middle of what has weight within `radius` pixels of a point lies from that point;
+/// beyond any picture where nothing has. Pixel (0, 0) reaches from 0 to 1.
+double offset(QPointF expected, double radius, Weight weightOf) {
+  const QImage& map = tamsorel();
+  double weights = 0.0;
+  QPointF sum;
+  for (int y = 0; y < map.height(); ++y) {
+    if (std::abs(y + 0.5 - expected.y()) > radius) {
+      continue;
+    }
+    for (int x = 0; x < map.width(); ++x) {
+      const QPointF centre(x + 0.5, y + 0.5);
+      const QPointF from = centre - expected;
+      if (std::hypot(from.x(), from.y()) <= radius) {
+        const double weight = weightOf(map.pixel(x, y));
+        weights += weight;
+        sum += centre * weight;
+      }
+    }
+  }
+  if (weights < 500.0) {
+    return 1e9;
+  }
+  const QPointF off = sum / weights - expected;
+  return std::hypot(off.x(), off.y());
 }
 
 TEST(Tamsorel, HasTheSizeOfItsProjection) {
@@ -75,13 +101,15 @@ TEST(Tamsorel, MarksTheThirteenPlacesWhereTheyAre) {
     ASSERT_TRUE(back) << qPrintable(city.name);
     EXPECT_NEAR(back->latitude, city.latitude, 1e-12) << qPrintable(city.name);
     EXPECT_NEAR(back->longitude, city.longitude, 1e-12) << qPrintable(city.name);
-    EXPECT_TRUE(isMarkOfPlace(tamsorel(), holding(*pixel))) << qPrintable(city.name);
+    EXPECT_LT(offset(*pixel, 12.0, &ofPlace), mostError) << qPrintable(city.name);
+    EXPECT_GT(offset(*pixel + QPointF(4.0, 0.0), 12.0, &ofPlace), mostError);  // it can tell
   }
 }
 
 TEST(Tamsorel, TheGraticuleCrossesEveryFiveDegrees) {
   ASSERT_FALSE(tamsorel().isNull()) << VEYRUNA_MAP;
   int crossings = 0;
+  int dots = 0;
   for (int latitude = 0; latitude <= 60; latitude += 5) {
     for (int longitude = -45; longitude <= 45; longitude += 5) {
       // Worked out here: 52.15 pixels to a degree of latitude, 470/9 to one of longitude.
@@ -102,10 +130,14 @@ TEST(Tamsorel, TheGraticuleCrossesEveryFiveDegrees) {
       ASSERT_TRUE(pixel) << latitude << ' ' << longitude;
       EXPECT_NEAR(pixel->x(), expected.x(), 1e-9);
       EXPECT_NEAR(pixel->y(), expected.y(), 1e-9);
-      EXPECT_TRUE(isCrossing(tamsorel(), holding(expected))) << latitude << ' ' << longitude;
+      if (expected.x() > 8.0) {  // its dot would lie across the edge of the sheet
+        ++dots;
+        EXPECT_LT(offset(expected, 6.5, &ofCrossing), mostError) << latitude << ' ' << longitude;
+      }
     }
   }
   EXPECT_EQ(crossings, 228);
+  EXPECT_EQ(dots, 227);
 }
 
 }  // namespace
