@@ -5,8 +5,8 @@
 #include <gtest/gtest.h>
 
 #include "export/report_html.h"
-#include "tests/export/observed.h"
 #include "tests/model/disk.h"
+#include "tests/model/observed.h"
 
 namespace veyruna {
 namespace {

@@ -12,8 +12,8 @@
 #include "export/document_exporter.h"
 #include "export/pdf_exporter.h"
 #include "export/report_html.h"
-#include "tests/export/observed.h"
 #include "tests/export/pdf_reader.h"
+#include "tests/model/observed.h"
 
 namespace veyruna {
 namespace {

@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include "tests/export/observed.h"
+#include "tests/model/observed.h"
 
 namespace veyruna {
 namespace {

@@ -4,8 +4,8 @@
 
 #include "export/export_content.h"
 #include "export/report_html.h"
-#include "tests/export/observed.h"
 #include "tests/export/pdf_reader.h"
+#include "tests/model/observed.h"
 
 namespace veyruna {
 namespace {

@@ -5,8 +5,8 @@
 
 #include "export/file_names.h"
 #include "export/whole_file.h"
-#include "tests/export/observed.h"
 #include "tests/model/disk.h"
+#include "tests/model/observed.h"
 
 namespace veyruna {
 namespace {

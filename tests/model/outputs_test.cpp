@@ -4,7 +4,7 @@
 #include "charts/horoscope.h"
 #include "charts/star_map.h"
 #include "reports/positions.h"
-#include "tests/model/fakes.h"
+#include "tests/model/observed.h"
 #include "tests/support/reference_case.h"
 
 namespace veyruna {
@@ -14,35 +14,16 @@ using model::AstronomyModel;
 using model::BodyColor;
 using tests::FakeModel;
 
-/// A model whose one saved place is that of a reference.
 class Outputs : public testing::TestWithParam<tests::ReferenceCase> {
  protected:
-  Outputs() {
-    AstronomyModel& model = world.model;
-    model.setYear(at.year);
-    model.setMonthIndex(at.monthIndex);
-    model.setDayIndex(at.dayIndex);
-    model.setHour(at.hour);
-    model.setUseLocalTime(at.useLocalTime);
-    // The degrees of the references have three decimals at most.
-    const auto degrees = [](double radians) {
-      return std::round(std::abs(radians) * 180000.0 / 3.141592653589793) / 1000.0;
-    };
-    model.setManualLatDeg(degrees(at.latitude));
-    model.setLatNorth(at.latitude > 0.0);
-    model.setManualLongDeg(degrees(at.longitude));
-    model.setLongWest(at.longitude < 0.0);
-  }
-
   const tests::ReferenceCase& at = GetParam();
-  FakeModel world;
+  tests::ObservedModel world{at};
 };
 
 TEST_P(Outputs, AreThoseOfTheReferences) {
   const AstronomyModel& model = world.model;
   ASSERT_EQ(model.effectiveLatitude(), at.latitude);
   ASSERT_EQ(model.effectiveLongitude(), at.longitude);
-  world.calculate();
   EXPECT_EQ(model.basicTableHourly().toStdString(), at.expected("hourly.txt"));
   EXPECT_EQ(model.basicTableMonthly().toStdString(), at.expected("monthly.txt"));
   EXPECT_EQ(model.conjunctionDaily().toStdString(), at.expected("daily.txt"));

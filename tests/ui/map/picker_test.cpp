@@ -140,7 +140,9 @@ TEST_F(ShownPicker, TheReadoutStandsTenPointsFromTheCorner) {
   const auto* const readout = view->findChild<QLabel*>(QStringLiteral("mapReadout"));
   EXPECT_EQ(readout->pos(), QPoint(10, 10));
   EXPECT_EQ(readout->contentsMargins(), QMargins(10, 6, 10, 6));
-  EXPECT_TRUE(QFontInfo(readout->font()).fixedPitch());
+  const QFontMetricsF metrics(readout->font());
+  EXPECT_EQ(metrics.horizontalAdvance(QStringLiteral("1111")),
+            metrics.horizontalAdvance(QStringLiteral("MMMM")));
 }
 
 TEST_F(ShownPicker, TheReadoutIsNotInThePointersWay) {
