@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPushButton>
+#include <QShortcut>
 #include <QVBoxLayout>
 #include <QWindow>
 
@@ -42,6 +43,9 @@ QLabel* centred(const QString& text) {
 }  // namespace
 
 AboutView::AboutView(QWidget* parent) : QWidget(parent, Qt::Dialog) {
+  for (const QKeySequence::StandardKey key : {QKeySequence::Cancel, QKeySequence::Close}) {
+    connect(new QShortcut(key, this), &QShortcut::activated, this, &QWidget::close);
+  }
   setObjectName(QStringLiteral("about"));
   setWindowTitle(tr("About Veyruna Astro"));
   setFixedWidth(contentWidth);

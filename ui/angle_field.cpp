@@ -2,6 +2,7 @@
 
 #include <QFocusEvent>
 #include <QLocale>
+#include <QToolTip>
 #include <QValidator>
 
 namespace veyruna::ui {
@@ -16,11 +17,13 @@ class DegreesValidator final : public QValidator {
   DegreesValidator(double most, QObject* parent) : QValidator(parent), most_(most) {}
 
   State validate(QString& text, int& /*position*/) const override {
+    // Either decimal sign is meant as one, whatever the locale's is.
+    const QString point = locale().decimalPoint();
+    text.replace(QLatin1Char('.'), point).replace(QLatin1Char(','), point);
     const QString trimmed = text.trimmed();
     if (trimmed.isEmpty()) {
       return Intermediate;
     }
-    const QString point = locale().decimalPoint();
     const qsizetype at = trimmed.indexOf(point);
     if (at >= 0 && trimmed.size() - at - point.size() > mostDecimals) {
       return Invalid;
@@ -49,6 +52,11 @@ AngleField::AngleField(double most, QWidget* parent) : QLineEdit(parent), most_(
   validator->setLocale(plain);
   setValidator(validator);
   connect(this, &QLineEdit::editingFinished, this, &AngleField::commit);
+  setToolTip(
+      tr("Degrees from 0 to %1, with up to three decimals; the letters beside it say which way.")
+          .arg(most));
+  connect(this, &QLineEdit::inputRejected, this,
+          [this] { QToolTip::showText(mapToGlobal(QPoint(0, height())), toolTip(), this); });
 }
 
 void AngleField::show(double degrees) {

@@ -53,7 +53,6 @@ CalculateArea::CalculateArea(AstronomyModel& model, QWidget* parent)
   besideTheWord->addWidget(progress_);
   error_ = named(small(new WarningLabel), "errorMessage", tr("Error"));
   difference_ = named(small(new QLabel), "difference", tr("State of what is shown"));
-  difference_->setEnabled(false);  // drawn in the palette's secondary colour
   difference_->setAlignment(Qt::AlignTop);
   difference_->setText(QStringLiteral("\n"));  // room for two lines, at all times
   difference_->setMinimumHeight(difference_->sizeHint().height());

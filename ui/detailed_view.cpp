@@ -24,7 +24,10 @@ QString placeText(const AstronomyModel& model, double latitude, double longitude
   for (const model::CityPreset& city : model.cities()) {
     if (city.id != model::manualCityID() && city.latitude == latitude &&
         city.longitude == longitude) {
-      name = city.name + QStringLiteral("   ");
+      constexpr qsizetype longest = 40;  // characters; a longer name is cut
+      name =
+          (city.name.size() > longest ? city.name.left(longest) + QStringLiteral("…") : city.name) +
+          QStringLiteral("   ");
     }
   }
   return name + coordinateText(latitude, longitude);
@@ -44,6 +47,8 @@ DetailedView::DetailedView(AstronomyModel& model, const PageEngine& engine, QWid
       positions_(new TablesView({tr("Daily"), tr("Yearly"), tr("No conjunction data")})) {
   caption_->setAlignment(Qt::AlignCenter);
   caption_->setWordWrap(true);
+  caption_->setTextFormat(Qt::PlainText);
+  caption_->setMinimumWidth(1);  // no name makes the window wider
   caption_->setTextInteractionFlags(Qt::TextSelectableByMouse);
   auto* const column = new QVBoxLayout(this);
   column->addWidget(caption_);

@@ -13,7 +13,7 @@ ExportCommands::ExportCommands(model::AstronomyModel& model, const PageEngine& e
     : QObject(&window),
       exporter_(model, engine.renderPdf),
       state_(state),
-      notice_(&notice),
+      notice_(notice),
       window_(window) {}
 
 void ExportCommands::exportNative(exports::OutputTab tab) {
@@ -34,23 +34,27 @@ void ExportCommands::ask(const Content& content, const QString& typeName, const 
   askWhereToSave(window_,
                  {content.message, state_.exportFolder(), content.proposedName, typeName, suffix},
                  [this, content](const QString& path) {
-                   state_.setExportFolder(QFileInfo(path).absolutePath());
-                   notice_->showSaving(path);
+                   notice_.showSaving(path);
                    exporter_.save(content, path, reportTo(path));
                  });
 }
 
 exports::Saved ExportCommands::reportTo(const QString& path) {
-  return [notice = notice_, path](const std::optional<QString>& error) {
-    if (notice == nullptr) {
-      return;
-    }
-    if (error) {
-      notice->showFailure(path, *error);
-    } else {
-      notice->showSaved(path);
+  return [window = QPointer<ExportCommands>(this), path](const std::optional<QString>& error) {
+    if (window) {
+      window->report(path, error);
     }
   };
+}
+
+void ExportCommands::report(const QString& path, const std::optional<QString>& error) {
+  if (error) {
+    notice_.showFailure(path, *error);
+  } else {
+    // Only a folder that could be written to is offered again.
+    state_.setExportFolder(QFileInfo(path).absolutePath());
+    notice_.showSaved(path);
+  }
 }
 
 }  // namespace veyruna::ui

@@ -32,10 +32,11 @@ class ExportCommands final : public QObject {
   template <class Content>
   void ask(const Content& content, const QString& typeName, const QString& suffix);
   [[nodiscard]] exports::Saved reportTo(const QString& path);
+  void report(const QString& path, const std::optional<QString>& error);
 
   exports::DocumentExporter exporter_;
   WindowState& state_;
-  QPointer<ExportNotice> notice_;
+  ExportNotice& notice_;
   QWidget& window_;
 };
 

@@ -11,6 +11,7 @@
 
 #include "ui/icons.h"
 #include "ui/named.h"
+#include "ui/shades.h"
 
 namespace veyruna::ui {
 
@@ -62,13 +63,20 @@ void ExportNotice::showSaved(const QString& path) {
 
 void ExportNotice::showFailure(const QString& path, const QString& reason) {
   openFolder_->hide();
-  say(tr("%1 was not saved: %2").arg(QFileInfo(path).fileName(), reason));
+  // The reason first: what does not fit is cut at the end.
+  say(tr("Not saved: %1 (%2)").arg(reason, QFileInfo(path).fileName()));
+  QPalette colors = palette();
+  colors.setColor(QPalette::WindowText, warningColor(colors));
+  line_->setPalette(colors);
   timeout_.start();
 }
 
 void ExportNotice::say(const QString& line) {
+  line_->setPalette({});
   line_->setText(line);
-  line_->setToolTip(line);
+  // Not as markup, whatever the file is called.
+  line_->setToolTip(line.isEmpty() ? QString()
+                                   : QStringLiteral("<p>%1</p>").arg(line.toHtmlEscaped()));
   if (!line.isEmpty()) {
     QAccessibleEvent news(line_, QAccessible::Alert);
     QAccessible::updateAccessibility(&news);

@@ -4,6 +4,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QStackedLayout>
 #include <QVBoxLayout>
 
 #include "ui/angle_field.h"
@@ -27,15 +28,21 @@ LocationSection::LocationSection(model::AstronomyModel& model, QWidget* parent)
   auto* const label = new QLabel(tr("&Location"));
   picker_ = named(new StillComboBox, "locationPicker", tr("Location"));
   picker_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+  // As wide as the sidebar, not as the longest name.
+  picker_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+  picker_->setMinimumContentsLength(10);
   label->setBuddy(picker_);
   auto* const row = new QHBoxLayout;
   row->addWidget(label);
   row->addWidget(picker_, 1);
   column->addLayout(row);
+  // One takes the other's room, so that nothing below moves.
   savedPlace_ = makeSavedPlace();
   manualFields_ = makeManualFields();
-  column->addWidget(savedPlace_);
-  column->addWidget(manualFields_);
+  place_ = new QStackedLayout;
+  place_->addWidget(savedPlace_);
+  place_->addWidget(manualFields_);
+  column->addLayout(place_);
   column->addWidget(makeButtons());
 
   connect(picker_, &QComboBox::activated, this,
@@ -60,10 +67,13 @@ QWidget* LocationSection::makeSavedPlace() {
       named(new QPushButton(QIcon::fromTheme(QStringLiteral("edit-delete")), tr("&Delete")),
             "deleteButton", tr("Delete this location"));
   connect(remove, &QPushButton::clicked, this, &LocationSection::deleteRequested);
-  auto* const row = new QHBoxLayout(place);
-  row->setContentsMargins({});
+  auto* const column = new QVBoxLayout(place);
+  auto* const row = new QHBoxLayout;
+  column->setContentsMargins({});
   row->addWidget(coordinates_, 1);
   row->addWidget(remove);
+  column->addLayout(row);
+  column->addStretch();
   return place;
 }
 
@@ -147,8 +157,7 @@ void LocationSection::showCities() {
 void LocationSection::showPlace() {
   picker_->setCurrentIndex(picker_->findData(model_.selectedCityID()));
   const bool isManual = model_.selectedCityID() == model::manualCityID();
-  manualFields_->setVisible(isManual);
-  savedPlace_->setVisible(!isManual);
+  place_->setCurrentWidget(isManual ? manualFields_ : savedPlace_);
   if (!isManual) {
     coordinates_->setText(coordinateText(model_.effectiveLatitude(), model_.effectiveLongitude()));
   }

@@ -8,6 +8,7 @@ class QAbstractButton;
 class QComboBox;
 class QLabel;
 class QPushButton;
+class QStackedLayout;
 class QWidget;
 
 namespace veyruna::ui {
@@ -43,6 +44,7 @@ class LocationSection final : public QGroupBox {
 
   model::AstronomyModel& model_;
   QComboBox* picker_ = nullptr;
+  QStackedLayout* place_ = nullptr;
   QWidget* savedPlace_ = nullptr;
   QLabel* coordinates_ = nullptr;
   QWidget* manualFields_ = nullptr;

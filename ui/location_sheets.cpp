@@ -39,6 +39,21 @@ QHBoxLayout* sheetButtons(QPushButton* cancel, QPushButton* act) {
   return row;
 }
 
+/// The text with places where a very long word may be broken, so that no sheet outgrows the screen.
+QString breakable(QString text) {
+  constexpr qsizetype longestWord = 30;  // characters
+  constexpr QChar zeroWidthSpace(0x200b);
+  qsizetype since = 0;
+  for (qsizetype at = 0; at < text.size(); ++at) {
+    since = text[at].isSpace() ? 0 : since + 1;
+    if (since > longestWord && !text[at].isLowSurrogate()) {
+      text.insert(at, zeroWidthSpace);
+      since = 0;
+    }
+  }
+  return text;
+}
+
 bool isReturn(const QKeyEvent& event) {
   return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
 }
@@ -75,7 +90,7 @@ SaveLocationSheet::SaveLocationSheet(model::AstronomyModel& model, QWidget* pare
 void SaveLocationSheet::save() {
   const auto outcome = model_.addCity(name_->text());
   if (const auto* const refusal = std::get_if<model::LocationError>(&outcome)) {
-    error_->setText(refusal->description());
+    error_->setText(breakable(refusal->description()));
     error_->show();
     name_->setFocus();
     return;
@@ -95,9 +110,9 @@ DeleteLocationSheet::DeleteLocationSheet(model::AstronomyModel& model, QWidget* 
     }
   }
   QVBoxLayout* const column = sheetLayout(this);
-  auto* const prompt =
-      named(new QLabel(tr("Delete location ") + QLatin1Char('"') + name + QStringLiteral("\"?")),
-            "deletePrompt", tr("Question"));
+  auto* const prompt = named(new QLabel(breakable(tr("Delete location ") + QLatin1Char('"') + name +
+                                                  QStringLiteral("\"?"))),
+                             "deletePrompt", tr("Question"));
   prompt->setTextFormat(Qt::PlainText);
   prompt->setWordWrap(true);
   auto* const cancel = named(new QPushButton(tr("&Cancel")), "cancelButton", tr("Cancel"));

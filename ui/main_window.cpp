@@ -63,11 +63,13 @@ MainWindow::MainWindow(model::AstronomyModel& model, const PageEngine& engine, W
 }
 
 void MainWindow::keepOnScreen() {
-  const QRect room = screen()->availableGeometry();
-  const QPoint last = room.bottomRight() - QPoint(width(), height());
+  constexpr int titleBar = 40;  // room for what the window manager puts around
+  const QRect room = screen()->availableGeometry().adjusted(0, titleBar, 0, 0);
   if (!isMaximized() && !isFullScreen() && !room.contains(geometry())) {
+    resize(size().boundedTo(room.size()));
+    const QPoint last = room.bottomRight() - QPoint(width(), height());
     move(std::clamp(x(), room.left(), std::max(room.left(), last.x())),
-         std::clamp(y(), room.top(), std::max(room.top(), last.y())));
+         std::clamp(y(), room.top() - titleBar, std::max(room.top(), last.y()) - titleBar));
   }
 }
 

@@ -48,7 +48,10 @@ QIcon markOf(BodyColor color) {
   painter.setPen(QPen(QColor(0x80, 0x80, 0x80), 2.0));
   painter.setBrush(shadeOf(color));
   painter.drawEllipse(QRectF(5.0, 5.0, size - 10.0, size - 10.0));
-  return mark;
+  // The same where its row is selected, not tinted by the style.
+  QIcon icon(mark);
+  icon.addPixmap(mark, QIcon::Selected);
+  return icon;
 }
 
 QStringList columnsOf(const BodyPosition& body) {

@@ -45,6 +45,9 @@ TimeSection::TimeSection(model::AstronomyModel& model, QWidget* parent)
                    tr("A quarter of an hour earlier"));
   later_ = named(makeStepButton(Qt::UpArrow, quarterHour), "laterButton",
                  tr("A quarter of an hour later"));
+  for (QWidget* const button : {earlier_, later_}) {
+    button->setToolTip(button->accessibleName());
+  }
   auto* const stepRow = new QHBoxLayout;
   stepRow->addWidget(new QLabel(tr("Step (15 min)")), 1);
   stepRow->addWidget(earlier_);

@@ -123,6 +123,20 @@ TEST_F(Application, AWindowNeverOpensOffTheScreen) {
       << window->geometry().x() << ", " << window->geometry().y();
 }
 
+TEST_F(Application, AWindowIsNoLargerThanTheScreen) {
+  const MainWindow* const window = program.openWindow();
+  const QRect room = window->screen()->availableGeometry();
+  EXPECT_LE(window->height(), room.height());
+  EXPECT_LE(window->width(), std::max(room.width(), window->minimumSizeHint().width()));
+}
+
+TEST_F(Application, AboutClosesOnEscape) {
+  AboutView* const about = program.openAbout();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(about));
+  QTest::keyClick(about, Qt::Key_Escape);
+  EXPECT_FALSE(about->isVisible());
+}
+
 TEST_F(Application, AStateFileThatCannotBeReadIsKeptAside) {
   const QString path = folder.filePath(QStringLiteral("window.ini"));
   QFile file(path);

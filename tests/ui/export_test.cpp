@@ -211,7 +211,7 @@ TEST_F(Exports, AFailureIsSaidInPlainWordsAndInNoDialog) {
   save("pdfButton", QStringLiteral("wheel.pdf"));
   drawn->pdfs[0].completion(
       exports::RenderFailure{QStringLiteral("The document could not be drawn.")});
-  EXPECT_EQ(notice(), QStringLiteral("wheel.pdf was not saved: The document could not be drawn."));
+  EXPECT_EQ(notice(), QStringLiteral("Not saved: The document could not be drawn. (wheel.pdf)"));
   EXPECT_FALSE(find<QWidget>("openFolder")->isVisible());
   EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
   EXPECT_FALSE(disk.exists(QStringLiteral("wheel.pdf")));
@@ -224,14 +224,13 @@ TEST_F(Exports, AFolderThatVanishesWhileOneIsAskedIsAFailure) {
   nameField(dialog)->setText(QStringLiteral("sky.svg"));
   ASSERT_TRUE(disk.rmdir(QStringLiteral("gone")));
   confirm(dialog);
-  EXPECT_TRUE(notice().startsWith(QStringLiteral("sky.svg was not saved: ")))
-      << notice().toStdString();
+  EXPECT_TRUE(notice().startsWith(QStringLiteral("Not saved: "))) << notice().toStdString();
   EXPECT_EQ(state.exportFolder().contains(QStringLiteral("gone")), false);
 }
 
 TEST_F(Exports, ATypedNameThatIsTooLongIsAFailure) {
   save("nativeExportButton", QString(300, QLatin1Char('x')));
-  EXPECT_TRUE(notice().contains(QStringLiteral("was not saved"))) << notice().toStdString();
+  EXPECT_TRUE(notice().startsWith(QStringLiteral("Not saved: "))) << notice().toStdString();
 }
 
 TEST_F(Exports, OpenFolderOpensTheFolderOfTheFile) {
@@ -250,6 +249,22 @@ TEST_F(Exports, TheFolderOfTheLastExportIsRemembered) {
   EXPECT_EQ(ask("nativeExportButton")->directory(), QDir(disk.filePath(QStringLiteral("prints"))));
   const WindowState again(disk.filePath(QStringLiteral("window.ini")));
   EXPECT_EQ(again.exportFolder(), disk.filePath(QStringLiteral("prints")));
+}
+
+TEST_F(Exports, AFolderThatCouldNotBeWrittenToIsNotOfferedAgain) {
+  QFileDialog* const dialog = ask("nativeExportButton");
+  nameField(dialog)->setText(QStringLiteral("/proc/sky.svg"));
+  confirm(dialog);
+  EXPECT_TRUE(notice().startsWith(QStringLiteral("Not saved: "))) << notice().toStdString();
+  EXPECT_EQ(state.exportFolder(), folder.path());
+}
+
+TEST_F(Exports, TheNoticeGoesAfterAFewSeconds) {
+  save("nativeExportButton", QStringLiteral("<b>sky.svg"));
+  EXPECT_EQ(notice(), QStringLiteral("Saved <b>sky.svg"));
+  EXPECT_FALSE(find<QLabel>("exportNotice")->toolTip().contains(QStringLiteral("<b>")));
+  EXPECT_TRUE(QTest::qWaitFor([this] { return notice().isEmpty(); }, 12000));
+  EXPECT_FALSE(find<QWidget>("openFolder")->isVisible());
 }
 
 TEST_F(Exports, BeforeTheFirstCalculationTheDocumentsAreEmpty) {

@@ -126,6 +126,16 @@ TEST_F(LatitudeField, TakesWhatAPersonTypesInTheirOwnNotation) {
   EXPECT_EQ(edits.at(0).at(0).toDouble(), 12.345);
 }
 
+TEST_F(LatitudeField, TakesACommaAndAPointForTheSame) {
+  for (const char* const number : {"8.5", "7,25", ",5"}) {
+    edits.clear();
+    type(QString::fromLatin1(number));
+    ASSERT_EQ(edits.count(), 1) << number;
+  }
+  EXPECT_EQ(edits.at(0).at(0).toDouble(), 0.5);
+  EXPECT_EQ(field.text(), local("0.5"));
+}
+
 TEST_F(LatitudeField, RefusesTheRestWhileItIsTyped) {
   field.show(1.0);
   type(QStringLiteral("-"));

@@ -115,6 +115,14 @@ TEST_F(Layout, NothingMovesWhileItCalculates) {
   EXPECT_EQ(places(), before);
 }
 
+TEST_F(Layout, NothingMovesWhenAPlaceIsChosen) {
+  const auto month = [this] { return find<QWidget>("monthPicker")->mapTo(&window, QPoint()); };
+  const QPoint before = month();
+  model.setSelectedCityID(model.cities().at(3).id);
+  tests::turnEventLoop();
+  EXPECT_EQ(month(), before);
+}
+
 TEST_F(Layout, WidthsAreAtLeastWhatThePersonExpects) {
   EXPECT_GE(find<QWidget>("latitudeField")->width(), 80);
   EXPECT_GE(find<QWidget>("longitudeField")->width(), 80);

@@ -1,5 +1,6 @@
 // The outputs as the window shows them.
 #include <QClipboard>
+#include <QDialog>
 #include <QHeaderView>
 #include <QLabel>
 #include <QPlainTextEdit>
@@ -172,6 +173,21 @@ TEST_F(Views, AChartIsDrawnWhenItsTabIsSeenAndWheneverItChanges) {
   model.setYear(900);
   calculate();
   EXPECT_EQ(drawn->pages.size(), 4);
+}
+
+TEST_F(Views, APlaceIsNamedAsItIsCalledNotAsMarkup) {
+  const QString name = QStringLiteral("<h1>Big</h1>") + QString(300, QLatin1Char('W'));
+  model.setManualLatDeg(12.25);
+  model.setSelectedCityID(std::get<QUuid>(model.addCity(name)));
+  const int width = window.minimumSizeHint().width();
+  calculate();
+  tests::turnEventLoop();
+  const auto* const caption = find<QLabel>("caption");
+  EXPECT_EQ(caption->textFormat(), Qt::PlainText);
+  EXPECT_TRUE(caption->text().contains(name.left(40) + QStringLiteral("…   12.25° N")));
+  EXPECT_EQ(window.minimumSizeHint().width(), width);
+  press("deleteButton");
+  EXPECT_LT(find<QDialog>("deleteSheet")->width(), 700);
 }
 
 TEST_F(Views, TheCaptionAndTheChartsSayWhatIsShown) {
