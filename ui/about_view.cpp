@@ -47,6 +47,7 @@ AboutView::AboutView(QWidget* parent) : QWidget(parent, Qt::Dialog) {
     connect(new QShortcut(key, this), &QShortcut::activated, this, &QWidget::close);
   }
   setObjectName(QStringLiteral("about"));
+  setAttribute(Qt::WA_QuitOnClose, false);  // the program ends with its last main window
   setWindowTitle(tr("About Veyruna Astro"));
   setFixedWidth(contentWidth);
   setAutoFillBackground(true);

@@ -87,6 +87,11 @@ void AngleField::commit() {
   }
 }
 
+void AngleField::focusOutEvent(QFocusEvent* event) {
+  commit();
+  QLineEdit::focusOutEvent(event);
+}
+
 std::optional<double> AngleField::numberIn(const QString& text) const {
   bool isNumber = false;
   const double degrees = validator()->locale().toDouble(text.trimmed(), &isNumber);

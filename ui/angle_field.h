@@ -20,6 +20,10 @@ class AngleField final : public QLineEdit {
   /// Takes over what is being typed, where it is a number of the range.
   void commit();
 
+ protected:
+  /// Also where what was typed is no number, which the field alone would leave standing.
+  void focusOutEvent(QFocusEvent* event) override;
+
  Q_SIGNALS:
   /// The person typed another number.
   void edited(double degrees);

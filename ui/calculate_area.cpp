@@ -1,5 +1,6 @@
 #include "ui/calculate_area.h"
 
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QProgressBar>
@@ -16,18 +17,6 @@ namespace veyruna::ui {
 namespace {
 
 using model::AstronomyModel;
-
-constexpr double smallType = 0.85;
-
-/// Sets a label in small type.
-template <class Label>
-Label* small(Label* label) {
-  QFont font = label->font();
-  font.setPointSizeF(font.pointSizeF() * smallType);
-  label->setFont(font);
-  label->setWordWrap(true);
-  return label;
-}
 
 }  // namespace
 
@@ -51,11 +40,11 @@ CalculateArea::CalculateArea(AstronomyModel& model, QWidget* parent)
   auto* const besideTheWord = new QHBoxLayout(button);
   besideTheWord->addStretch();
   besideTheWord->addWidget(progress_);
-  error_ = named(small(new WarningLabel), "errorMessage", tr("Error"));
-  difference_ = named(small(new QLabel), "difference", tr("State of what is shown"));
+  error_ = named(new WarningLabel, "errorMessage", tr("Error"));
+  difference_ = named(new QLabel, "difference", tr("State of what is shown"));
   difference_->setAlignment(Qt::AlignTop);
-  difference_->setText(QStringLiteral("\n"));  // room for two lines, at all times
-  difference_->setMinimumHeight(difference_->sizeHint().height());
+  difference_->setWordWrap(true);
+  fitSmallType();
 
   auto* const column = new QVBoxLayout(this);
   column->setContentsMargins({});
@@ -78,6 +67,27 @@ CalculateArea::CalculateArea(AstronomyModel& model, QWidget* parent)
   showProgress();
   showError();
   showDifference();
+}
+
+void CalculateArea::changeEvent(QEvent* event) {
+  QWidget::changeEvent(event);
+  if (event->type() == QEvent::FontChange) {
+    fitSmallType();
+  }
+}
+
+void CalculateArea::fitSmallType() {
+  constexpr double smallType = 0.85;
+  QFont type = font();
+  if (type.pointSizeF() > 0.0) {
+    type.setPointSizeF(type.pointSizeF() * smallType);
+  } else {
+    type.setPixelSize(qRound(type.pixelSize() * smallType));
+  }
+  error_->setFont(type);
+  difference_->setFont(type);
+  // Room for two lines, at all times.
+  difference_->setMinimumHeight(2 * QFontMetrics(type).lineSpacing() + type.pointSize() / 2);
 }
 
 void CalculateArea::showProgress() {

@@ -20,7 +20,11 @@ class CalculateArea final : public QWidget {
  Q_SIGNALS:
   void calculateRequested();
 
+ protected:
+  void changeEvent(QEvent* event) override;
+
  private:
+  void fitSmallType();
   void showProgress();
   void showError();
   void showDifference();

@@ -24,6 +24,13 @@ class SegmentButton final : public QPushButton {
  public:
   using QPushButton::QPushButton;
 
+  /// As wide as its title asks, not as wide as a button that stands alone.
+  [[nodiscard]] QSize sizeHint() const override {
+    const int padding = 2 * fontMetrics().averageCharWidth() + fontMetrics().height();
+    return {fontMetrics().horizontalAdvance(text()) + padding, QPushButton::sizeHint().height()};
+  }
+  [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
+
  protected:
   void paintEvent(QPaintEvent* /*event*/) override {
     QStylePainter painter(this);

@@ -63,9 +63,8 @@ QWidget* LocationSection::makeSavedPlace() {
   auto* const place = new QWidget;
   coordinates_ = named(new QLabel, "coordinates", tr("Coordinates"));
   coordinates_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-  auto* const remove =
-      named(new QPushButton(QIcon::fromTheme(QStringLiteral("edit-delete")), tr("&Delete")),
-            "deleteButton", tr("Delete this location"));
+  auto* const remove = named(new QPushButton(icon("edit-delete", "delete"), tr("&Delete")),
+                             "deleteButton", tr("Delete this location"));
   connect(remove, &QPushButton::clicked, this, &LocationSection::deleteRequested);
   auto* const column = new QVBoxLayout(place);
   auto* const row = new QHBoxLayout;

@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QTextBoundaryFinder>
 #include <QVBoxLayout>
 #include <variant>
 
@@ -40,18 +41,24 @@ QHBoxLayout* sheetButtons(QPushButton* cancel, QPushButton* act) {
 }
 
 /// The text with places where a very long word may be broken, so that no sheet outgrows the screen.
-QString breakable(QString text) {
-  constexpr qsizetype longestWord = 30;  // characters
+QString breakable(const QString& text) {
+  constexpr int longestWord = 30;  // characters as a person counts them
   constexpr QChar zeroWidthSpace(0x200b);
-  qsizetype since = 0;
-  for (qsizetype at = 0; at < text.size(); ++at) {
-    since = text[at].isSpace() ? 0 : since + 1;
-    if (since > longestWord && !text[at].isLowSurrogate()) {
-      text.insert(at, zeroWidthSpace);
-      since = 0;
+  QTextBoundaryFinder characters(QTextBoundaryFinder::Grapheme, text);
+  QString broken;
+  int length = 0;
+  qsizetype begin = 0;
+  while (characters.toNextBoundary() >= 0) {
+    const QString character = text.mid(begin, characters.position() - begin);
+    begin = characters.position();
+    length = character.at(0).isSpace() ? 0 : length + 1;
+    if (length > longestWord) {
+      broken += zeroWidthSpace;
+      length = 1;
     }
+    broken += character;
   }
-  return text;
+  return broken;
 }
 
 bool isReturn(const QKeyEvent& event) {

@@ -83,7 +83,10 @@ void MainWindow::selectTab(OutputTab tab) {
 
 void MainWindow::makeMenus() {
   const auto add = [this](QMenu* menu, const QString& title, const char* keys, auto signal) {
-    QAction* const action = menu->addAction(title, this, signal);
+    QAction* const action = menu->addAction(title, this, [this, signal] {
+      sidebar_->commit();
+      (this->*signal)();
+    });
     action->setShortcut(QKeySequence(QString::fromLatin1(keys)));
   };
   QMenu* const program = menuBar()->addMenu(tr("&Veyruna Astro"));

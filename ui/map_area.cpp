@@ -227,6 +227,9 @@ void MapArea::mousePressEvent(QMouseEvent* event) {
 }
 
 void MapArea::mouseMoveEvent(QMouseEvent* event) {
+  if (pressedAt_ && !event->buttons().testFlag(Qt::LeftButton)) {
+    cancelGestures();  // the button was let go where nobody told
+  }
   if (pressedAt_) {
     const QPointF translation = event->position() - *pressedAt_;
     if (!isDragging_ && std::hypot(translation.x(), translation.y()) >= dragThreshold) {

@@ -69,7 +69,7 @@ QHBoxLayout* MapLocationPickerView::makeControls() {
   auto* const zoomIn = named(zoomButton(icon("zoom-in", "zoom_in"), tr("Zoom in (⌘+)")),
                              "zoomInButton", tr("Zoom in"));
   zoomReadout_ = named(new QLabel, "zoomReadout", tr("Zoom"));
-  zoomReadout_->setFixedWidth(readoutWidth);
+  zoomReadout_->setMinimumWidth(readoutWidth);
   zoomReadout_->setAlignment(Qt::AlignCenter);
   auto* const resetButton = named(new QPushButton(icon("zoom-original", "reset"), tr("Reset")),
                                   "resetButton", tr("Show the whole map"));

@@ -115,6 +115,9 @@ void PlanetsView::copySelection() const {
     }
     lines.append(columns.join(QLatin1Char('\t')));
   }
+  if (lines.isEmpty()) {
+    return;  // what was copied before stays
+  }
   QApplication::clipboard()->setText(lines.join(QLatin1Char('\n')));
 }
 

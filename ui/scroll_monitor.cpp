@@ -1,9 +1,11 @@
 #include "ui/scroll_monitor.h"
 
 #include <QCoreApplication>
+#include <QPointingDevice>
 #include <QWheelEvent>
 #include <QWidget>
 #include <QWindow>
+#include <cmath>
 #include <cstdlib>
 #include <utility>
 
@@ -19,10 +21,14 @@ double furthest(QPoint delta) {
 double scrollingDelta(const QWheelEvent& wheel) {
   constexpr double notchDelta = 10.0;
   constexpr double notchAngle = QWheelEvent::DefaultDeltasPerStep;
-  if (!wheel.pixelDelta().isNull()) {
+  const double angle = furthest(wheel.angleDelta());
+  // Some drivers give pixels for the notches of a wheel too, and far too many.
+  const bool isWholeNotches = angle != 0.0 && std::fmod(angle, notchAngle) == 0.0;
+  const bool isTouchPad = wheel.device()->type() == QInputDevice::DeviceType::TouchPad;
+  if (!wheel.pixelDelta().isNull() && (isTouchPad || !isWholeNotches)) {
     return furthest(wheel.pixelDelta());
   }
-  return furthest(wheel.angleDelta()) * notchDelta / notchAngle;
+  return angle * notchDelta / notchAngle;
 }
 
 }  // namespace

@@ -21,10 +21,6 @@ SegmentedPicker::SegmentedPicker(const char* name, const QStringList& titles,
     button->setAccessibleName(spoken[segment]);
     button->setCheckable(true);
     button->setAutoDefault(false);
-    // As wide as its title asks, not as wide as a button that stands alone.
-    const int padding =
-        2 * button->fontMetrics().averageCharWidth() + button->fontMetrics().height();
-    button->setMinimumWidth(button->fontMetrics().horizontalAdvance(title) + padding);
     button->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     segments_->addButton(button, segment);
     row->addWidget(button);

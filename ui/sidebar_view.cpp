@@ -60,8 +60,10 @@ SidebarView::SidebarView(model::AstronomyModel& model, QWidget* parent)
     commit();
     (new SaveLocationSheet(model_, window()))->open();
   });
-  connect(location_, &LocationSection::deleteRequested, this,
-          [this] { (new DeleteLocationSheet(model_, window()))->open(); });
+  connect(location_, &LocationSection::deleteRequested, this, [this] {
+    commit();
+    (new DeleteLocationSheet(model_, window()))->open();
+  });
   connect(calculate, &CalculateArea::calculateRequested, this, [this] {
     commit();
     model_.recalculate();

@@ -48,9 +48,7 @@ TabSelector::TabSelector(QWidget* parent)
   }
   row->addStretch();
   buttons->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-  buttons->setMinimumWidth(row->minimumSize().width());
   addWidget(buttons);
-  setMinimumWidth(sizeHint().width());
 }
 
 void TabSelector::setTab(exports::OutputTab tab) {

@@ -177,6 +177,10 @@ TEST_F(Application, AboutOpensOnceAndComesForward) {
   }
   EXPECT_EQ(shown, 1);
   EXPECT_EQ(about->width(), 650);
+  EXPECT_FALSE(about->testAttribute(Qt::WA_QuitOnClose));
+  const QPixmap picture =
+      about->findChild<QLabel*>(QStringLiteral("picture"))->pixmap(Qt::ReturnByValue);
+  EXPECT_EQ(picture.deviceIndependentSize(), QSizeF(100, 100));
   EXPECT_EQ(about->windowTitle(), QStringLiteral("About Veyruna Astro"));
 }
 

@@ -1,11 +1,17 @@
 // What each control of the window changes in the model, and that nothing but Calculate calculates.
 #include <QCheckBox>
 #include <QDialog>
+#include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QLocale>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QSlider>
 
 #include "tests/ui/shown_window.h"
+#include "ui/map_location_picker_view.h"
+#include "ui/program.h"
 
 namespace veyruna::ui {
 namespace {
@@ -178,6 +184,11 @@ TEST_F(Controls, WhatIsBeingTypedCountsBeforeWhatIsPressed) {
   type("yearStepper", QStringLiteral("901"));
   press("pdfButton");
   EXPECT_EQ(model.year(), 901);
+  find<QDialog>("saveDialog")->reject();
+  choose("locationPicker", QStringLiteral("Ebb"));
+  type("yearStepper", QStringLiteral("902"));
+  press("deleteButton");
+  EXPECT_EQ(model.year(), 902);
 }
 
 TEST_F(Controls, StoredValuesOutsideTheirRangesAreShownAndStayStored) {
@@ -213,6 +224,162 @@ TEST_F(Controls, AWheelOverAControlWithoutFocusChangesNothing) {
     QCoreApplication::sendEvent(control, &wheel);
     EXPECT_FALSE(control->hasFocus());
   }
+  EXPECT_TRUE(stored().isEmpty());
+}
+
+TEST_F(Controls, AreCalledWhatTheyAreCalled) {
+  window.selectTab(OutputTab::horoscope);
+  QStringList texts;
+  const auto read = [&texts](const QWidget& widgets) {
+    for (const auto* const button : widgets.findChildren<QAbstractButton*>()) {
+      texts.append(button->text());
+    }
+    for (const auto* const label : widgets.findChildren<QLabel*>()) {
+      texts.append(label->text());
+    }
+    for (const auto* const group : widgets.findChildren<QGroupBox*>()) {
+      texts.append(group->title());
+    }
+  };
+  read(window);
+  press("saveButton");
+  read(*find<QDialog>("saveSheet"));
+  find<QDialog>("saveSheet")->reject();
+  model.setSelectedCityID(model.cities().at(1).id);
+  press("deleteButton");
+  read(*find<QDialog>("deleteSheet"));
+  for (QString& text : texts) {
+    text.replace(QStringLiteral("&&"), QStringLiteral("+")).remove(QLatin1Char('&'));
+  }
+  for (const char* const text : {"Star Map",
+                                 "Horoscope",
+                                 "Thessil System",
+                                 "Sun + Moon",
+                                 "Positions",
+                                 "Location",
+                                 "Latitude",
+                                 "Longitude",
+                                 "N",
+                                 "S",
+                                 "E",
+                                 "W",
+                                 "Save Location…",
+                                 "Pick from map…",
+                                 "Delete",
+                                 "Color",
+                                 "Date",
+                                 "Month",
+                                 "Time",
+                                 "Hour",
+                                 "Step (15 min)",
+                                 "Use local time",
+                                 "Calculate",
+                                 "Export options",
+                                 "SVG",
+                                 "PDF",
+                                 "Hourly",
+                                 "Monthly",
+                                 "Daily",
+                                 "Yearly",
+                                 "Next full moon:",
+                                 "Next new moon:",
+                                 "Reset",
+                                 "Click to pick · ⌥-scroll to zoom · drag to pan",
+                                 "Name",
+                                 "Cancel",
+                                 "Save"}) {
+    EXPECT_TRUE(texts.contains(QString::fromUtf8(text))) << text;
+  }
+  EXPECT_EQ(find<QLabel>("versionLabel")->text(), QStringLiteral("Version ") + programVersion());
+  EXPECT_EQ(find<QLabel>("buildLabel")->text(), QStringLiteral("Build ") + programBuild());
+}
+
+TEST_F(Controls, AClickOnTheMapBecomesTheManualPlace) {
+  choose("locationPicker", QStringLiteral("Ebb"));
+  press("mapButton");
+  auto* const picker = find<MapLocationPickerView>("locationTab");
+  auto* const area = find<QWidget>("mapArea");
+  tests::turnEventLoop();
+  stored();
+  const QPoint point(area->width() / 2, area->height() / 2);
+  const auto place = placeAt(point, picker->mapLayout());
+  ASSERT_TRUE(place);
+  QTest::mouseClick(area, Qt::LeftButton, {}, point);
+  EXPECT_EQ(window.selectedTab(), OutputTab::location);
+  EXPECT_EQ(find<QComboBox>("locationPicker")->currentText(), QStringLiteral("Manual"));
+  EXPECT_NEAR(model.manualLatDeg(), place->latitude * 180.0 / astro::pi, 0.0005);
+  EXPECT_NEAR(model.manualLongDeg(), std::abs(place->longitude) * 180.0 / astro::pi, 0.0005);
+  EXPECT_TRUE(model.latNorth());
+  EXPECT_EQ(model.longWest(), place->longitude < 0.0);
+  EXPECT_EQ(find<QLineEdit>("latitudeField")->text(),
+            QLocale().toString(model.manualLatDeg(), 'g', 5));
+  EXPECT_TRUE(stored().contains(placeKey));
+  EXPECT_TRUE(isIdle());
+}
+
+TEST_F(Controls, ChoosingManualShowsTheFieldsWithTheirRememberedValues) {
+  type("latitudeField", QStringLiteral("33"));
+  choose("locationPicker", QStringLiteral("Ebb"));
+  EXPECT_FALSE(find<QWidget>("latitudeField")->isVisible());
+  EXPECT_TRUE(find<QWidget>("deleteButton")->isVisible());
+  choose("locationPicker", QStringLiteral("Manual"));
+  EXPECT_TRUE(find<QWidget>("latitudeField")->isVisible());
+  EXPECT_EQ(find<QLineEdit>("latitudeField")->text(), QStringLiteral("33"));
+}
+
+TEST_F(Controls, NoInputChangesAnOutput) {
+  calculate();
+  const auto outputs = [this] {
+    return QStringList({model.starMapSVG(), model.horoscopeSVG(), model.basicTableHourly(),
+                        model.basicTableMonthly(), model.conjunctionDaily(),
+                        model.conjunctionYearly(), model.dateLabel(), model.nextFullMoonLabel(),
+                        model.nextNewMoonLabel()});
+  };
+  const QStringList before = outputs();
+  type("latitudeField", QStringLiteral("3"));
+  press("northSouthS");
+  type("longitudeField", QStringLiteral("4"));
+  press("eastWestE");
+  choose("monthPicker", QStringLiteral("Cendo"));
+  QTest::keyClick(find<QWidget>("dayStepper"), Qt::Key_Up);
+  QTest::keyClick(find<QWidget>("yearStepper"), Qt::Key_Up);
+  press("laterButton");
+  press("localTime");
+  choose("locationPicker", QStringLiteral("Ebb"));
+  EXPECT_TRUE(isIdle());
+  EXPECT_EQ(outputs(), before);
+}
+
+TEST_F(Controls, AWheelOverAControlScrollsTheSidebar) {
+  window.resize(1000, 420);
+  tests::turnEventLoop();
+  auto* const sidebar = find<QScrollArea>("sidebar");
+  find<QWidget>("calculateButton")->setFocus();
+  sidebar->verticalScrollBar()->setValue(0);
+  ASSERT_GT(sidebar->verticalScrollBar()->maximum(), 0);
+  auto* const month = find<QWidget>("monthPicker");
+  const QPointF here = month->mapTo(&window, QPointF(5, 5));
+  QWheelEvent wheel(month->mapFrom(&window, here), window.mapToGlobal(here), QPoint(),
+                    QPoint(0, -120), Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+  wheel.ignore();
+  // A wheel that is turned goes from the control up to whoever takes it.
+  for (QWidget* widget = month; widget != sidebar && !wheel.isAccepted();
+       widget = widget->parentWidget()) {
+    wheel.ignore();
+    QCoreApplication::sendEvent(widget, &wheel);
+  }
+  EXPECT_GT(sidebar->verticalScrollBar()->value(), 0);
+  EXPECT_TRUE(stored().isEmpty());
+}
+
+TEST_F(Controls, AnEmptiedFieldGoesBackToWhatIsUsed) {
+  auto* const latitude = find<QLineEdit>("latitudeField");
+  latitude->setFocus();
+  QTest::keyClick(latitude, Qt::Key_A, Qt::ControlModifier);
+  QTest::keyClick(latitude, Qt::Key_Delete);
+  EXPECT_TRUE(latitude->text().isEmpty());
+  find<QWidget>("yearStepper")->setFocus();
+  EXPECT_EQ(latitude->text(), QLocale().toString(40.5));
   EXPECT_TRUE(stored().isEmpty());
 }
 

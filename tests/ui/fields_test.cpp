@@ -88,6 +88,10 @@ TEST(DayField, CountsFromOne) {
   const QSignalSpy edits(&field, &StepperField::edited);
   field.stepUp();
   EXPECT_EQ(edits.count(), 0);
+  field.show(0);
+  EXPECT_EQ(field.text(), QStringLiteral("Day 1"));
+  field.stepDown();
+  EXPECT_EQ(edits.count(), 0);
 }
 
 struct LatitudeField : testing::Test {

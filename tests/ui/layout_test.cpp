@@ -80,6 +80,17 @@ TEST_F(Layout, NothingIsCutOnASmallScreenWhereTheSidebarScrolls) {
   EXPECT_EQ(sidebar->horizontalScrollBar()->maximum(), 0);
 }
 
+TEST_F(Layout, NothingIsCutInALargerType) {
+  const QFont usual = QApplication::font();
+  QFont larger = usual;
+  larger.setPointSizeF(usual.pointSizeF() * 1.5);
+  QApplication::setFont(larger);
+  window.resize(window.minimumSizeHint());
+  settle();
+  showEverything([this] { expectNothingCut(); });
+  QApplication::setFont(usual);
+}
+
 TEST_F(Layout, NeitherColumnCanBeCollapsed) {
   auto* const columns = window.findChild<QSplitter*>();
   EXPECT_FALSE(columns->childrenCollapsible());

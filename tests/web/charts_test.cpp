@@ -1,4 +1,9 @@
 // Charts on screen, through the web engine itself.
+#include <QAbstractButton>
+#include <QFile>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QWebEngineView>
@@ -6,9 +11,11 @@
 #include <gtest/gtest.h>
 #include <set>
 
+#include "export/pdf_exporter.h"
 #include "tests/model/fakes.h"
 #include "ui/application.h"
 #include "ui/main_window.h"
+#include "ui/program.h"
 #include "ui/svg_view.h"
 #include "ui/web_page_engine.h"
 
@@ -101,8 +108,7 @@ TEST(WindowWithCharts, DrawsBothChartsOfACalculation) {
   tests::turnEventLoop();
   const auto colorsIn = [window](const char* name) {
     std::set<QRgb> colors;
-    const QImage chart =
-        window->findChild<QWidget*>(QString::fromLatin1(name))->grab().toImage();
+    const QImage chart = window->findChild<QWidget*>(QString::fromLatin1(name))->grab().toImage();
     for (int y = 0; y < chart.height(); y += 3) {
       for (int x = 0; x < chart.width(); x += 3) {
         colors.insert(chart.pixel(x, y));
@@ -114,6 +120,47 @@ TEST(WindowWithCharts, DrawsBothChartsOfACalculation) {
   window->selectTab(exports::OutputTab::horoscope);
   EXPECT_TRUE(QTest::qWaitFor([&] { return colorsIn("horoscope") > 20; }, 20000));
   EXPECT_EQ(window->findChildren<QWebEngineView*>().size(), 2);
+}
+
+TEST(WindowWithCharts, ThatIsQuitWhileAPdfIsMadeLosesNoFile) {
+  tests::FakeWorld world;
+  const QTemporaryDir folder;
+  const QString path = folder.filePath(QStringLiteral("table.pdf"));
+  VeyrunaAstroApp program(world.surroundings(), webPageEngine(),
+                          folder.filePath(QStringLiteral("window.ini")));
+  MainWindow* const window = program.openWindow();
+  world.tasks.runNext();
+  tests::turnEventLoop();
+  window->selectTab(exports::OutputTab::positions);
+  window->findChild<QAbstractButton*>(QStringLiteral("pdfButton"))->click();
+  auto* const dialog = window->findChild<QFileDialog*>(QStringLiteral("saveDialog"));
+  ASSERT_NE(dialog, nullptr);
+  dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(path);
+  QMetaObject::invokeMethod(dialog, "accept");
+  QApplication::closeAllWindows();
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  EXPECT_FALSE(QFile::exists(path));
+  EXPECT_TRUE(exports::PDFExporter::waitForAll());
+  QFile file(path);
+  ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+  EXPECT_TRUE(file.readAll().startsWith("%PDF-"));
+}
+
+TEST(Program, AnswersOnTheTerminalWithoutADisplay) {
+  const auto answerTo = [](const QString& option) {
+    QProcess program;
+    QProcessEnvironment bare = QProcessEnvironment::systemEnvironment();
+    bare.remove(QStringLiteral("DISPLAY"));
+    bare.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("xcb"));
+    program.setProcessEnvironment(bare);
+    program.start(QStringLiteral(VEYRUNA_ASTRO), {option});
+    EXPECT_TRUE(program.waitForFinished(30000));
+    EXPECT_EQ(program.exitCode(), 0);
+    return QString::fromUtf8(program.readAllStandardOutput());
+  };
+  EXPECT_EQ(answerTo(QStringLiteral("--version")),
+            QStringLiteral("veyruna-astro %1 (build %2)\n").arg(programVersion(), programBuild()));
+  EXPECT_TRUE(answerTo(QStringLiteral("--help")).contains(QStringLiteral("Veyrunan Astrologer")));
 }
 
 }  // namespace

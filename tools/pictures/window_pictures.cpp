@@ -3,6 +3,7 @@
 // FOLDER/star-map.png and so on, with the sidebar alone and the About window. Everything it stores
 // goes to where XDG_CONFIG_HOME and XDG_DATA_HOME point; tools/make_screenshots points them to a
 // scratch folder.
+#include <QAbstractButton>
 #include <QApplication>
 #include <QDir>
 #include <QEventLoop>
@@ -94,6 +95,15 @@ int main(int argc, char** argv) {
                                   {OutputTab::positions, "positions"},
                                   {OutputTab::location, "location"}}) {
     window->selectTab(tab);
+    wait(untilDrawn);
+    isSaved &= save(*window, folder.filePath(QStringLiteral("%1.png").arg(QLatin1String(name))));
+  }
+  // The map enlarged, about its middle: four steps and all of them.
+  auto* const zoomIn = window->findChild<QAbstractButton*>(QStringLiteral("zoomInButton"));
+  for (const auto& [steps, name] : {std::pair{4, "location-384"}, {4, "location-1200"}}) {
+    for (int step = 0; step < steps; ++step) {
+      zoomIn->click();
+    }
     wait(untilDrawn);
     isSaved &= save(*window, folder.filePath(QStringLiteral("%1.png").arg(QLatin1String(name))));
   }

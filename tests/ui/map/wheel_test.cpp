@@ -27,6 +27,11 @@ TEST_F(ShownPicker, ATrackpadsPixelsAreTheDelta) {
   EXPECT_DOUBLE_EQ(view->zoom(), 1.44);
 }
 
+TEST_F(ShownPicker, AMousesNotchIsOneAlsoWhereItsDriverGivesPixels) {
+  turnWheel(area, Qt::AltModifier, notch, {0, 120});
+  EXPECT_EQ(view->zoom(), 1.4);
+}
+
 TEST_F(ShownPicker, OneTurnZoomsByTwoOrHalfAtMost) {
   turnWheel(area, Qt::AltModifier, {}, {0, 100});
   EXPECT_EQ(view->zoom(), 2.0);
