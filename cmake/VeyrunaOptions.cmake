@@ -38,6 +38,7 @@ target_compile_options(
             $<$<BOOL:${VEYRUNA_WARNINGS_AS_ERRORS}>:-Werror>)
 
 if(VEYRUNA_SANITIZERS)
+  set(CMAKE_CXX_FLAGS_DEBUG "-O1 -g1")  # enough for a report's lines
   target_compile_options(
     veyruna_options INTERFACE -fsanitize=${VEYRUNA_SANITIZERS} -fno-sanitize-recover=all
                               -fno-omit-frame-pointer)

@@ -56,7 +56,7 @@ class SaveDialog final : public QFileDialog {
     if (QFileInfo::exists(path) && !agreesToReplace(this, path)) {
       return;
     }
-    QDialog::accept();
+    done(Accepted);
     Q_EMIT fileSelected(path);
   }
 
