@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "ui/about_view.h"
-#include "ui/main_window.h"
+#include "ui/main_view.h"
 
 namespace veyruna::ui {
 
@@ -21,22 +21,22 @@ VeyrunaAstroApp::VeyrunaAstroApp(model::AstronomyModel::Surroundings surrounding
     : model_(std::move(surroundings)), engine_(std::move(engine)), state_(statePath) {}
 
 VeyrunaAstroApp::~VeyrunaAstroApp() {
-  for (const QPointer<MainWindow>& window : windows_) {
+  for (const QPointer<MainView>& window : windows_) {
     delete window;
   }
   delete about_;
 }
 
-MainWindow* VeyrunaAstroApp::openWindow() {
-  auto* const window = new MainWindow(model_, engine_, state_);
+MainView* VeyrunaAstroApp::openWindow() {
+  auto* const window = new MainView(model_, engine_, state_);
   windows_.removeAll(nullptr);
   windows_.append(window);
-  connect(window, &MainWindow::newWindowRequested, this, &VeyrunaAstroApp::openWindow);
-  connect(window, &MainWindow::aboutRequested, this, &VeyrunaAstroApp::openAbout);
-  connect(window, &MainWindow::quitRequested, qApp, &QApplication::closeAllWindows);
+  connect(window, &MainView::newWindowRequested, this, &VeyrunaAstroApp::openWindow);
+  connect(window, &MainView::aboutRequested, this, &VeyrunaAstroApp::openAbout);
+  connect(window, &MainView::quitRequested, qApp, &QApplication::closeAllWindows);
   // Beside the window it was opened from, not on top of it.
   if (const QWidget* const other = QApplication::activeWindow();
-      qobject_cast<const MainWindow*>(other) != nullptr) {
+      qobject_cast<const MainView*>(other) != nullptr) {
     const QRect room = other->screen()->availableGeometry();
     const QPoint beside = other->pos() + QPoint(cascade, cascade);
     window->move(room.contains(QRect(beside, grip)) ? beside : room.topLeft());

@@ -11,7 +11,7 @@
 namespace veyruna::ui {
 
 class AboutView;
-class MainWindow;
+class MainView;
 
 /// The program: one model, any number of windows on it, one About window.
 class VeyrunaAstroApp final : public QObject {
@@ -26,7 +26,7 @@ class VeyrunaAstroApp final : public QObject {
   VeyrunaAstroApp& operator=(const VeyrunaAstroApp&) = delete;
 
   /// Opens another window on the model and calculates for it.
-  MainWindow* openWindow();
+  MainView* openWindow();
 
   /// Opens the About window, or brings it forward.
   AboutView* openAbout();
@@ -38,7 +38,7 @@ class VeyrunaAstroApp final : public QObject {
   model::AstronomyModel model_;
   PageEngine engine_;
   WindowState state_;
-  QList<QPointer<MainWindow>> windows_;
+  QList<QPointer<MainView>> windows_;
   QPointer<AboutView> about_;
 };
 

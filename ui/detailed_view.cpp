@@ -1,15 +1,14 @@
 #include "ui/detailed_view.h"
 
-#include <QFormLayout>
 #include <QLabel>
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
+#include "ui/chart_views.h"
 #include "ui/coordinate_text.h"
 #include "ui/map_location_picker_view.h"
 #include "ui/named.h"
 #include "ui/planets_view.h"
-#include "ui/svg_view.h"
 #include "ui/tables_view.h"
 
 namespace veyruna::ui {
@@ -40,11 +39,11 @@ DetailedView::DetailedView(AstronomyModel& model, const PageEngine& engine, QWid
       model_(model),
       caption_(named(new QLabel, "caption", tr("Moment and place of what is shown"))),
       tabs_(new QStackedWidget),
-      starMap_(named(new SVGView(engine, tr("Star map")), "starMap", tr("Star map"))),
-      horoscope_(named(new SVGView(engine, tr("Horoscope")), "horoscope", tr("Horoscope"))),
+      starMap_(new StarMapView(engine)),
+      horoscope_(new HoroscopeView(engine)),
       planets_(new PlanetsView),
-      sunMoon_(new TablesView({tr("Hourly"), tr("Monthly"), tr("No table data")})),
-      positions_(new TablesView({tr("Daily"), tr("Yearly"), tr("No conjunction data")})) {
+      sunMoon_(new TablesView),
+      positions_(new PositionsView) {
   caption_->setAlignment(Qt::AlignCenter);
   caption_->setWordWrap(true);
   caption_->setTextFormat(Qt::PlainText);
@@ -58,25 +57,6 @@ DetailedView::DetailedView(AstronomyModel& model, const PageEngine& engine, QWid
 }
 
 void DetailedView::addTabs() {
-  auto* const moons = new QWidget;
-  auto* const fullMoon = named(new QLabel, "nextFullMoon", tr("Next full moon"));
-  auto* const newMoon = named(new QLabel, "nextNewMoon", tr("Next new moon"));
-  for (QLabel* const label : {fullMoon, newMoon}) {
-    label->setTextInteractionFlags(Qt::TextSelectableByMouse);
-  }
-  auto* const lines = new QFormLayout(moons);
-  lines->setContentsMargins({});
-  lines->addRow(tr("Next full moon:"), fullMoon);
-  lines->addRow(tr("Next new moon:"), newMoon);
-  sunMoon_->addFooter(moons);
-  const auto showMoons = [this, fullMoon, newMoon] {
-    fullMoon->setText(model_.nextFullMoonLabel());
-    newMoon->setText(model_.nextNewMoonLabel());
-  };
-  showMoons();
-  connect(&model_, &AstronomyModel::nextFullMoonLabelChanged, this, showMoons);
-  connect(&model_, &AstronomyModel::nextNewMoonLabelChanged, this, showMoons);
-
   auto* const map =
       named(new MapLocationPickerView(model_, pictureFile(QStringLiteral(":/tamsorel.jpg"))),
             "locationTab", tr("Map"));
@@ -92,6 +72,9 @@ void DetailedView::followModel() {
     sunMoon_->show(model_.basicTableHourly(), model_.basicTableMonthly());
     positions_->show(model_.conjunctionDaily(), model_.conjunctionYearly());
   };
+  const auto showMoons = [this] {
+    sunMoon_->showMoons(model_.nextFullMoonLabel(), model_.nextNewMoonLabel());
+  };
   const auto showCharts = [this] {
     starMap_->show(model_.starMapSVG());
     horoscope_->show(model_.horoscopeSVG());
@@ -102,11 +85,14 @@ void DetailedView::followModel() {
         &AstronomyModel::conjunctionDailyChanged, &AstronomyModel::conjunctionYearlyChanged}) {
     connect(&model_, signal, this, showTables);
   }
+  connect(&model_, &AstronomyModel::nextFullMoonLabelChanged, this, showMoons);
+  connect(&model_, &AstronomyModel::nextNewMoonLabelChanged, this, showMoons);
   connect(&model_, &AstronomyModel::starMapSVGChanged, this, showCharts);
   connect(&model_, &AstronomyModel::horoscopeSVGChanged, this, showCharts);
   connect(&model_, &AstronomyModel::positionsChanged, this, showPlanets);
   connect(&model_, &AstronomyModel::isCalculatingChanged, this, &DetailedView::showCaption);
   showTables();
+  showMoons();
   showCharts();
   showPlanets();
   showCaption();

@@ -11,8 +11,10 @@ class QStackedWidget;
 
 namespace veyruna::ui {
 
+class HoroscopeView;
 class PlanetsView;
-class SVGView;
+class PositionsView;
+class StarMapView;
 class TablesView;
 
 /// The outputs of the last calculation, one tab at a time, under the moment and place they belong
@@ -33,11 +35,11 @@ class DetailedView final : public QWidget {
   model::AstronomyModel& model_;
   QLabel* caption_;
   QStackedWidget* tabs_;
-  SVGView* starMap_;
-  SVGView* horoscope_;
+  StarMapView* starMap_;
+  HoroscopeView* horoscope_;
   PlanetsView* planets_;
   TablesView* sunMoon_;
-  TablesView* positions_;
+  PositionsView* positions_;
 };
 
 }  // namespace veyruna::ui

@@ -10,7 +10,7 @@ namespace veyruna::ui {
 
 /// A chart, scaled to the view. What draws it is made when the chart is first to be seen, after the
 /// window's first paint.
-class SVGView final : public QWidget {
+class SVGView : public QWidget {
   Q_OBJECT
 
  public:

@@ -1,42 +1,33 @@
 #include "ui/tables_view.h"
 
-#include <QHBoxLayout>
-#include <QStackedWidget>
-#include <QVBoxLayout>
+#include <QFormLayout>
+#include <QLabel>
 
-#include "ui/monospaced_text_view.h"
-#include "ui/segmented_picker.h"
+#include "ui/named.h"
 
 namespace veyruna::ui {
 
-TablesView::TablesView(const Texts& titles, QWidget* parent)
-    : QWidget(parent),
-      first_(new MonospacedTextView(titles.first, titles.placeholder)),
-      second_(new MonospacedTextView(titles.second, titles.placeholder)),
-      column_(new QVBoxLayout(this)) {
-  auto* const tables = new QStackedWidget;
-  tables->addWidget(first_);
-  tables->addWidget(second_);
-
-  auto* const choice =
-      new SegmentedPicker("show", {titles.first, titles.second}, {titles.first, titles.second});
-  auto* const row = new QHBoxLayout;
-  row->addStretch();
-  row->addWidget(choice);
-  row->addStretch();
-  connect(choice, &SegmentedPicker::picked, tables, &QStackedWidget::setCurrentIndex);
-
-  column_->addLayout(row);
-  column_->addWidget(tables, 1);
+TablesView::TablesView()
+    : TablePair({tr("Hourly"), tr("Monthly"), tr("No table data")}),
+      nextFullMoon_(named(new QLabel, "nextFullMoon", tr("Next full moon"))),
+      nextNewMoon_(named(new QLabel, "nextNewMoon", tr("Next new moon"))) {
+  for (QLabel* const label : {nextFullMoon_, nextNewMoon_}) {
+    label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+  }
+  auto* const moons = new QWidget;
+  auto* const lines = new QFormLayout(moons);
+  lines->setContentsMargins({});
+  lines->addRow(tr("Next full moon:"), nextFullMoon_);
+  lines->addRow(tr("Next new moon:"), nextNewMoon_);
+  addFooter(moons);
 }
 
-void TablesView::show(const QString& first, const QString& second) {
-  first_->show(first);
-  second_->show(second);
+void TablesView::showMoons(const QString& nextFullMoon, const QString& nextNewMoon) {
+  nextFullMoon_->setText(nextFullMoon);
+  nextNewMoon_->setText(nextNewMoon);
 }
 
-void TablesView::addFooter(QWidget* footer) {
-  column_->addWidget(footer);
-}
+PositionsView::PositionsView()
+    : TablePair({tr("Daily"), tr("Yearly"), tr("No conjunction data")}) {}
 
 }  // namespace veyruna::ui

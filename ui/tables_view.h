@@ -1,33 +1,27 @@
 #pragma once
 
-#include <QWidget>
+#include "ui/table_pair.h"
 
-class QButtonGroup;
-class QVBoxLayout;
+class QLabel;
 
 namespace veyruna::ui {
 
-class MonospacedTextView;
-
-/// Two tables of which one is shown, chosen by two buttons side by side.
-class TablesView final : public QWidget {
+/// Sun and moon by the hour or through the month, and when the moon is next full and new.
+class TablesView final : public TablePair {
  public:
-  struct Texts {
-    QString first;
-    QString second;
-    QString placeholder;
-  };
-  explicit TablesView(const Texts& titles, QWidget* parent = nullptr);
+  TablesView();
 
-  void show(const QString& first, const QString& second);
-
-  /// Adds a line below the table.
-  void addFooter(QWidget* footer);
+  void showMoons(const QString& nextFullMoon, const QString& nextNewMoon);
 
  private:
-  MonospacedTextView* first_;
-  MonospacedTextView* second_;
-  QVBoxLayout* column_;
+  QLabel* nextFullMoon_;
+  QLabel* nextNewMoon_;
+};
+
+/// The conjunctions through the day or through the year.
+class PositionsView final : public TablePair {
+ public:
+  PositionsView();
 };
 
 }  // namespace veyruna::ui

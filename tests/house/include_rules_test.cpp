@@ -16,7 +16,7 @@ TEST(IncludeRules, AnIncludeThatPointsUpIsFound) {
             Lines{"#include \"reports/zodiac.h\""});
   EXPECT_EQ(forbiddenIncludes("charts", "  #  include \"cli/quoting.h\"\n"),
             Lines{"  #  include \"cli/quoting.h\""});
-  EXPECT_EQ(forbiddenIncludes("model", "#include \"ui/main_window.h\"\n").size(), 1U);
+  EXPECT_EQ(forbiddenIncludes("model", "#include \"ui/main_view.h\"\n").size(), 1U);
 }
 
 TEST(IncludeRules, AnIncludeThatPointsDownIsFine) {

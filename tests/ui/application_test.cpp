@@ -22,16 +22,16 @@ struct Application : testing::Test, tests::FakeWorld {
     QApplication::closeAllWindows();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   }
-  static QList<MainWindow*> windows() {
-    QList<MainWindow*> open;
+  static QList<MainView*> windows() {
+    QList<MainView*> open;
     for (QWidget* const widget : QApplication::topLevelWidgets()) {
-      if (auto* const window = qobject_cast<MainWindow*>(widget); window && window->isVisible()) {
+      if (auto* const window = qobject_cast<MainView*>(widget); window && window->isVisible()) {
         open.append(window);
       }
     }
     return open;
   }
-  static void trigger(const MainWindow& window, const char* title) {
+  static void trigger(const MainView& window, const char* title) {
     for (const QAction* const menu : window.menuBar()->actions()) {
       for (QAction* const action : menu->menu()->actions()) {
         if (action->text().remove(QLatin1Char('&')) == QLatin1String(title)) {
@@ -51,7 +51,7 @@ struct Application : testing::Test, tests::FakeWorld {
 };
 
 TEST_F(Application, EachWindowCalculatesWhenItOpensAndNotWhenItComesBack) {
-  MainWindow* const window = program.openWindow();
+  MainView* const window = program.openWindow();
   EXPECT_EQ(tasks.count(), 1);
   finishCalculations();
   window->showMinimized();
@@ -65,17 +65,17 @@ TEST_F(Application, EachWindowCalculatesWhenItOpensAndNotWhenItComesBack) {
 }
 
 TEST_F(Application, AnotherWindowStandsBesideTheFirstOnTheSameModel) {
-  MainWindow* const first = program.openWindow();
+  MainView* const first = program.openWindow();
   finishCalculations();
   first->activateWindow();
   ASSERT_TRUE(QTest::qWaitForWindowActive(first));
   trigger(*first, "New Window");
-  QList<MainWindow*> both = windows();
+  QList<MainView*> both = windows();
   both.removeOne(first);
   ASSERT_EQ(both.size(), 1);
   EXPECT_NE(both[0]->pos(), first->pos());
   program.model().setYear(901);
-  for (const MainWindow* const window : windows()) {
+  for (const MainView* const window : windows()) {
     EXPECT_EQ(window->findChild<QAbstractSpinBox*>(QStringLiteral("yearStepper"))->text(),
               QStringLiteral("Year 901"));
   }
@@ -85,20 +85,20 @@ TEST_F(Application, AnotherWindowStandsBesideTheFirstOnTheSameModel) {
 }
 
 TEST_F(Application, CloseClosesOneWindowAndQuitAllOfThem) {
-  MainWindow* const first = program.openWindow();
-  MainWindow* const second = program.openWindow();
+  MainView* const first = program.openWindow();
+  MainView* const second = program.openWindow();
   program.openAbout();
   trigger(*first, "Close");
-  EXPECT_EQ(windows(), QList<MainWindow*>({second}));
+  EXPECT_EQ(windows(), QList<MainView*>({second}));
   trigger(*second, "Quit");
-  EXPECT_EQ(windows(), QList<MainWindow*>());
+  EXPECT_EQ(windows(), QList<MainView*>());
   for (const QWidget* const widget : QApplication::topLevelWidgets()) {
     EXPECT_FALSE(widget->isVisible()) << widget->metaObject()->className();
   }
 }
 
 TEST_F(Application, AWindowComesBackWhereTheLastOneStood) {
-  MainWindow* const window = program.openWindow();
+  MainView* const window = program.openWindow();
   window->setGeometry(40, 50, window->minimumSizeHint().width() + 31, 610);
   tests::turnEventLoop();
   const QSize size = window->size();
@@ -110,21 +110,21 @@ TEST_F(Application, AWindowComesBackWhereTheLastOneStood) {
 
 TEST_F(Application, AWindowNeverOpensOffTheScreen) {
   {
-    MainWindow far(program.model(), tests::recordingEngine(), program.state());
+    MainView far(program.model(), tests::recordingEngine(), program.state());
     far.setAttribute(Qt::WA_DeleteOnClose, false);
     far.show();
     far.setGeometry(9000, 9000, 800, 600);
     tests::turnEventLoop();
     far.close();
   }
-  const MainWindow* const window = program.openWindow();
+  const MainView* const window = program.openWindow();
   const QRect room = window->screen()->availableGeometry();
   EXPECT_TRUE(room.contains(window->geometry().topLeft()))
       << window->geometry().x() << ", " << window->geometry().y();
 }
 
 TEST_F(Application, AWindowIsNoLargerThanTheScreen) {
-  const MainWindow* const window = program.openWindow();
+  const MainView* const window = program.openWindow();
   const QRect room = window->screen()->availableGeometry();
   EXPECT_LE(window->height(), room.height());
   EXPECT_LE(window->width(), std::max(room.width(), window->minimumSizeHint().width()));
@@ -161,13 +161,13 @@ TEST_F(Application, AStateThatIsNonsenseIsAFirstStart) {
   file.write("[General]\ngeometry=AAAA////nonsense\nexportFolder=/nowhere/at/all\n");
   file.close();
   VeyrunaAstroApp again(surroundings(), tests::recordingEngine(), statePath);
-  const MainWindow* const window = again.openWindow();
+  const MainView* const window = again.openWindow();
   EXPECT_GE(window->width(), window->minimumSizeHint().width());
   EXPECT_NE(again.state().exportFolder(), QStringLiteral("/nowhere/at/all"));
 }
 
 TEST_F(Application, AboutOpensOnceAndComesForward) {
-  MainWindow* const window = program.openWindow();
+  MainView* const window = program.openWindow();
   trigger(*window, "About Veyruna Astro");
   const AboutView* const about = program.openAbout();
   trigger(*window, "About Veyruna Astro");

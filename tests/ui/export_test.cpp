@@ -192,7 +192,7 @@ TEST_F(Exports, SeveralAtOnceAllFinish) {
 
 TEST_F(Exports, APdfIsWrittenAlsoWhenItsWindowHasGone) {
   {
-    MainWindow passing(model, tests::recordingEngine(drawn), state);
+    MainView passing(model, tests::recordingEngine(drawn), state);
     passing.setAttribute(Qt::WA_DeleteOnClose, false);
     passing.show();
     QTest::mouseClick(passing.findChild<QAbstractButton*>(QStringLiteral("pdfButton")),
@@ -269,7 +269,7 @@ TEST_F(Exports, TheNoticeGoesAfterAFewSeconds) {
 
 TEST_F(Exports, BeforeTheFirstCalculationTheDocumentsAreEmpty) {
   tests::FakeModel fresh;
-  MainWindow empty(fresh.model, tests::recordingEngine(), state);
+  MainView empty(fresh.model, tests::recordingEngine(), state);
   empty.setAttribute(Qt::WA_DeleteOnClose, false);
   empty.show();
   empty.selectTab(OutputTab::planets);

@@ -9,7 +9,7 @@
 
 #include "tests/model/fakes.h"
 #include "tests/ui/recording_engine.h"
-#include "ui/main_window.h"
+#include "ui/main_view.h"
 #include "ui/window_state.h"
 
 namespace veyruna::tests {
@@ -19,7 +19,7 @@ struct ShownWindow : FakeModel {
   QTemporaryDir folder;
   std::shared_ptr<Drawn> drawn = std::make_shared<Drawn>();
   ui::WindowState state{folder.filePath(QStringLiteral("window.ini"))};
-  ui::MainWindow window{model, recordingEngine(drawn), state};
+  ui::MainView window{model, recordingEngine(drawn), state};
 
   ShownWindow() {
     window.setAttribute(Qt::WA_DeleteOnClose, false);

@@ -7,7 +7,7 @@
 
 #include "tests/model/fakes.h"
 #include "tests/ui/recording_engine.h"
-#include "ui/main_window.h"
+#include "ui/main_view.h"
 #include "ui/window_state.h"
 
 namespace veyruna::ui {
@@ -19,7 +19,7 @@ using exports::OutputTab;
 struct Window : testing::Test, tests::FakeModel {
   QTemporaryDir folder;
   WindowState state{folder.filePath(QStringLiteral("window.ini"))};
-  MainWindow window{model, tests::recordingEngine(), state};
+  MainView window{model, tests::recordingEngine(), state};
 
   [[nodiscard]] QString nativeExportText() const {
     return window.findChild<QAbstractButton*>(QStringLiteral("nativeExportButton"))

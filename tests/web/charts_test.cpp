@@ -14,7 +14,7 @@
 #include "export/pdf_exporter.h"
 #include "tests/model/fakes.h"
 #include "ui/application.h"
-#include "ui/main_window.h"
+#include "ui/main_view.h"
 #include "ui/program.h"
 #include "ui/svg_view.h"
 #include "ui/web_page_engine.h"
@@ -103,7 +103,7 @@ TEST(WindowWithCharts, DrawsBothChartsOfACalculation) {
   const QTemporaryDir folder;
   VeyrunaAstroApp program(world.surroundings(), webPageEngine(),
                           folder.filePath(QStringLiteral("window.ini")));
-  MainWindow* const window = program.openWindow();
+  MainView* const window = program.openWindow();
   world.tasks.runNext();
   tests::turnEventLoop();
   const auto colorsIn = [window](const char* name) {
@@ -128,7 +128,7 @@ TEST(WindowWithCharts, ThatIsQuitWhileAPdfIsMadeLosesNoFile) {
   const QString path = folder.filePath(QStringLiteral("table.pdf"));
   VeyrunaAstroApp program(world.surroundings(), webPageEngine(),
                           folder.filePath(QStringLiteral("window.ini")));
-  MainWindow* const window = program.openWindow();
+  MainView* const window = program.openWindow();
   world.tasks.runNext();
   tests::turnEventLoop();
   window->selectTab(exports::OutputTab::positions);

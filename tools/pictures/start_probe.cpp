@@ -14,7 +14,7 @@
 #include <memory>
 
 #include "ui/application.h"
-#include "ui/main_window.h"
+#include "ui/main_view.h"
 #ifndef VEYRUNA_WITHOUT_ENGINE
 #include <QWebEngineView>
 
@@ -94,7 +94,7 @@ int main(int argc, char** argv) {
       QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
           QStringLiteral("/window.ini"));
   FirstPaint paint;
-  veyruna::ui::MainWindow* const window = program.openWindow();
+  veyruna::ui::MainView* const window = program.openWindow();
 #ifdef VEYRUNA_WITHOUT_ENGINE
   window->selectTab(veyruna::exports::OutputTab::planets);
 #endif

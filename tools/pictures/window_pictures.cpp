@@ -16,7 +16,7 @@
 #include "export/sealed_page.h"
 #include "ui/about_view.h"
 #include "ui/application.h"
-#include "ui/main_window.h"
+#include "ui/main_view.h"
 #include "ui/web_page_engine.h"
 
 namespace {
@@ -83,7 +83,7 @@ int main(int argc, char** argv) {
   model.setDayIndex(11);
   model.setHour(22.5);
   model.setUseLocalTime(true);
-  veyruna::ui::MainWindow* const window = program.openWindow();
+  veyruna::ui::MainView* const window = program.openWindow();
   window->setGeometry(QRect(QPoint(), size));
   constexpr int untilDrawn = 1500;  // the first chart starts the engine
   wait(2 * untilDrawn);

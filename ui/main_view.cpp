@@ -1,4 +1,4 @@
-#include "ui/main_window.h"
+#include "ui/main_view.h"
 
 #include <QAction>
 #include <QCloseEvent>
@@ -11,7 +11,7 @@
 #include "ui/detailed_view.h"
 #include "ui/export_commands.h"
 #include "ui/export_notice.h"
-#include "ui/help_menu.h"
+#include "ui/help_menu_view.h"
 #include "ui/sidebar_view.h"
 #include "ui/tab_selector.h"
 #include "ui/window_state.h"
@@ -27,8 +27,8 @@ constexpr QSize firstSize(1180, 780);
 
 }  // namespace
 
-MainWindow::MainWindow(model::AstronomyModel& model, const PageEngine& engine, WindowState& state,
-                       QWidget* parent)
+MainView::MainView(model::AstronomyModel& model, const PageEngine& engine, WindowState& state,
+                   QWidget* parent)
     : QMainWindow(parent),
       state_(state),
       tabs_(new TabSelector(this)),
@@ -50,7 +50,7 @@ MainWindow::MainWindow(model::AstronomyModel& model, const PageEngine& engine, W
   exports_ = new ExportCommands(model, engine, state, *notice, *this);
   makeMenus();
 
-  connect(tabs_, &TabSelector::chosen, this, &MainWindow::selectTab);
+  connect(tabs_, &TabSelector::chosen, this, &MainView::selectTab);
   connect(sidebar_, &SidebarView::mapRequested, this, [this] { selectTab(OutputTab::location); });
   connect(sidebar_, &SidebarView::nativeExportRequested, this,
           [this] { exports_->exportNative(selectedTab_); });
@@ -62,7 +62,7 @@ MainWindow::MainWindow(model::AstronomyModel& model, const PageEngine& engine, W
   keepOnScreen();
 }
 
-void MainWindow::keepOnScreen() {
+void MainView::keepOnScreen() {
   constexpr int titleBar = 40;  // room for what the window manager puts around
   const QRect room = screen()->availableGeometry().adjusted(0, titleBar, 0, 0);
   if (!isMaximized() && !isFullScreen() && !room.contains(geometry())) {
@@ -73,7 +73,7 @@ void MainWindow::keepOnScreen() {
   }
 }
 
-void MainWindow::selectTab(OutputTab tab) {
+void MainView::selectTab(OutputTab tab) {
   sidebar_->commit();
   selectedTab_ = tab;
   tabs_->setTab(tab);
@@ -81,7 +81,7 @@ void MainWindow::selectTab(OutputTab tab) {
   output_->setTab(tab);
 }
 
-void MainWindow::makeMenus() {
+void MainView::makeMenus() {
   const auto add = [this](QMenu* menu, const QString& title, const char* keys, auto signal) {
     QAction* const action = menu->addAction(title, this, [this, signal] {
       sidebar_->commit();
@@ -90,15 +90,15 @@ void MainWindow::makeMenus() {
     action->setShortcut(QKeySequence(QString::fromLatin1(keys)));
   };
   QMenu* const program = menuBar()->addMenu(tr("&Veyruna Astro"));
-  add(program, tr("&About Veyruna Astro"), "", &MainWindow::aboutRequested);
-  add(program, tr("&Quit"), "Ctrl+Q", &MainWindow::quitRequested);
+  add(program, tr("&About Veyruna Astro"), "", &MainView::aboutRequested);
+  add(program, tr("&Quit"), "Ctrl+Q", &MainView::quitRequested);
   QMenu* const file = menuBar()->addMenu(tr("&File"));
-  add(file, tr("&New Window"), "Ctrl+N", &MainWindow::newWindowRequested);
+  add(file, tr("&New Window"), "Ctrl+N", &MainView::newWindowRequested);
   add(file, tr("&Close"), "Ctrl+W", &QWidget::close);
-  addHelpMenu(*menuBar());
+  menuBar()->addMenu(new HelpMenuView(this));
 }
 
-void MainWindow::closeEvent(QCloseEvent* event) {
+void MainView::closeEvent(QCloseEvent* event) {
   sidebar_->commit();
   state_.setGeometry(saveGeometry());
   QMainWindow::closeEvent(event);

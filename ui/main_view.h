@@ -15,12 +15,12 @@ class TabSelector;
 class WindowState;
 
 /// A window on the shared model: inputs on the left, outputs on the right, the tabs in the toolbar.
-class MainWindow final : public QMainWindow {
+class MainView final : public QMainWindow {
   Q_OBJECT
 
  public:
-  MainWindow(model::AstronomyModel& model, const PageEngine& engine, WindowState& state,
-             QWidget* parent = nullptr);
+  MainView(model::AstronomyModel& model, const PageEngine& engine, WindowState& state,
+           QWidget* parent = nullptr);
 
   [[nodiscard]] exports::OutputTab selectedTab() const { return selectedTab_; }
 
