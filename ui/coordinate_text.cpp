@@ -10,20 +10,21 @@ namespace veyruna::ui {
 
 namespace {
 
-QString degreesText(double radians, const char* positive, const char* negative) {
+QString degreesText(double radians, int decimals, const char* positive, const char* negative) {
   const double degrees = std::abs(radians) * 180.0 / astro::pi;
   if (!std::isfinite(degrees)) {
     return QStringLiteral("–");
   }
   std::string text;
-  astro::appendFixed(text, degrees, 2);
+  astro::appendFixed(text, degrees, decimals);
   return QString::fromStdString(text + "° " + (radians >= 0.0 ? positive : negative));
 }
 
 }  // namespace
 
-QString coordinateText(double latitude, double longitude) {
-  return degreesText(latitude, "N", "S") + QStringLiteral("   ") + degreesText(longitude, "E", "W");
+QString coordinateText(double latitude, double longitude, int decimals) {
+  return degreesText(latitude, decimals, "N", "S") + QStringLiteral("   ") +
+         degreesText(longitude, decimals, "E", "W");
 }
 
 }  // namespace veyruna::ui

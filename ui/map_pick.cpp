@@ -1,9 +1,8 @@
 #include "ui/map_pick.h"
 
 #include <cmath>
-#include <string>
 
-#include "astro/number_text.h"
+#include "ui/coordinate_text.h"
 
 namespace veyruna::ui {
 
@@ -17,20 +16,10 @@ double roundedToThousandths(double degrees) {
   return std::round(std::abs(degrees) * 1000.0) / 1000.0;
 }
 
-void appendAngle(std::string& text, double radians, const char* positive, const char* negative) {
-  astro::appendFixed(text, std::abs(degreesOf(radians)), 3);
-  text += "° ";
-  text += radians >= 0.0 ? positive : negative;
-}
-
 }  // namespace
 
 QString coordinatesText(const MapPlace& place) {
-  std::string text;
-  appendAngle(text, place.latitude, "N", "S");
-  text += "   ";
-  appendAngle(text, place.longitude, "E", "W");
-  return QString::fromStdString(text);
+  return coordinateText(place.latitude, place.longitude, 3);
 }
 
 void pick(const MapPlace& place, model::AstronomyModel& model) {
