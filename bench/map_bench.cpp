@@ -12,7 +12,7 @@
 #include <utility>
 
 #include "model/city_preset.h"
-#include "ui/map_area.h"
+#include "ui/map/map_area.h"
 
 namespace veyruna {
 namespace {

@@ -47,7 +47,7 @@ Place placeOf(const Typed& typed) {
   return {readLatitude(typed.latitude), readLongitude(typed.longitude)};
 }
 
-Observer observerOf(const Typed& typed) {
+astro::Observer observerOf(const Typed& typed) {
   const auto [latitude, longitude] = placeOf(typed);
   constexpr double limit = astro::baseTimeLimitDays;
   if (!typed.baseTime.empty()) {
@@ -79,7 +79,7 @@ void writeText(const Typed& typed, const std::string& text) {
 }
 
 /// A table of the person's own length and step, written as it is computed.
-void writeTable(const Typed& typed, const Observer& observer) {
+void writeTable(const Typed& typed, const astro::Observer& observer) {
   if (typed.rows.empty() || typed.step.empty()) {
     throw UsageError("a table needs --rows N and --step DAYS, such as --rows 24 --step 1/24");
   }
@@ -103,7 +103,7 @@ void writeTable(const Typed& typed, const Observer& observer) {
   writer.finish();
 }
 
-void writeAll(const Typed& typed, const Observer& observer) {
+void writeAll(const Typed& typed, const astro::Observer& observer) {
   if (typed.folder.empty() || !goesToStandardOutput(typed)) {
     throw UsageError("all needs --out DIR, and takes no -o");
   }
@@ -136,7 +136,7 @@ void run(const Grammar& grammar, const Typed& typed) {
     writeText(typed, savedPlacesText());
     return;
   }
-  const Observer observer = observerOf(typed);
+  const astro::Observer observer = observerOf(typed);
   if (typed.command == "all") {
     writeAll(typed, observer);
   } else if (typed.command == "ephemeris" || typed.command == "conjunctions") {

@@ -13,41 +13,41 @@ namespace veyruna::cli {
 
 namespace {
 
-std::string starMapText(const Observer& observer) {
+std::string starMapText(const astro::Observer& observer) {
   return charts::starMap(observer.baseTime, observer.latitude, observer.longitude,
                          charts::builtInCatalogue());
 }
 
-std::string colorHoroscopeText(const Observer& observer) {
+std::string colorHoroscopeText(const astro::Observer& observer) {
   return horoscopeText(observer, false);
 }
 
-std::string paperHoroscopeText(const Observer& observer) {
+std::string paperHoroscopeText(const astro::Observer& observer) {
   return horoscopeText(observer, true);
 }
 
-std::string hourlyText(const Observer& observer) {
+std::string hourlyText(const astro::Observer& observer) {
   return reports::ephemerisTable(24, observer.baseTime, 1.0 / 24.0, observer.latitude);
 }
 
-std::string monthlyText(const Observer& observer) {
+std::string monthlyText(const astro::Observer& observer) {
   return reports::ephemerisTable(30, observer.baseTime, 1.0, observer.latitude);
 }
 
-std::string dailyText(const Observer& observer) {
+std::string dailyText(const astro::Observer& observer) {
   return reports::conjunctionTable(144, observer.baseTime, 1.0 / 144.0);
 }
 
-std::string yearlyText(const Observer& observer) {
+std::string yearlyText(const astro::Observer& observer) {
   return reports::conjunctionTable(360, observer.baseTime, 1.0);
 }
 
-std::string positionsText(const Observer& observer) {
+std::string positionsText(const astro::Observer& observer) {
   return reports::positionsTableText(
       reports::positionRows(observer.baseTime, observer.latitude, observer.longitude));
 }
 
-std::string momentText(const Observer& observer) {
+std::string momentText(const astro::Observer& observer) {
   const auto moonLabel = [&observer](double target) {
     return astro::calendarLabelWithLocalClock(astro::nextPhase(observer.baseTime, target),
                                               observer.longitude);
@@ -59,7 +59,7 @@ std::string momentText(const Observer& observer) {
 
 }  // namespace
 
-std::string horoscopeText(const Observer& observer, bool blackAndWhite) {
+std::string horoscopeText(const astro::Observer& observer, bool blackAndWhite) {
   return charts::horoscope(blackAndWhite, observer.baseTime, observer.latitude, observer.longitude,
                            charts::builtInCatalogue());
 }

@@ -4,27 +4,22 @@
 #include <string>
 #include <string_view>
 
-namespace veyruna::cli {
+#include "astro/observer.h"
 
-/// Whose sky is asked for. Base time in days, place in radians, north and east positive.
-struct Observer {
-  double baseTime;
-  double latitude;
-  double longitude;
-};
+namespace veyruna::cli {
 
 /// One document of a moment and place.
 struct Document {
   std::string_view command;   ///< its word on the command line; empty for one that has none
   std::string_view fileName;  ///< its name in a folder of all documents
   std::string_view summary;
-  std::string (*text)(const Observer& observer);
+  std::string (*text)(const astro::Observer& observer);
 };
 
 /// Every document, in the order in which they are written.
 extern const std::array<Document, 9> allDocuments;
 
 /// The horoscope in black and white where `blackAndWhite` is set.
-std::string horoscopeText(const Observer& observer, bool blackAndWhite);
+std::string horoscopeText(const astro::Observer& observer, bool blackAndWhite);
 
 }  // namespace veyruna::cli

@@ -9,8 +9,8 @@ namespace veyruna::tests {
 namespace {
 
 struct Room {
-  std::set<std::string> mayUse;  ///< rooms below, besides itself
-  bool standardLibraryOnly;      ///< uses no other library
+  std::set<std::string, std::less<>> mayUse;  ///< rooms below, besides itself
+  bool standardLibraryOnly;                   ///< uses no other library
 };
 
 const std::map<std::string, Room, std::less<>>& rooms() {
@@ -20,8 +20,13 @@ const std::map<std::string, Room, std::less<>>& rooms() {
       {"charts", {{"astro", "reports"}, true}},
       {"model", {{"astro", "reports", "charts"}, false}},
       {"export", {{"astro", "reports", "charts", "model"}, false}},
-      {"ui", {{"astro", "reports", "charts", "model", "export"}, false}},
       {"cli", {{"astro", "reports", "charts", "model"}, false}},
+      {"ui/controls", {{"astro"}, false}},
+      {"ui/map", {{"astro", "model", "ui/controls"}, false}},
+      {"ui/outputs", {{"astro", "reports", "model", "export", "ui/controls", "ui/map"}, false}},
+      {"ui/sidebar", {{"astro", "model", "export", "ui/controls"}, false}},
+      {"ui/window",
+       {{"astro", "model", "export", "ui/controls", "ui/map", "ui/outputs", "ui/sidebar"}, false}},
   };
   return all;
 }
@@ -37,7 +42,7 @@ bool isAllowed(const std::string& roomName, const Room& room, const std::string&
   if (!isQuoted) {
     return !room.standardLibraryOnly || isStandardHeader(header);
   }
-  const std::string folder = header.substr(0, header.find('/'));
+  const std::string folder = header.substr(0, header.rfind('/'));
   return folder == roomName || room.mayUse.contains(folder);
 }
 

@@ -1,5 +1,6 @@
 #include "tests/house/include_rules.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <gtest/gtest.h>
 
@@ -11,12 +12,42 @@ namespace {
 namespace fs = std::filesystem;
 using Lines = std::vector<std::string>;
 
+/// Whether a folder at the top of the tree is a room or the house of several.
+bool isRoomOrHoldsRooms(const std::string& folder) {
+  const std::vector<std::string> names = roomNames();
+  return std::any_of(names.begin(), names.end(), [&folder](const std::string& name) {
+    return name == folder || name.starts_with(folder + "/");
+  });
+}
+
 TEST(IncludeRules, AnIncludeThatPointsUpIsFound) {
   EXPECT_EQ(forbiddenIncludes("astro", "#pragma once\n#include \"reports/zodiac.h\"\n"),
             Lines{"#include \"reports/zodiac.h\""});
   EXPECT_EQ(forbiddenIncludes("charts", "  #  include \"cli/quoting.h\"\n"),
             Lines{"  #  include \"cli/quoting.h\""});
-  EXPECT_EQ(forbiddenIncludes("model", "#include \"ui/main_view.h\"\n").size(), 1U);
+  EXPECT_EQ(forbiddenIncludes("model", "#include \"ui/window/main_view.h\"\n").size(), 1U);
+}
+
+TEST(IncludeRules, TheFoldersOfTheWindowKnowOnlyWhatIsBelow) {
+  EXPECT_EQ(forbiddenIncludes("ui/map", "#include \"ui/sidebar/sidebar_view.h\"\n").size(), 1U);
+  EXPECT_EQ(forbiddenIncludes("ui/controls", "#include \"model/executor.h\"\n").size(), 1U);
+  EXPECT_TRUE(forbiddenIncludes("ui/window", "#include \"ui/sidebar/sidebar_view.h\"\n").empty());
+}
+
+TEST(IncludeRules, EverySourceStandsInARoom) {
+  for (const auto& top : fs::directory_iterator(VEYRUNA_SOURCE_DIR)) {
+    const bool holdsRooms = isRoomOrHoldsRooms(top.path().filename().string());
+    if (!top.is_directory() || !holdsRooms) {
+      continue;
+    }
+    for (const auto& entry : fs::recursive_directory_iterator(top.path())) {
+      if (entry.path().extension() == ".h" || entry.path().extension() == ".cpp") {
+        const fs::path folder =
+            fs::relative(entry.path().parent_path(), fs::path(VEYRUNA_SOURCE_DIR));
+        EXPECT_EQ(forbiddenIncludes(folder.string(), ""), Lines{}) << entry.path();
+      }
+    }
+  }
 }
 
 TEST(IncludeRules, AnIncludeThatPointsDownIsFine) {

@@ -4,7 +4,7 @@
 #include <QStringList>
 #include <memory>
 
-#include "ui/page_engine.h"
+#include "ui/outputs/page_engine.h"
 
 namespace veyruna::tests {
 

@@ -9,8 +9,8 @@
 
 #include "tests/model/fakes.h"
 #include "tests/ui/recording_engine.h"
-#include "ui/main_view.h"
-#include "ui/window_state.h"
+#include "ui/window/main_view.h"
+#include "ui/window/window_state.h"
 
 namespace veyruna::tests {
 

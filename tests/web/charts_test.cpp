@@ -13,11 +13,11 @@
 
 #include "export/pdf_exporter.h"
 #include "tests/model/fakes.h"
-#include "ui/application.h"
-#include "ui/main_view.h"
-#include "ui/program.h"
-#include "ui/svg_view.h"
-#include "ui/web_page_engine.h"
+#include "ui/controls/program.h"
+#include "ui/outputs/svg_view.h"
+#include "ui/outputs/web_page_engine.h"
+#include "ui/window/application.h"
+#include "ui/window/main_view.h"
 
 namespace veyruna::ui {
 namespace {

@@ -13,13 +13,13 @@
 #include <cstdio>
 #include <memory>
 
-#include "ui/application.h"
-#include "ui/main_view.h"
+#include "ui/window/application.h"
+#include "ui/window/main_view.h"
 #ifndef VEYRUNA_WITHOUT_ENGINE
 #include <QWebEngineView>
 
 #include "export/sealed_page.h"
-#include "ui/web_page_engine.h"
+#include "ui/outputs/web_page_engine.h"
 #endif
 
 namespace {

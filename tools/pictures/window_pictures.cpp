@@ -14,10 +14,10 @@
 #include <cstdio>
 
 #include "export/sealed_page.h"
-#include "ui/about_view.h"
-#include "ui/application.h"
-#include "ui/main_view.h"
-#include "ui/web_page_engine.h"
+#include "ui/outputs/web_page_engine.h"
+#include "ui/window/about_view.h"
+#include "ui/window/application.h"
+#include "ui/window/main_view.h"
 
 namespace {
 

@@ -5,7 +5,7 @@
 #include <rapidcheck/gtest.h>
 
 #include "tests/ui/map/map_places.h"
-#include "ui/map_layout.h"
+#include "ui/map/map_layout.h"
 
 namespace veyruna::ui {
 namespace {

@@ -4,7 +4,7 @@
 #include <cmath>
 #include <rapidcheck.h>
 
-#include "ui/map_projection.h"
+#include "ui/map/map_projection.h"
 
 namespace veyruna::tests {
 

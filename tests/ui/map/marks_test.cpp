@@ -1,6 +1,6 @@
 // The saved places and the selected one on the map.
 #include "tests/ui/map/shown_picker.h"
-#include "ui/map_marks.h"
+#include "ui/map/map_marks.h"
 
 namespace veyruna::tests {
 namespace {

@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/model/fakes.h"
-#include "ui/map_pick.h"
+#include "ui/map/map_pick.h"
 
 namespace veyruna::ui {
 namespace {

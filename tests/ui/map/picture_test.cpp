@@ -3,8 +3,8 @@
 #include <cmath>
 #include <gtest/gtest.h>
 
-#include "ui/map_picture.h"
-#include "ui/map_resample.h"
+#include "ui/map/map_picture.h"
+#include "ui/map/map_resample.h"
 
 namespace veyruna::ui {
 namespace {

@@ -4,7 +4,7 @@
 #include <rapidcheck/gtest.h>
 
 #include "tests/ui/map/map_places.h"
-#include "ui/map_projection.h"
+#include "ui/map/map_projection.h"
 
 namespace veyruna::ui {
 namespace {

@@ -13,8 +13,8 @@
 #include <gtest/gtest.h>
 
 #include "tests/model/fakes.h"
-#include "ui/map_area.h"
-#include "ui/map_location_picker_view.h"
+#include "ui/map/map_area.h"
+#include "ui/map/map_location_picker_view.h"
 
 namespace veyruna::tests {
 

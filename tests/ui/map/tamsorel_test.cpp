@@ -9,8 +9,8 @@
 #include <string>
 
 #include "model/city_preset.h"
-#include "ui/map_picture.h"
-#include "ui/map_projection.h"
+#include "ui/map/map_picture.h"
+#include "ui/map/map_projection.h"
 
 namespace veyruna::ui {
 namespace {

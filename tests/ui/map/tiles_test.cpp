@@ -2,7 +2,7 @@
 #include <QColor>
 
 #include "tests/ui/map/shown_picker.h"
-#include "ui/map_tiles.h"
+#include "ui/map/map_tiles.h"
 
 namespace veyruna::tests {
 namespace {

@@ -8,7 +8,7 @@
 #include <utility>
 #include <vector>
 
-#include "ui/map_tiles.h"
+#include "ui/map/map_tiles.h"
 
 namespace veyruna::ui {
 namespace {

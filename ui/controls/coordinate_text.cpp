@@ -1,0 +1,30 @@
+#include "ui/controls/coordinate_text.h"
+
+#include <cmath>
+#include <string>
+
+#include "astro/angle.h"
+#include "astro/number_text.h"
+
+namespace veyruna::ui {
+
+namespace {
+
+QString degreesText(double radians, int decimals, const char* positive, const char* negative) {
+  const double degrees = std::abs(radians) * 180.0 / astro::pi;
+  if (!std::isfinite(degrees)) {
+    return QStringLiteral("–");
+  }
+  std::string text;
+  astro::appendFixed(text, degrees, decimals);
+  return QString::fromStdString(text + "° " + (radians >= 0.0 ? positive : negative));
+}
+
+}  // namespace
+
+QString coordinateText(double latitude, double longitude, int decimals) {
+  return degreesText(latitude, decimals, "N", "S") + QStringLiteral("   ") +
+         degreesText(longitude, decimals, "E", "W");
+}
+
+}  // namespace veyruna::ui

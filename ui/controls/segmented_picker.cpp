@@ -1,0 +1,40 @@
+#include "ui/controls/segmented_picker.h"
+
+#include <QButtonGroup>
+#include <QHBoxLayout>
+
+#include "ui/controls/highlighted_buttons.h"
+
+namespace veyruna::ui {
+
+SegmentedPicker::SegmentedPicker(const char* name, const QStringList& titles,
+                                 const QStringList& spoken, QWidget* parent)
+    : QWidget(parent), segments_(new QButtonGroup(this)) {
+  setObjectName(QString::fromLatin1(name));
+  auto* const row = new QHBoxLayout(this);
+  row->setContentsMargins({});
+  row->setSpacing(0);
+  for (int segment = 0; segment < titles.size(); ++segment) {
+    const QString& title = titles[segment];
+    auto* const button = new SegmentButton(title);
+    button->setObjectName(objectName() + title);
+    button->setAccessibleName(spoken[segment]);
+    button->setCheckable(true);
+    button->setAutoDefault(false);
+    button->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    segments_->addButton(button, segment);
+    row->addWidget(button);
+  }
+  segments_->button(0)->setChecked(true);
+  connect(segments_, &QButtonGroup::idClicked, this, &SegmentedPicker::picked);
+}
+
+void SegmentedPicker::setChosen(int segment) {
+  segments_->button(segment)->setChecked(true);
+}
+
+int SegmentedPicker::chosen() const {
+  return segments_->checkedId();
+}
+
+}  // namespace veyruna::ui

@@ -1,0 +1,126 @@
+#include "ui/map/map_marks.h"
+
+#include <QPainter>
+#include <algorithm>
+#include <cmath>
+
+namespace veyruna::ui {
+
+namespace {
+
+constexpr double dotRadius = 3.0;   ///< points
+constexpr double ringRadius = 8.0;  ///< points
+constexpr double nameReach = 8.0;   ///< points from a mark at which its name shows
+constexpr QRgb ink = 0xff8b1a1a;    // a red that is seen on sea, land and parchment
+constexpr QRgb outline = 0xfffff8e8;
+
+/// An empty stamp for everything within `radius` points of its centre, which is the centre of its
+/// middle pixel.
+QImage stampOf(double radius, double pixelsPerPoint) {
+  const int pixels = 2 * static_cast<int>(std::ceil(radius * pixelsPerPoint)) + 1;
+  QImage stamp(pixels, pixels, QImage::Format_ARGB32_Premultiplied);
+  stamp.fill(Qt::transparent);
+  return stamp;
+}
+
+QImage drawnDot(double pixelsPerPoint) {
+  QImage stamp = stampOf(dotRadius + 1.0, pixelsPerPoint);
+  QPainter painter(&stamp);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.translate(stamp.width() * 0.5, stamp.height() * 0.5);
+  painter.scale(pixelsPerPoint, pixelsPerPoint);
+  painter.setPen(QPen(QColor(outline), 1.5));
+  painter.setBrush(QColor(ink));
+  painter.drawEllipse(QPointF(), dotRadius, dotRadius);
+  return stamp;
+}
+
+QImage drawnRing(double pixelsPerPoint) {
+  QImage stamp = stampOf(ringRadius + 3.0, pixelsPerPoint);
+  QPainter painter(&stamp);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.translate(stamp.width() * 0.5, stamp.height() * 0.5);
+  painter.scale(pixelsPerPoint, pixelsPerPoint);
+  painter.setPen(QPen(QColor(outline), 4.5));
+  painter.drawEllipse(QPointF(), ringRadius, ringRadius);
+  painter.setPen(QPen(QColor(ink), 2.5));
+  painter.drawEllipse(QPointF(), ringRadius, ringRadius);
+  return stamp;
+}
+
+/// False also where a coordinate is no number, as in a map enlarged beyond all bounds.
+bool isInside(QPointF point, const QRectF& rect) {
+  return point.x() >= rect.left() && point.x() <= rect.right() && point.y() >= rect.top() &&
+         point.y() <= rect.bottom();
+}
+
+/// The stamp's corner where its middle pixel is the one the centre lies in.
+QPoint cornerFor(const QImage& stamp, QPointF centre) {
+  return QPoint(static_cast<int>(std::floor(centre.x())),
+                static_cast<int>(std::floor(centre.y()))) -
+         QPoint(stamp.width() / 2, stamp.height() / 2);
+}
+
+}  // namespace
+
+std::vector<MapMark> marksOf(const model::AstronomyModel& model) {
+  std::vector<MapMark> marks;
+  for (const model::CityPreset& city : model.cities()) {
+    const bool isSelected = city.id == model.selectedCityID();
+    if (city.id != model::manualCityID()) {
+      marks.push_back({{city.latitude, city.longitude}, city.name, isSelected});
+    } else if (isSelected) {
+      marks.push_back({{model.effectiveLatitude(), model.effectiveLongitude()}, {}, true});
+    }
+  }
+  return marks;
+}
+
+void MarkStamps::draw(QPainter& painter, const std::vector<MapMark>& marks, const Layout& layout,
+                      const QTransform& toDevice, const QRect& view) {
+  prepare(toDevice.m11());
+  const int reach = ring_.width();
+  const QRectF near = view.adjusted(-reach, -reach, reach, reach);
+  for (const MapMark& mark : marks) {
+    const std::optional<QPointF> point = pointOf(mark.place, layout);
+    if (!point) {
+      continue;
+    }
+    const QPointF centre = toDevice.map(*point);
+    if (isInside(centre, near)) {
+      painter.drawImage(cornerFor(dot_, centre), dot_);
+      if (mark.isSelected) {
+        painter.drawImage(cornerFor(ring_, centre), ring_);
+      }
+    }
+  }
+}
+
+void MarkStamps::prepare(double pixelsPerPoint) {
+  if (pixelsPerPoint != pixelsPerPoint_) {
+    pixelsPerPoint_ = pixelsPerPoint;
+    dot_ = drawnDot(pixelsPerPoint);
+    ring_ = drawnRing(pixelsPerPoint);
+  }
+}
+
+NameOnMap nameAt(QPointF point, const std::vector<MapMark>& marks, const Layout& layout) {
+  NameOnMap nearest;
+  double least = nameReach;
+  for (const MapMark& mark : marks) {
+    const std::optional<QPointF> centre = pointOf(mark.place, layout);
+    if (!centre || mark.name.isEmpty()) {
+      continue;
+    }
+    const double distance = std::hypot(centre->x() - point.x(), centre->y() - point.y());
+    if (distance == least && !nearest.text.isEmpty()) {
+      nearest.text += QLatin1Char('\n') + mark.name;
+    } else if (distance <= least) {
+      nearest = {mark.name, *centre};
+      least = distance;
+    }
+  }
+  return nearest;
+}
+
+}  // namespace veyruna::ui

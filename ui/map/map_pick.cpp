@@ -1,0 +1,35 @@
+#include "ui/map/map_pick.h"
+
+#include <cmath>
+
+#include "ui/controls/coordinate_text.h"
+
+namespace veyruna::ui {
+
+namespace {
+
+double degreesOf(double radians) {
+  return radians * 180.0 / astro::pi;
+}
+
+double roundedToThousandths(double degrees) {
+  return std::round(std::abs(degrees) * 1000.0) / 1000.0;
+}
+
+}  // namespace
+
+QString coordinatesText(const MapPlace& place) {
+  return coordinateText(place.latitude, place.longitude, 3);
+}
+
+void pick(const MapPlace& place, model::AstronomyModel& model) {
+  const double latitude = degreesOf(place.latitude);
+  const double longitude = degreesOf(place.longitude);
+  model.setManualLatDeg(roundedToThousandths(latitude));
+  model.setManualLongDeg(roundedToThousandths(longitude));
+  model.setLatNorth(latitude >= 0.0);
+  model.setLongWest(longitude < 0.0);
+  model.setSelectedCityID(model::manualCityID());
+}
+
+}  // namespace veyruna::ui

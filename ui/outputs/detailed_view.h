@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QWidget>
+
+#include "export/output_tab.h"
+#include "model/astronomy_model.h"
+#include "ui/outputs/page_engine.h"
+
+class QLabel;
+class QStackedWidget;
+
+namespace veyruna::ui {
+
+class HoroscopeView;
+class PlanetsView;
+class PositionsView;
+class StarMapView;
+class TablesView;
+
+/// The outputs of the last calculation, one tab at a time, under the moment and place they belong
+/// to.
+class DetailedView final : public QWidget {
+  Q_OBJECT
+
+ public:
+  DetailedView(model::AstronomyModel& model, const PageEngine& engine, QWidget* parent = nullptr);
+
+  void setTab(exports::OutputTab tab);
+
+ private:
+  void addTabs();
+  void followModel();
+  void showCaption();
+
+  model::AstronomyModel& model_;
+  QLabel* caption_;
+  QStackedWidget* tabs_;
+  StarMapView* starMap_;
+  HoroscopeView* horoscope_;
+  PlanetsView* planets_;
+  TablesView* sunMoon_;
+  PositionsView* positions_;
+};
+
+}  // namespace veyruna::ui

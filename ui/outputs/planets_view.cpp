@@ -1,0 +1,124 @@
+#include "ui/outputs/planets_view.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QClipboard>
+#include <QHeaderView>
+#include <QPainter>
+#include <QTableWidget>
+
+#include "ui/controls/named.h"
+
+namespace veyruna::ui {
+
+namespace {
+
+using model::BodyColor;
+using model::BodyPosition;
+
+constexpr int columnSpacing = 16;
+
+QColor shadeOf(BodyColor color) {
+  switch (color) {
+    case BodyColor::yellow:
+      return {0xf1, 0xc5, 0x36};
+    case BodyColor::white:
+      return Qt::white;
+    case BodyColor::blue:
+      return {0x40, 0x7f, 0xf5};
+    case BodyColor::red:
+      return {0xe3, 0x46, 0x3e};
+    case BodyColor::orange:
+      return {0xe9, 0x87, 0x39};
+    case BodyColor::purple:
+      return {0xb1, 0x41, 0xd5};
+    case BodyColor::gray:
+      break;
+  }
+  return Qt::gray;
+}
+
+/// A disc in the body's colour with a grey edge, to be seen on light and on dark.
+QIcon markOf(BodyColor color) {
+  constexpr int size = 32;
+  QPixmap mark(size, size);
+  mark.fill(Qt::transparent);
+  QPainter painter(&mark);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QPen(QColor(0x80, 0x80, 0x80), 2.0));
+  painter.setBrush(shadeOf(color));
+  painter.drawEllipse(QRectF(5.0, 5.0, size - 10.0, size - 10.0));
+  // The same where its row is selected, not tinted by the style.
+  QIcon icon(mark);
+  icon.addPixmap(mark, QIcon::Selected);
+  return icon;
+}
+
+QStringList columnsOf(const BodyPosition& body) {
+  return {body.name, body.bodyType, body.azimuth, body.altitude, body.ecLong, body.sign};
+}
+
+}  // namespace
+
+PlanetsView::PlanetsView(QWidget* parent)
+    : PlanetsView(named(new QTableWidget, "positionsTable", tr("Positions of the bodies")),
+                  parent) {}
+
+PlanetsView::PlanetsView(QTableWidget* table, QWidget* parent)
+    : WithPlaceholder(table, tr("No Positions"), parent), table_(table) {
+  const QStringList titles = {tr("Body"),     tr("Type"),          tr("Azimuth"),
+                              tr("Altitude"), tr("Ec. Longitude"), tr("Sign")};
+  table_->setColumnCount(static_cast<int>(titles.size()));
+  table_->setHorizontalHeaderLabels(titles);
+  table_->verticalHeader()->hide();
+  table_->setEditTriggers(QAbstractItemView::NoEditTriggers);
+  table_->setSelectionBehavior(QAbstractItemView::SelectRows);
+  table_->setTabKeyNavigation(false);
+  table_->horizontalHeader()->setStretchLastSection(true);
+
+  auto* const copy = new QAction(tr("Copy"), this);
+  copy->setShortcut(QKeySequence::Copy);
+  copy->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+  connect(copy, &QAction::triggered, this, &PlanetsView::copySelection);
+  addAction(copy);
+}
+
+void PlanetsView::show(const QList<BodyPosition>& positions) {
+  table_->setRowCount(static_cast<int>(positions.size()));
+  for (int row = 0; row < positions.size(); ++row) {
+    const QStringList columns = columnsOf(positions[row]);
+    for (int column = 0; column < columns.size(); ++column) {
+      auto* const item = new QTableWidgetItem(columns[column]);
+      const bool isAngle = column >= 2 && column <= 4;
+      item->setTextAlignment(isAngle ? Qt::AlignRight | Qt::AlignVCenter
+                                     : Qt::AlignLeft | Qt::AlignVCenter);
+      table_->setItem(row, column, item);
+    }
+    table_->item(row, 0)->setIcon(markOf(positions[row].color));
+  }
+  table_->resizeColumnsToContents();
+  for (int column = 0; column < table_->columnCount(); ++column) {
+    table_->setColumnWidth(column, table_->columnWidth(column) + columnSpacing);
+  }
+  showView(!positions.isEmpty());
+}
+
+void PlanetsView::copySelection() const {
+  QStringList lines;
+  for (int row = 0; row < table_->rowCount(); ++row) {
+    if (!table_->item(row, 0)->isSelected()) {
+      continue;
+    }
+    QStringList columns;
+    for (int column = 0; column < table_->columnCount(); ++column) {
+      columns.append(table_->item(row, column)->text());
+    }
+    lines.append(columns.join(QLatin1Char('\t')));
+  }
+  if (lines.isEmpty()) {
+    return;  // what was copied before stays
+  }
+  QApplication::clipboard()->setText(lines.join(QLatin1Char('\n')));
+}
+
+}  // namespace veyruna::ui

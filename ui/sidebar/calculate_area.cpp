@@ -1,0 +1,111 @@
+#include "ui/sidebar/calculate_area.h"
+
+#include <QEvent>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QShortcut>
+#include <QVBoxLayout>
+
+#include "ui/controls/icons.h"
+#include "ui/controls/named.h"
+#include "ui/controls/warning_label.h"
+
+namespace veyruna::ui {
+
+namespace {
+
+using model::AstronomyModel;
+
+}  // namespace
+
+CalculateArea::CalculateArea(AstronomyModel& model, QWidget* parent)
+    : QWidget(parent), model_(model) {
+  auto* const button = named(new QPushButton(icon("", "calculate"), tr("&Calculate")),
+                             "calculateButton", tr("Calculate"));
+  button->setDefault(true);
+  // Beside the mnemonic, which is a button's one shortcut.
+  for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
+    auto* const shortcut = new QShortcut(QKeySequence(Qt::CTRL | key), this);
+    connect(shortcut, &QShortcut::activated, button, &QPushButton::click);
+  }
+  button->setToolTip(QKeySequence(Qt::CTRL | Qt::Key_Return).toString(QKeySequence::NativeText));
+  progress_ = named(new QProgressBar, "progress", tr("Calculating"));
+  progress_->setRange(0, 0);
+  progress_->setTextVisible(false);
+  progress_->setFixedSize(button->sizeHint().height() * 2, button->sizeHint().height() / 2);
+  progress_->setAttribute(Qt::WA_TransparentForMouseEvents);
+  // In the button, beside the word, where nothing else stands.
+  auto* const besideTheWord = new QHBoxLayout(button);
+  besideTheWord->addStretch();
+  besideTheWord->addWidget(progress_);
+  error_ = named(new WarningLabel, "errorMessage", tr("Error"));
+  difference_ = named(new QLabel, "difference", tr("State of what is shown"));
+  difference_->setAlignment(Qt::AlignTop);
+  difference_->setWordWrap(true);
+  fitSmallType();
+
+  auto* const column = new QVBoxLayout(this);
+  column->setContentsMargins({});
+  column->addWidget(button);
+  column->addWidget(error_);
+  column->addWidget(difference_);
+
+  connect(button, &QPushButton::clicked, this, &CalculateArea::calculateRequested);
+  connect(&model_, &AstronomyModel::isCalculatingChanged, this, &CalculateArea::showProgress);
+  connect(&model_, &AstronomyModel::errorMessageChanged, this, &CalculateArea::showError);
+  for (const auto signal :
+       {&AstronomyModel::citiesChanged, &AstronomyModel::selectedCityIDChanged,
+        &AstronomyModel::manualLatDegChanged, &AstronomyModel::manualLongDegChanged,
+        &AstronomyModel::latNorthChanged, &AstronomyModel::longWestChanged,
+        &AstronomyModel::monthIndexChanged, &AstronomyModel::dayIndexChanged,
+        &AstronomyModel::yearChanged, &AstronomyModel::hourChanged,
+        &AstronomyModel::useLocalTimeChanged, &AstronomyModel::isCalculatingChanged}) {
+    connect(&model_, signal, this, &CalculateArea::showDifference);
+  }
+  showProgress();
+  showError();
+  showDifference();
+}
+
+void CalculateArea::changeEvent(QEvent* event) {
+  QWidget::changeEvent(event);
+  if (event->type() == QEvent::FontChange) {
+    fitSmallType();
+  }
+}
+
+void CalculateArea::fitSmallType() {
+  constexpr double smallType = 0.85;
+  QFont type = font();
+  if (type.pointSizeF() > 0.0) {
+    type.setPointSizeF(type.pointSizeF() * smallType);
+  } else {
+    type.setPixelSize(qRound(type.pixelSize() * smallType));
+  }
+  error_->setFont(type);
+  difference_->setFont(type);
+  // Room for two lines, at all times.
+  difference_->setMinimumHeight(2 * QFontMetrics(type).lineSpacing() + type.pointSize() / 2);
+}
+
+void CalculateArea::showProgress() {
+  progress_->setVisible(model_.isCalculating());
+}
+
+void CalculateArea::showError() {
+  error_->setText(model_.errorMessage().value_or(QString()));
+  error_->setVisible(model_.errorMessage().has_value());
+}
+
+void CalculateArea::showDifference() {
+  const bool differs = model_.lastHoroscopeBasetime() &&
+                       (*model_.lastHoroscopeBasetime() != model_.baseTime() ||
+                        model_.lastHoroscopeLatitude() != model_.effectiveLatitude() ||
+                        model_.lastHoroscopeLongitude() != model_.effectiveLongitude());
+  difference_->setText(differs ? tr("The inputs have changed since this was calculated.")
+                               : QString());
+}
+
+}  // namespace veyruna::ui

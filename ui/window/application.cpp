@@ -1,0 +1,60 @@
+#include "ui/window/application.h"
+
+#include <QApplication>
+#include <QScreen>
+#include <utility>
+
+#include "ui/window/about_view.h"
+#include "ui/window/main_view.h"
+
+namespace veyruna::ui {
+
+namespace {
+
+constexpr int cascade = 24;      // from one window to the next, to the right and down
+constexpr QSize grip(300, 100);  // as much of a new window is on the screen at least
+
+}  // namespace
+
+VeyrunaAstroApp::VeyrunaAstroApp(model::AstronomyModel::Surroundings surroundings,
+                                 PageEngine engine, const QString& statePath)
+    : model_(std::move(surroundings)), engine_(std::move(engine)), state_(statePath) {}
+
+VeyrunaAstroApp::~VeyrunaAstroApp() {
+  for (const QPointer<MainView>& window : windows_) {
+    delete window;
+  }
+  delete about_;
+}
+
+MainView* VeyrunaAstroApp::openWindow() {
+  auto* const window = new MainView(model_, engine_, state_);
+  windows_.removeAll(nullptr);
+  windows_.append(window);
+  connect(window, &MainView::newWindowRequested, this, &VeyrunaAstroApp::openWindow);
+  connect(window, &MainView::aboutRequested, this, &VeyrunaAstroApp::openAbout);
+  connect(window, &MainView::quitRequested, qApp, &QApplication::closeAllWindows);
+  // Beside the window it was opened from, not on top of it.
+  if (const QWidget* const other = QApplication::activeWindow();
+      qobject_cast<const MainView*>(other) != nullptr) {
+    const QRect room = other->screen()->availableGeometry();
+    const QPoint beside = other->pos() + QPoint(cascade, cascade);
+    window->move(room.contains(QRect(beside, grip)) ? beside : room.topLeft());
+  }
+  window->show();
+  model_.recalculate();
+  return window;
+}
+
+AboutView* VeyrunaAstroApp::openAbout() {
+  if (about_ == nullptr) {
+    about_ = new AboutView;
+    about_->setAttribute(Qt::WA_DeleteOnClose);
+  }
+  about_->show();
+  about_->raise();
+  about_->activateWindow();
+  return about_;
+}
+
+}  // namespace veyruna::ui

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QList>
+#include <QObject>
+#include <QPointer>
+
+#include "model/astronomy_model.h"
+#include "ui/outputs/page_engine.h"
+#include "ui/window/window_state.h"
+
+namespace veyruna::ui {
+
+class AboutView;
+class MainView;
+
+/// The program: one model, any number of windows on it, one About window.
+class VeyrunaAstroApp final : public QObject {
+  Q_OBJECT
+
+ public:
+  VeyrunaAstroApp(model::AstronomyModel::Surroundings surroundings, PageEngine engine,
+                  const QString& statePath);
+  /// Deletes the windows that are still open: none outlives the model.
+  ~VeyrunaAstroApp() override;
+  VeyrunaAstroApp(const VeyrunaAstroApp&) = delete;
+  VeyrunaAstroApp& operator=(const VeyrunaAstroApp&) = delete;
+
+  /// Opens another window on the model and calculates for it.
+  MainView* openWindow();
+
+  /// Opens the About window, or brings it forward.
+  AboutView* openAbout();
+
+  [[nodiscard]] model::AstronomyModel& model() { return model_; }
+  [[nodiscard]] WindowState& state() { return state_; }
+
+ private:
+  model::AstronomyModel model_;
+  PageEngine engine_;
+  WindowState state_;
+  QList<QPointer<MainView>> windows_;
+  QPointer<AboutView> about_;
+};
+
+}  // namespace veyruna::ui

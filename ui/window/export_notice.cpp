@@ -1,0 +1,86 @@
+#include "ui/window/export_notice.h"
+
+#include <QAccessible>
+#include <QDesktopServices>
+#include <QFileInfo>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QUrl>
+#include <chrono>
+
+#include "ui/controls/icons.h"
+#include "ui/controls/named.h"
+#include "ui/controls/shades.h"
+
+namespace veyruna::ui {
+
+namespace {
+
+constexpr std::chrono::seconds shown{8};
+
+}  // namespace
+
+ExportNotice::ExportNotice(QWidget* parent)
+    : QWidget(parent),
+      line_(named(new QLabel, "exportNotice", tr("Result of the export"))),
+      openFolder_(named(new QPushButton(icon("folder-open", "folder"), tr("Open Folder")),
+                        "openFolder", tr("Open the folder of the saved file"))) {
+  line_->setTextFormat(Qt::PlainText);
+  line_->setTextInteractionFlags(Qt::TextSelectableByMouse);
+  line_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);  // cut, with a tooltip
+  QSizePolicy reserved = openFolder_->sizePolicy();
+  reserved.setRetainSizeWhenHidden(true);
+  openFolder_->setSizePolicy(reserved);
+  openFolder_->hide();
+  auto* const row = new QHBoxLayout(this);
+  row->setContentsMargins({});
+  row->addWidget(line_, 1);
+  row->addWidget(openFolder_);
+
+  timeout_.setSingleShot(true);
+  timeout_.setInterval(shown);
+  connect(&timeout_, &QTimer::timeout, this, [this] {
+    say(QString());
+    openFolder_->hide();
+  });
+  connect(openFolder_, &QPushButton::clicked, this,
+          [this] { QDesktopServices::openUrl(QUrl::fromLocalFile(folder_)); });
+}
+
+void ExportNotice::showSaving(const QString& path) {
+  timeout_.stop();
+  openFolder_->hide();
+  say(tr("Saving %1 …").arg(QFileInfo(path).fileName()));
+}
+
+void ExportNotice::showSaved(const QString& path) {
+  folder_ = QFileInfo(path).absolutePath();
+  say(tr("Saved %1").arg(QFileInfo(path).fileName()));
+  openFolder_->show();
+  timeout_.start();
+}
+
+void ExportNotice::showFailure(const QString& path, const QString& reason) {
+  openFolder_->hide();
+  // The reason first: what does not fit is cut at the end.
+  say(tr("Not saved: %1 (%2)").arg(reason, QFileInfo(path).fileName()));
+  QPalette colors = palette();
+  colors.setColor(QPalette::WindowText, warningColor(colors));
+  line_->setPalette(colors);
+  timeout_.start();
+}
+
+void ExportNotice::say(const QString& line) {
+  line_->setPalette({});
+  line_->setText(line);
+  // Not as markup, whatever the file is called.
+  line_->setToolTip(line.isEmpty() ? QString()
+                                   : QStringLiteral("<p>%1</p>").arg(line.toHtmlEscaped()));
+  if (!line.isEmpty()) {
+    QAccessibleEvent news(line_, QAccessible::Alert);
+    QAccessible::updateAccessibility(&news);
+  }
+}
+
+}  // namespace veyruna::ui

@@ -1,0 +1,51 @@
+#include <QApplication>
+#include <QStandardPaths>
+#include <cstdio>
+#include <string_view>
+
+#include "export/pdf_exporter.h"
+#include "export/sealed_page.h"
+#include "ui/controls/icons.h"
+#include "ui/controls/program.h"
+#include "ui/outputs/web_page_engine.h"
+#include "ui/window/application.h"
+
+namespace {
+
+/// --help and --version alone answer on the terminal; true where one of them was given.
+bool answersOnTerminal(int argc, char** argv) {
+  const std::string_view option = argc == 2 ? argv[1] : "";
+  if (option == "--version") {
+    std::printf("veyruna-astro %s (build %s)\n", qUtf8Printable(veyruna::ui::programVersion()),
+                qUtf8Printable(veyruna::ui::programBuild()));
+  } else if (option == "--help") {
+    std::puts(
+        "veyruna-astro opens the window of Veyrunan Astrologer. It takes no options but\n"
+        "--help and --version; `veyruna` is the command for scripts.");
+  } else {
+    return false;
+  }
+  return true;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  if (answersOnTerminal(argc, argv)) {
+    return 0;
+  }
+  veyruna::exports::prepareWebEngine();
+  QCoreApplication::setAttribute(Qt::AA_DisableShaderDiskCache);
+  const QApplication application(argc, argv);
+  QApplication::setApplicationName(QStringLiteral("Veyruna Astro"));
+  QApplication::setDesktopFileName(QStringLiteral("veyruna-astro"));
+  QApplication::setWindowIcon(veyruna::ui::programIcon());
+  veyruna::ui::VeyrunaAstroApp program(
+      veyruna::model::AstronomyModel::standardSurroundings(), veyruna::ui::webPageEngine(),
+      QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
+          QStringLiteral("/VeyrunaAstro/window.ini"));
+  program.openWindow();
+  const int status = QApplication::exec();
+  veyruna::exports::PDFExporter::waitForAll();
+  return status;
+}
