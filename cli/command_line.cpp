@@ -13,7 +13,6 @@
 #include "astro/number_text.h"
 #include "cli/arguments.h"
 #include "cli/document_writer.h"
-#include "cli/documents.h"
 #include "cli/errors.h"
 #include "cli/grammar.h"
 #include "cli/places.h"
@@ -22,9 +21,13 @@
 #include "reports/conjunctions.h"
 #include "reports/ephemeris.h"
 
+#include "documents/documents.h"
+
 namespace veyruna::cli {
 
 namespace {
+
+using documents::Document;
 
 constexpr std::int64_t mostRows = 100'000'000;
 
@@ -113,14 +116,26 @@ void writeAll(const Typed& typed, const astro::Observer& observer) {
     throw WriteError("cannot make the folder " + inQuotes(typed.folder) + ": " + error.message());
   }
   DocumentWriter list = DocumentWriter::toStandardOutput();
-  for (const Document& document : allDocuments) {
+  for (const documents::Entry& document : documents::allDocuments) {
+    if (document.fileName.empty()) {
+      continue;
+    }
     const std::string path = (std::filesystem::path(typed.folder) / document.fileName).string();
     DocumentWriter writer = DocumentWriter::toFile(path);
-    writer.write(document.text(observer));
+    writer.write(documents::textOf(document.document, observer));
     writer.finish();
     list.write(path + "\n");
   }
   list.finish();
+}
+
+Document documentOf(const Typed& typed) {
+  const auto* const found =
+      std::ranges::find(documents::allDocuments, typed.command, &documents::Entry::command);
+  astro::requireInvariant(found != documents::allDocuments.end(),
+                          "every command writes a document");
+  return found->document == Document::horoscope && typed.blackAndWhite ? Document::horoscopeOnPaper
+                                                                       : found->document;
 }
 
 void run(const Grammar& grammar, const Typed& typed) {
@@ -143,14 +158,8 @@ void run(const Grammar& grammar, const Typed& typed) {
     writeTable(typed, observer);
   } else if (typed.command == "base-time") {
     writeText(typed, astro::shortestText(observer.baseTime) + "\n");
-  } else if (typed.command == "horoscope") {
-    writeText(typed, horoscopeText(observer, typed.blackAndWhite));
   } else {
-    const auto* const document =
-        std::find_if(allDocuments.begin(), allDocuments.end(),
-                     [&typed](const Document& known) { return known.command == typed.command; });
-    astro::requireInvariant(document != allDocuments.end(), "every command writes a document");
-    writeText(typed, document->text(observer));
+    writeText(typed, documents::textOf(documentOf(typed), observer));
   }
 }
 

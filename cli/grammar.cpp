@@ -4,9 +4,10 @@
 #include <algorithm>
 #include <set>
 
-#include "cli/documents.h"
 #include "cli/errors.h"
 #include "cli/quoting.h"
+
+#include "documents/documents.h"
 
 namespace veyruna::cli {
 
@@ -57,7 +58,7 @@ Grammar::Grammar()
   addPlace();
   app_->add_option("-o", typed_.file, "Write the document to FILE instead of standard output")
       ->type_name("FILE");
-  for (const Document& document : allDocuments) {
+  for (const documents::Entry& document : documents::allDocuments) {
     if (!document.command.empty()) {
       addCommand(document.command, document.summary);
     }

@@ -1,0 +1,68 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "astro/observer.h"
+
+/// All that is written of one moment and place, a row each in one table. Whoever lists documents
+/// walks it: the command, the model, the exports.
+namespace veyruna::documents {
+
+/// A document, in the order in which they are calculated and written.
+enum class Document {
+  starMap,
+  horoscope,
+  horoscopeOnPaper,  ///< black on white
+  hourly,
+  monthly,
+  daily,
+  yearly,
+  positions,
+  date,
+  nextFullMoon,
+  nextNewMoon,
+  moment,
+  count  ///< none: how many there are
+};
+
+inline constexpr auto documentCount = static_cast<std::size_t>(Document::count);
+
+enum class Kind {
+  chart,  ///< SVG
+  table,  ///< a line a moment, under a header
+  list,   ///< lines of one moment
+  label   ///< one line without its line feed; no file of its own
+};
+
+/// How long a table is: its rows, and the days from one to the next. Of anything else, nothing.
+struct TableSize {
+  std::int64_t rows = 0;
+  double stepDays = 0.0;
+};
+
+/// What is said of a document.
+struct Entry {
+  Document document = Document::count;
+  std::string_view command;   ///< its word on the command line; empty for one without
+  std::string_view fileName;  ///< in a folder of all documents; empty for a label
+  std::string_view heading;   ///< over it where several stand together
+  std::string_view summary;   ///< one line of help
+  Kind kind = Kind::label;
+  TableSize size;
+  std::string (*write)(const astro::Observer& observer, const TableSize& size) = nullptr;
+};
+
+/// Every document, in their order.
+extern const std::array<Entry, documentCount> allDocuments;
+
+/// `Document::count` is a broken invariant, here and below.
+const Entry& entryOf(Document document);
+
+/// The document of that moment and place, whole, in UTF-8. Safe from any thread.
+std::string textOf(Document document, const astro::Observer& observer);
+
+}  // namespace veyruna::documents
