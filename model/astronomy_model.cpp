@@ -136,22 +136,31 @@ double AstronomyModel::baseTime() const {
   return astro::localBaseTime(date_.year, date_.monthIndex, date_.dayIndex, date_.hour, longitude);
 }
 
-std::variant<QUuid, LocationError> AstronomyModel::addCity(const QString& name) {
+/// Whatever is done to the saved places also takes in what other programs did to them.
+template <class Change>
+void AstronomyModel::changeCities(Change change) {
   const QList<CityPreset> before = cities();
-  auto outcome = locations_.add(name, storableAngle(manualLatitude(place_)),
-                                storableAngle(manualLongitude(place_)));
+  change();
   if (cities() != before) {
     Q_EMIT citiesChanged();
   }
+}
+
+void AstronomyModel::refreshCities() {
+  changeCities([this] { locations_.refresh(); });
+}
+
+std::variant<QUuid, LocationError> AstronomyModel::addCity(const QString& name) {
+  std::variant<QUuid, LocationError> outcome = LocationError::emptyName();
+  changeCities([&] {
+    outcome = locations_.add(name, storableAngle(manualLatitude(place_)),
+                             storableAngle(manualLongitude(place_)));
+  });
   return outcome;
 }
 
 void AstronomyModel::deleteCity(QUuid id) {
-  const QList<CityPreset> before = cities();
-  locations_.remove(id);
-  if (cities() != before) {
-    Q_EMIT citiesChanged();
-  }
+  changeCities([&] { locations_.remove(id); });
   if (id != manualCityID() && id == place_.selectedCityID) {
     setSelectedCityID(manualCityID());
   }

@@ -110,6 +110,9 @@ class AstronomyModel : public QObject {
   /// standard-time sum as it stands.
   [[nodiscard]] double baseTime() const;
 
+  /// Takes in what another window or program has saved or deleted since. To be called where a list
+  /// of places is about to be shown. A file that is missing or cannot be read changes nothing.
+  void refreshCities();
   /// Saves the manual fields' place under a name, whatever is selected. The caller selects it.
   std::variant<QUuid, LocationError> addCity(const QString& name);
   /// Deletes a saved place; where it was selected, "Manual" is.
@@ -178,6 +181,8 @@ class AstronomyModel : public QObject {
  private:
   using Signal = void (AstronomyModel::*)();
 
+  template <class Change>
+  void changeCities(Change change);
   template <class Value>
   void assign(Value& field, const Value& value, Signal changed);
   template <class Group, class Value>

@@ -57,6 +57,16 @@ void SavedLocations::loadCities() {
   inFile_ = places();
 }
 
+void SavedLocations::refresh() {
+  if (!file_) {
+    return;
+  }
+  const LocationsFile::Reading reading = file_->read();
+  if (reading.state == LocationsFile::State::whole) {
+    takeIn(reading.places);
+  }
+}
+
 const CityPreset* SavedLocations::find(const QUuid& id) const {
   return findIn(cities_, id);
 }

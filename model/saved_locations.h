@@ -24,6 +24,10 @@ class SavedLocations {
   /// start and is saved at once.
   void loadCities();
 
+  /// Takes in what the file holds now, with what is not written yet. Writes nothing; where the file
+  /// is missing or cannot be read, the list stays as it is.
+  void refresh();
+
   /// Tries once more to write what could not be written so far.
   void saveWhatWaits();
 

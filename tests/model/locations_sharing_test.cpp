@@ -2,6 +2,8 @@
 #include <QLockFile>
 #include <QSysInfo>
 
+#include "tests/model/change_log.h"
+#include "tests/model/fakes.h"
 #include "tests/model/locations_fixture.h"
 
 namespace veyruna {
@@ -55,6 +57,77 @@ TEST_F(LocationsSharing, TwoFirstStartsShareOneList) {
   add(other, u"Dune"_s);
   EXPECT_EQ(namesInFile().size(), 14);
   EXPECT_EQ(one.cities(), started().cities().mid(0, 2) + started().cities().mid(3));
+}
+
+TEST_F(LocationsSharing, ARefreshListsWhatAnotherProgramSavedAndDeleted) {
+  keepTwo();
+  SavedLocations one = started();
+  SavedLocations other = started();
+  add(one, u"Dune"_s);
+  one.remove(one.cities()[3].id);  // Flow
+  const QByteArray before = bytesIn(path);
+  other.refresh();
+  EXPECT_EQ(other.cities(), one.cities());
+  EXPECT_EQ(names(other.cities()), (QStringList{u"Manual"_s, u"Dune"_s, u"Ebb"_s}));
+  EXPECT_EQ(bytesIn(path), before);
+}
+
+TEST_F(LocationsSharing, ARefreshKeepsWhatIsNotWrittenYet) {
+  keepTwo();
+  SavedLocations saved = started();
+  auto lock = std::make_unique<QLockFile>(path + u".lock"_s);
+  ASSERT_TRUE(lock->lock());
+  add(saved, u"Dune"_s);
+  saved.remove(saved.cities()[2].id);  // Ebb
+  const QByteArray before = bytesIn(path);
+  saved.refresh();
+  EXPECT_EQ(names(saved.cities()), (QStringList{u"Manual"_s, u"Dune"_s, u"Flow"_s}));
+  EXPECT_EQ(bytesIn(path), before);
+  lock.reset();
+  saved.saveWhatWaits();
+  EXPECT_EQ(namesInFile(), (QStringList{u"Dune"_s, u"Flow"_s}));
+}
+
+TEST_F(LocationsSharing, ARefreshFromNoListKeepsWhatIsKnown) {
+  keepTwo();
+  SavedLocations saved = started();
+  const QList<model::CityPreset> known = saved.cities();
+  writeBytes(path, "no list");
+  saved.refresh();
+  EXPECT_EQ(saved.cities(), known);
+  EXPECT_EQ(bytesIn(path), QByteArray("no list"));
+  ASSERT_TRUE(QFile::remove(path));
+  saved.refresh();
+  EXPECT_EQ(saved.cities(), known);
+  EXPECT_FALSE(QFileInfo::exists(path));
+}
+
+/// A window's model, and another program on the same file.
+TEST_F(LocationsSharing, AModelSignalsARefreshOnlyWhereThePlacesChanged) {
+  keepTwo();
+  const tests::FakeWorld world;
+  model::AstronomyModel::Surroundings surroundings = world.surroundings();
+  surroundings.locationsPath = path;
+  model::AstronomyModel model(surroundings);
+  tests::ChangeLog log(model);
+  model.refreshCities();
+  EXPECT_EQ(log.taken(), tests::ChangeLog::Names{});
+  SavedLocations other = started();
+  add(other, u"Dune"_s);
+  model.refreshCities();
+  EXPECT_EQ(log.taken(), tests::ChangeLog::Names{"cities"});
+  EXPECT_EQ(model.cities(), other.cities());
+  model.refreshCities();
+  EXPECT_EQ(log.taken(), tests::ChangeLog::Names{});
+}
+
+TEST_F(LocationsSharing, WithoutAFileARefreshChangesNothing) {
+  tests::FakeModel world;
+  const QList<model::CityPreset> known = world.model.cities();
+  tests::ChangeLog log(world.model);
+  world.model.refreshCities();
+  EXPECT_EQ(log.taken(), tests::ChangeLog::Names{});
+  EXPECT_EQ(world.model.cities(), known);
 }
 
 TEST_F(LocationsSharing, WhileAnotherHoldsTheLockChangesWait) {
