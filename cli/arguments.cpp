@@ -3,11 +3,11 @@
 #include <algorithm>
 #include <charconv>
 #include <cmath>
-#include <limits>
 #include <optional>
 
 #include "astro/angle.h"
 #include "astro/calendar.h"
+#include "astro/clock.h"
 #include "astro/number_text.h"
 #include "cli/errors.h"
 #include "cli/quoting.h"
@@ -46,11 +46,6 @@ std::optional<double> finiteNumberOf(std::string_view text) {
   return number && std::isfinite(*number) ? number : std::nullopt;
 }
 
-bool isOneOrTwoDigits(std::string_view text) {
-  return !text.empty() && text.size() <= 2 &&
-         text.find_first_not_of("0123456789") == std::string_view::npos;
-}
-
 char lowered(char letter) {
   return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
 }
@@ -58,15 +53,6 @@ char lowered(char letter) {
 bool equalIgnoringCase(std::string_view a, std::string_view b) {
   return std::equal(a.begin(), a.end(), b.begin(), b.end(),
                     [](char x, char y) { return lowered(x) == lowered(y); });
-}
-
-/// The smallest double at or above hours + minutes/60 whose minutes truncate back to the same.
-double hourOf(double hours, double minutes) {
-  double hour = hours + minutes / 60.0;
-  while (std::trunc((hour - std::floor(hour)) * 60.0) < minutes) {
-    hour = std::nextafter(hour, std::numeric_limits<double>::infinity());
-  }
-  return hour;
 }
 
 /// What the letters behind an angle mean: `positive` and `negative` in lower case.
@@ -142,25 +128,11 @@ std::int64_t readMonthIndex(std::string_view text) {
 }
 
 double readHour(std::string_view text) {
-  constexpr double most = 24.0;
-  const std::size_t colon = text.find(':');
-  if (colon == std::string_view::npos) {
-    const std::optional<double> hour = finiteNumberOf(text);
-    if (hour && *hour >= 0.0 && *hour <= most) {
-      return *hour;
-    }
-  } else {
-    const std::string_view hours = text.substr(0, colon);
-    const std::string_view minutes = text.substr(colon + 1);
-    if (isOneOrTwoDigits(hours) && isOneOrTwoDigits(minutes) && minutes.size() == 2) {
-      const double h = *numberOf<double>(hours);
-      const double m = *numberOf<double>(minutes);
-      if (m < 60.0 && h * 60.0 + m <= most * 60.0) {
-        return hourOf(h, m);
-      }
-    }
+  const std::optional<double> hour = astro::hourFromText(text);
+  if (!hour) {
+    refuse("--hour", text, "hours from 0 to 24 such as 18.25, or 18:15");
   }
-  refuse("--hour", text, "hours from 0 to 24 such as 18.25, or 18:15");
+  return *hour;
 }
 
 double readLatitude(std::string_view text) {

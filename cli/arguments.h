@@ -18,8 +18,7 @@ double readNumber(std::string_view what, std::string_view text, double least, do
 /// 1 to 12 or a month's name in any letter case; returns 0 to 11.
 std::int64_t readMonthIndex(std::string_view text);
 
-/// Hours 0 to 24: "18.25", or "18:15", which becomes the smallest double at or above
-/// the sum of its hours and minutes whose minutes truncate back to the same.
+/// Hours 0 to 24: "18.25", or "18:15" as astro::hourOfClock.
 double readHour(std::string_view text);
 
 /// Degrees north ("40.5", "-33", "33S", "40.5°N") as radians; at most 90.

@@ -1,6 +1,5 @@
 #include "cli/arguments.h"
 
-#include <cmath>
 #include <functional>
 #include <gtest/gtest.h>
 #include <limits>
@@ -29,40 +28,6 @@ std::string refusalOf(const std::function<void()>& reading) {
 
 bool holds(const std::string& message, const std::string& piece) {
   return message.find(piece) != std::string::npos;
-}
-
-/// "7:05", with a zero in front where the hours are to have two digits.
-std::string clockText(int hours, int minutes, int hourDigits) {
-  std::string text;
-  astro::appendPaddedInteger(text, hours, hourDigits);
-  text += ':';
-  astro::appendPaddedInteger(text, minutes, 2);
-  return text;
-}
-
-std::string labelAt(double hour) {
-  return astro::calendarLabel(astro::standardBaseTime(720, 0, 0, hour));
-}
-
-TEST(Hour, EveryMinuteOfTheDayReadsBack) {
-  for (int h = 0; h < 24; ++h) {
-    for (int m = 0; m < 60; ++m) {
-      const std::string text = clockText(h, m, 2);
-      EXPECT_EQ(labelAt(cli::readHour(text)), "720-01-01 " + text + " OST");
-    }
-  }
-}
-
-TEST(Hour, EveryMinuteIsTheSmallestNumberThatReadsBack) {
-  for (int h = 0; h < 24; ++h) {
-    for (int m = 0; m < 60; ++m) {
-      const double hour = cli::readHour(clockText(h, m, 1));
-      const double sum = h + m / 60.0;
-      const double before = std::nextafter(hour, -1.0);
-      EXPECT_GE(hour, sum);
-      EXPECT_TRUE(hour == sum || labelAt(before) != labelAt(hour)) << h << ':' << m;
-    }
-  }
 }
 
 TEST(Hour, FractionsAndBothEndsOfTheDay) {

@@ -9,9 +9,9 @@
 #include <algorithm>
 #include <cmath>
 
+#include "astro/clock.h"
 #include "ui/controls/named.h"
 #include "ui/controls/still_controls.h"
-#include "ui/sidebar/clock_text.h"
 
 namespace veyruna::ui {
 
@@ -87,7 +87,7 @@ void TimeSection::showHour() {
       std::clamp(std::round(model_.hour() / quarterHour), 0.0, static_cast<double>(lastPosition));
   const QSignalBlocker quiet(slider_);
   slider_->setValue(static_cast<int>(position));
-  clock_->setText(clockText(model_.hour()));
+  clock_->setText(QString::fromStdString(astro::clockText(model_.hour())));
   earlier_->setEnabled(model_.hour() > 0.0);
   later_->setEnabled(model_.hour() < lastHour);
 }

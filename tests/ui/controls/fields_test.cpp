@@ -9,7 +9,6 @@
 
 #include "ui/controls/angle_field.h"
 #include "ui/controls/stepper_field.h"
-#include "ui/sidebar/clock_text.h"
 
 namespace veyruna::ui {
 namespace {
@@ -150,14 +149,6 @@ TEST_F(LatitudeField, RefusesTheRestWhileItIsTyped) {
   EXPECT_EQ(field.text(), local("1.234"));
   type(QStringLiteral("1e1"));
   EXPECT_EQ(field.text(), QStringLiteral("11"));
-}
-
-TEST(ClockText, CutsToTheMinute) {
-  EXPECT_EQ(clockText(23.75), QStringLiteral("23:45"));
-  EXPECT_EQ(clockText(12.999), QStringLiteral("12:59"));
-  EXPECT_EQ(clockText(0.0), QStringLiteral("00:00"));
-  EXPECT_EQ(clockText(-0.5), QStringLiteral("00:30"));
-  EXPECT_FALSE(clockText(1e308).isEmpty());
 }
 
 }  // namespace
