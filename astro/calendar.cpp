@@ -1,6 +1,7 @@
 #include "astro/calendar.h"
 
 #include <cmath>
+#include <limits>
 
 #include "astro/invariant.h"
 #include "astro/number_text.h"
@@ -15,23 +16,22 @@ constexpr std::int64_t secondsPerDay = 86400;
 constexpr std::int64_t secondsPerMonth = daysPerMonth * secondsPerDay;
 constexpr std::int64_t secondsPerYear = daysPerYear * secondsPerDay;
 
-}  // namespace
+struct CalendarFields {
+  std::int64_t year;
+  std::int64_t monthIndex;
+  std::int64_t dayIndex;
+  std::int64_t hour;
+  std::int64_t minute;
+  bool isBeforeFirstMidnight;
+};
 
-double standardBaseTime(std::int64_t year, std::int64_t monthIndex, std::int64_t dayIndex,
-                        double hour) {
-  const double wholeHours = std::trunc(hour);
-  const double wholeMinutes = std::trunc((hour - std::floor(hour)) * 60.0);
-  // The sum runs from left to right; in doubles, so that no stored year can overflow it.
-  return (static_cast<double>(year) - 1.0) * daysPerYear +
-         static_cast<double>(monthIndex) * daysPerMonth + static_cast<double>(dayIndex) +
-         wholeHours / 24.0 + wholeMinutes / 1440.0 - 0.5;
-}
-
-void appendCalendarLabel(std::string& out, double baseTime) {
+/// The fields of a base time rounded to the second; nothing where its seconds overflow 64 bits.
+std::optional<CalendarFields> fieldsAt(double baseTime) {
   constexpr double beyondInt64 = 9.2e18;
   const double rounded = std::round((baseTime + 0.5) * static_cast<double>(secondsPerDay));
-  requireInvariant(std::abs(rounded) < beyondInt64, "a base time is a 64-bit number of seconds");
-
+  if (!(std::abs(rounded) < beyondInt64)) {
+    return std::nullopt;
+  }
   // Integer division truncates toward zero, so the fields of a moment before the first midnight are
   // negative instead of borrowing from the year.
   const auto seconds = static_cast<std::int64_t>(rounded);
@@ -39,16 +39,61 @@ void appendCalendarLabel(std::string& out, double baseTime) {
   const std::int64_t inYear = seconds - (year - 1) * secondsPerYear;
   const std::int64_t inMonth = inYear % secondsPerMonth;
   const std::int64_t inDay = inMonth % secondsPerDay;
+  return CalendarFields{year,
+                        inYear / secondsPerMonth,
+                        inMonth / secondsPerDay,
+                        inDay / secondsPerHour,
+                        (inDay % secondsPerHour) / secondsPerMinute,
+                        seconds < 0};
+}
 
-  appendPaddedInteger(out, year, 3);
+/// Whole minutes beyond the whole hours; seconds are cut.
+double minutesOfHour(double hour) {
+  return std::trunc((hour - std::floor(hour)) * 60.0);
+}
+
+}  // namespace
+
+double standardBaseTime(std::int64_t year, std::int64_t monthIndex, std::int64_t dayIndex,
+                        double hour) {
+  const double wholeHours = std::trunc(hour);
+  // The sum runs from left to right; in doubles, so that no stored year can overflow it.
+  return (static_cast<double>(year) - 1.0) * daysPerYear +
+         static_cast<double>(monthIndex) * daysPerMonth + static_cast<double>(dayIndex) +
+         wholeHours / 24.0 + minutesOfHour(hour) / 1440.0 - 0.5;
+}
+
+std::optional<CalendarReading> calendarReading(double baseTime) {
+  const std::optional<CalendarFields> fields = fieldsAt(baseTime);
+  if (!fields || fields->isBeforeFirstMidnight) {
+    return std::nullopt;
+  }
+  return CalendarReading{fields->year, fields->monthIndex, fields->dayIndex,
+                         hourOfClock(fields->hour, fields->minute)};
+}
+
+double hourOfClock(std::int64_t wholeHours, std::int64_t minutes) {
+  const auto wanted = static_cast<double>(minutes);
+  double hour = static_cast<double>(wholeHours) + wanted / 60.0;
+  // 3 + 40 / 60 is a double just below 3:40, and minutes are cut.
+  while (minutesOfHour(hour) < wanted) {
+    hour = std::nextafter(hour, std::numeric_limits<double>::infinity());
+  }
+  return hour;
+}
+
+void appendCalendarLabel(std::string& out, double baseTime) {
+  const std::optional<CalendarFields> fields = fieldsAt(baseTime);
+  requireInvariant(fields.has_value(), "a base time is a 64-bit number of seconds");
+  appendPaddedInteger(out, fields->year, 3);
   out += '-';
-  appendPaddedInteger(out, inYear / secondsPerMonth + 1, 2);
+  appendPaddedInteger(out, fields->monthIndex + 1, 2);
   out += '-';
-  appendPaddedInteger(out, inMonth / secondsPerDay + 1, 2);
+  appendPaddedInteger(out, fields->dayIndex + 1, 2);
   out += ' ';
-  appendPaddedInteger(out, inDay / secondsPerHour, 2);
+  appendPaddedInteger(out, fields->hour, 2);
   out += ':';
-  appendPaddedInteger(out, (inDay % secondsPerHour) / secondsPerMinute, 2);
+  appendPaddedInteger(out, fields->minute, 2);
   out += " OST";
 }
 

@@ -5,7 +5,6 @@
 #include <cmath>
 
 #include "astro/angle.h"
-#include "astro/calendar.h"
 #include "astro/horizon.h"
 #include "astro/invariant.h"
 #include "astro/number_text.h"
@@ -17,6 +16,19 @@ namespace {
 
 double sunHourAngle(double t, double longitude) {
   return localSiderealAngle(t, longitude) - Sun(t).eq.phi;
+}
+
+constexpr double minutesPerDay = 1440.0;
+
+/// Whole minutes after local midnight, 0 to 1439.
+std::int64_t localMinutes(double t, double longitude) {
+  const double reading = std::round((sunHourAngle(t, longitude) * 12.0 / pi + 12.0) * 60.0);
+  requireInvariant(std::isfinite(reading), "a local clock reading is finite");
+  auto minutes = static_cast<std::int64_t>(std::fmod(reading, minutesPerDay));
+  if (minutes < 0) {
+    minutes += static_cast<std::int64_t>(minutesPerDay);
+  }
+  return minutes;
 }
 
 }  // namespace
@@ -37,14 +49,26 @@ double localBaseTime(std::int64_t year, std::int64_t monthIndex, std::int64_t da
   return t;
 }
 
-std::string localClockLabel(double baseTime, double longitude) {
-  constexpr double minutesPerDay = 1440.0;
-  const double reading = std::round((sunHourAngle(baseTime, longitude) * 12.0 / pi + 12.0) * 60.0);
-  requireInvariant(std::isfinite(reading), "a local clock reading is finite");
-  auto minutes = static_cast<std::int64_t>(std::fmod(reading, minutesPerDay));
-  if (minutes < 0) {
-    minutes += static_cast<std::int64_t>(minutesPerDay);
+std::optional<CalendarReading> localCalendarReading(double baseTime, double longitude) {
+  if (!(std::abs(baseTime) <= baseTimeLimitDays)) {
+    return std::nullopt;
   }
+  const double partOfDay = static_cast<double>(localMinutes(baseTime, longitude)) / minutesPerDay;
+  const double day = std::round(baseTime + 0.5 - partOfDay);
+  // Near half a day from standard time the day may be either neighbour's.
+  for (const double candidate : {day, day - 1.0, day + 1.0}) {
+    const std::optional<CalendarReading> reading = calendarReading(candidate + partOfDay - 0.5);
+    if (reading && std::abs(localBaseTime(reading->year, reading->monthIndex, reading->dayIndex,
+                                          reading->hour, longitude) -
+                            baseTime) < 1.0 / minutesPerDay) {
+      return reading;
+    }
+  }
+  return std::nullopt;
+}
+
+std::string localClockLabel(double baseTime, double longitude) {
+  const std::int64_t minutes = localMinutes(baseTime, longitude);
   std::string text;
   appendPaddedInteger(text, minutes / 60, 2);
   text += ':';

@@ -3,6 +3,7 @@
 #include <cmath>
 #include <cstdio>
 #include <gtest/gtest.h>
+#include <limits>
 #include <rapidcheck/gtest.h>
 
 #include "tests/support/c_printf.h"
@@ -12,6 +13,8 @@ namespace veyruna {
 namespace {
 
 using astro::calendarLabel;
+using astro::CalendarReading;
+using astro::calendarReading;
 using astro::standardBaseTime;
 
 constexpr double secondsPerDay = 86400.0;
@@ -131,6 +134,64 @@ RC_GTEST_PROP(Calendar, TheFieldsOfALabelAddUpToItsMoment, ()) {
   // Seconds are cut toward the first midnight on either side of it.
   RC_ASSERT(std::abs(cut) < 60.0);
   RC_ASSERT(cut * seconds >= 0.0);
+}
+
+/// Base times that the calendar has, from the first midnight to where the calculations hold.
+rc::Gen<double> momentsSinceTheFirst() {
+  return rc::gen::map(tests::moments(), [](double t) { return std::abs(t + 0.5) - 0.5; });
+}
+
+RC_GTEST_PROP(Calendar, AReadingHasTheLabelItWasReadFrom, ()) {
+  const double t = *momentsSinceTheFirst();
+  const auto reading = calendarReading(t);
+  RC_ASSERT(reading.has_value());
+  RC_ASSERT(reading->year >= 1);
+  RC_ASSERT(reading->monthIndex >= 0 && reading->monthIndex < 12);
+  RC_ASSERT(reading->dayIndex >= 0 && reading->dayIndex < 30);
+  RC_ASSERT(reading->hour >= 0.0 && reading->hour < 24.0);
+  const double back =
+      standardBaseTime(reading->year, reading->monthIndex, reading->dayIndex, reading->hour);
+  RC_ASSERT(calendarLabel(back) == calendarLabel(t));
+  RC_ASSERT(std::abs(back - t) < 60.0 / secondsPerDay);
+}
+
+RC_GTEST_PROP(Calendar, AMinuteOfTheCalendarIsReadAsItself, ()) {
+  const std::int64_t minute = *tests::wholeBetween(0, 3000LL * 360 * 1440 - 1);
+  const auto reading = calendarReading(sinceFirstMidnight(static_cast<double>(minute) * 60.0));
+  RC_ASSERT(reading.has_value());
+  const std::int64_t day = minute / 1440;
+  const double hour = astro::hourOfClock(minute / 60 % 24, minute % 60);
+  RC_ASSERT(*reading == (CalendarReading{day / 360 + 1, day / 30 % 12, day % 30, hour}));
+}
+
+TEST(Calendar, MidnightsAreReadAsTheDayThatBegins) {
+  EXPECT_EQ(calendarReading(-0.5), (CalendarReading{1, 0, 0, 0.0}));
+  EXPECT_EQ(calendarReading(standardBaseTime(4, 11, 29, 24.0)), (CalendarReading{5, 0, 0, 0.0}));
+  EXPECT_EQ(calendarReading(sinceFirstMidnight(secondsPerDay - 0.49)),
+            (CalendarReading{1, 0, 1, 0.0}));
+  EXPECT_EQ(calendarReading(sinceFirstMidnight(secondsPerDay - 0.51)),
+            (CalendarReading{1, 0, 0, astro::hourOfClock(23, 59)}));
+}
+
+TEST(Calendar, WhatNoCalendarHasIsNotRead) {
+  EXPECT_NE(calendarReading(sinceFirstMidnight(-0.49)), std::nullopt);  // rounds to midnight
+  constexpr double infinity = std::numeric_limits<double>::infinity();
+  for (const double t : {sinceFirstMidnight(-0.51), -1.0, -1e9, 1e300, infinity, -infinity,
+                         std::numeric_limits<double>::quiet_NaN()}) {
+    EXPECT_EQ(calendarReading(t), std::nullopt) << t;
+  }
+}
+
+TEST(Calendar, EveryClockReadingHasItsHour) {
+  for (int hours = 0; hours < 24; ++hours) {
+    for (int minutes = 0; minutes < 60; ++minutes) {
+      const double hour = astro::hourOfClock(hours, minutes);
+      EXPECT_NEAR(hour, hours + minutes / 60.0, 1e-14);
+      EXPECT_EQ(calendarLabel(standardBaseTime(1, 0, 0, hour)),
+                labelOfMinute(hours * 60 + minutes));
+    }
+  }
+  EXPECT_EQ(astro::hourOfClock(18, 15), 18.25);
 }
 
 }  // namespace

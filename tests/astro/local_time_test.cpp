@@ -14,6 +14,7 @@ namespace veyruna {
 namespace {
 
 using astro::localBaseTime;
+using astro::localCalendarReading;
 using astro::localClockLabel;
 using astro::standardBaseTime;
 using tests::inRadians;
@@ -135,6 +136,56 @@ RC_GTEST_PROP(LocalTime, TheClockReadsTheHourAngleOfTheSun, ()) {
   const astro::Vec3D sun = astro::toHorizon(astro::Sun(t).eq, t, longitude, astro::halfPi);
   const double minutes = (sun.phi * 12.0 / astro::pi + 12.0) * 60.0;
   RC_ASSERT(std::abs(minutesApart(minutesOf(localClockLabel(t, longitude)), minutes)) <= 0.5001);
+}
+
+double baseTimeOf(const astro::CalendarReading& reading, double longitude) {
+  return localBaseTime(reading.year, reading.monthIndex, reading.dayIndex, reading.hour, longitude);
+}
+
+RC_GTEST_PROP(LocalTime, AReadingGivesBackItsMomentWithinAMinute, ()) {
+  const double t = std::abs(*tests::momentsWithin(1e6)) + 1.0;
+  // Nearer to 180 degrees some moments have no reading.
+  const double longitude = *tests::between(inRadians(-177.0), inRadians(177.0));
+  const auto reading = localCalendarReading(t, longitude);
+  RC_ASSERT(reading.has_value());
+  RC_ASSERT(std::abs(baseTimeOf(*reading, longitude) - t) * 1440.0 < 0.51);
+  const auto minutes = static_cast<double>(static_cast<std::int64_t>(reading->hour * 60.0 + 0.5));
+  RC_ASSERT(minutesOf(localClockLabel(t, longitude)) == minutes);
+}
+
+RC_GTEST_PROP(LocalTime, AReadingAtTheSeamGivesBackItsMomentOrIsNone, ()) {
+  const double t = std::abs(*tests::momentsWithin(1e6)) + 1.0;
+  const double longitude = *rc::gen::element(-1.0, 1.0) * *tests::between(3.0, astro::pi);
+  const auto reading = localCalendarReading(t, longitude);
+  RC_CLASSIFY(!reading.has_value(), "no reading");
+  RC_ASSERT(!reading || std::abs(baseTimeOf(*reading, longitude) - t) * 1440.0 < 0.51);
+}
+
+RC_GTEST_PROP(LocalTime, AnEnteredMinuteIsReadBack, ()) {
+  const astro::CalendarReading entered{
+      *tests::wholeBetween(2, 3000), *tests::wholeBetween(0, 11), *tests::wholeBetween(0, 29),
+      astro::hourOfClock(*tests::wholeBetween(0, 23), *tests::wholeBetween(0, 59))};
+  const double longitude = *tests::between(inRadians(-177.0), inRadians(177.0));
+  RC_ASSERT(localCalendarReading(baseTimeOf(entered, longitude), longitude) == entered);
+}
+
+TEST(LocalTime, MidnightIsReadAsTheDayThatBegins) {
+  const double midnight = localBaseTime(720, 0, 0, 24.0, 0.5);
+  EXPECT_EQ(localCalendarReading(midnight, 0.5), (astro::CalendarReading{720, 0, 1, 0.0}));
+  EXPECT_EQ(localCalendarReading(midnight - 10.0 / 86400.0, 0.5),
+            (astro::CalendarReading{720, 0, 1, 0.0}));
+  EXPECT_EQ(localCalendarReading(midnight - 50.0 / 86400.0, 0.5),
+            (astro::CalendarReading{720, 0, 0, astro::hourOfClock(23, 59)}));
+}
+
+TEST(LocalTime, BeforeTheFirstLocalMidnightNothingIsRead) {
+  const double first = localBaseTime(1, 0, 0, 0.0, -1.0);
+  EXPECT_GT(first, -0.5);
+  EXPECT_EQ(localCalendarReading(first + 1e-4, -1.0), (astro::CalendarReading{1, 0, 0, 0.0}));
+  EXPECT_EQ(localCalendarReading(first - 0.01, -1.0), std::nullopt);
+  EXPECT_EQ(localCalendarReading(-3.0, 1.0), std::nullopt);
+  EXPECT_EQ(localCalendarReading(2e9, 1.0), std::nullopt);
+  EXPECT_EQ(localCalendarReading(std::nan(""), 1.0), std::nullopt);
 }
 
 }  // namespace
