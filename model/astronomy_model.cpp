@@ -110,6 +110,34 @@ void AstronomyModel::setUseLocalTime(bool isLocal) {
   setInput(date_, &DateSettings::useLocalTime, isLocal, &AstronomyModel::useLocalTimeChanged);
 }
 
+bool AstronomyModel::setMoment(double baseTime) {
+  const double longitude = effectiveLongitude();
+  const std::optional<astro::CalendarReading> reading =
+      !isWithinReach(baseTime) ? std::nullopt
+      : date_.useLocalTime && isOnGlobe(0.0, longitude)
+          ? astro::localCalendarReading(baseTime, longitude)
+          : astro::calendarReading(baseTime);
+  if (!reading) {
+    return false;
+  }
+  const DateSettings before = date_;
+  date_.monthIndex = reading->monthIndex;
+  date_.dayIndex = reading->dayIndex;
+  date_.year = reading->year;
+  date_.hour = reading->hour;
+  storeSettings(*settings_, date_);
+  const auto signalChange = [&](auto DateSettings::*field, Signal changed) {
+    if (date_.*field != before.*field) {
+      Q_EMIT(this->*changed)();
+    }
+  };
+  signalChange(&DateSettings::monthIndex, &AstronomyModel::monthIndexChanged);
+  signalChange(&DateSettings::dayIndex, &AstronomyModel::dayIndexChanged);
+  signalChange(&DateSettings::year, &AstronomyModel::yearChanged);
+  signalChange(&DateSettings::hour, &AstronomyModel::hourChanged);
+  return true;
+}
+
 double AstronomyModel::effectiveLatitude() const {
   if (place_.selectedCityID == manualCityID()) {
     return manualLatitude(place_);
@@ -218,6 +246,8 @@ void AstronomyModel::publish(const CalculationResult& result) {
   positions_ = bodyPositions(result.positions, newId_);
   Q_EMIT positionsChanged();
   assign(dateLabel_, result.dateLabel, &AstronomyModel::dateLabelChanged);
+  nextFullMoonBaseTime_ = result.nextFullMoonBaseTime;
+  nextNewMoonBaseTime_ = result.nextNewMoonBaseTime;
   assign(nextFullMoonLabel_, result.nextFullMoonLabel, &AstronomyModel::nextFullMoonLabelChanged);
   assign(nextNewMoonLabel_, result.nextNewMoonLabel, &AstronomyModel::nextNewMoonLabelChanged);
   const QPointer<AstronomyModel> self(this);  // whoever waited for the end may delete the model

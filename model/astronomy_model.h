@@ -101,6 +101,12 @@ class AstronomyModel : public QObject {
   void setHour(double hour);
   void setUseLocalTime(bool isLocal);
 
+  /// Sets month, day, year and hour to the calendar's or, where local time is used, the place's
+  /// local reading of a base time (days), stored once: baseTime() is then within a minute of it.
+  /// Calculates nothing. False, and nothing is set, where no inputs name that moment: before the
+  /// first midnight, beyond what is calculated, or a moment that local time leaves out.
+  bool setMoment(double baseTime);
+
   /// Latitude in radians, north positive: of the manual fields, or of the selected place; 0 where
   /// that place is gone.
   [[nodiscard]] double effectiveLatitude() const;
@@ -129,6 +135,10 @@ class AstronomyModel : public QObject {
   [[nodiscard]] const QString& dateLabel() const { return dateLabel_; }
   [[nodiscard]] const QString& nextFullMoonLabel() const { return nextFullMoonLabel_; }
   [[nodiscard]] const QString& nextNewMoonLabel() const { return nextNewMoonLabel_; }
+  /// The moments that the two labels read, in days; signalled with them. Nothing before the first
+  /// calculation.
+  [[nodiscard]] std::optional<double> nextFullMoonBaseTime() const { return nextFullMoonBaseTime_; }
+  [[nodiscard]] std::optional<double> nextNewMoonBaseTime() const { return nextNewMoonBaseTime_; }
   [[nodiscard]] bool isCalculating() const { return isCalculating_; }
   [[nodiscard]] const std::optional<QString>& errorMessage() const { return errorMessage_; }
   [[nodiscard]] bool horoscopeBlackAndWhite() const { return horoscopeBlackAndWhite_; }
@@ -207,6 +217,8 @@ class AstronomyModel : public QObject {
   QString dateLabel_;
   QString nextFullMoonLabel_;
   QString nextNewMoonLabel_;
+  std::optional<double> nextFullMoonBaseTime_;
+  std::optional<double> nextNewMoonBaseTime_;
   bool isCalculating_ = false;
   std::optional<QString> errorMessage_;
   bool horoscopeBlackAndWhite_ = false;

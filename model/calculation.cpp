@@ -15,11 +15,11 @@ namespace veyruna::model {
 
 CalculationResult calculate(const CalculationInput& input) {
   const double t = input.baseTime;
-  const auto moonLabel = [&](double target) {
-    return QString::fromStdString(
-        astro::calendarLabelWithLocalClock(astro::nextPhase(t, target), input.longitude));
+  const double fullMoon = astro::nextPhase(t, astro::fullMoonElongation);
+  const double newMoon = astro::nextPhase(t, astro::newMoonElongation);
+  const auto moonLabel = [&](double moon) {
+    return QString::fromStdString(astro::calendarLabelWithLocalClock(moon, input.longitude));
   };
-  // The fields are computed in their order.
   return {
       input,
       QString::fromStdString(
@@ -31,8 +31,10 @@ CalculationResult calculate(const CalculationInput& input) {
       QString::fromStdString(reports::conjunctionTable(360, t, 1.0)),
       reports::positionRows(t, input.latitude, input.longitude),
       QString::fromStdString(astro::calendarLabel(t)),
-      moonLabel(astro::fullMoonElongation),
-      moonLabel(astro::newMoonElongation),
+      moonLabel(fullMoon),
+      moonLabel(newMoon),
+      fullMoon,
+      newMoon,
   };
 }
 

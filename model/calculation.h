@@ -28,6 +28,8 @@ struct CalculationResult {
   QString dateLabel;
   QString nextFullMoonLabel;
   QString nextNewMoonLabel;
+  double nextFullMoonBaseTime;  ///< days
+  double nextNewMoonBaseTime;   ///< days
 };
 
 /// Computes everything. Safe from any thread.
