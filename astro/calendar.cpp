@@ -1,8 +1,8 @@
 #include "astro/calendar.h"
 
 #include <cmath>
-#include <limits>
 
+#include "astro/clock.h"
 #include "astro/invariant.h"
 #include "astro/number_text.h"
 
@@ -47,20 +47,16 @@ std::optional<CalendarFields> fieldsAt(double baseTime) {
                         seconds < 0};
 }
 
-/// Whole minutes beyond the whole hours; seconds are cut.
-double minutesOfHour(double hour) {
-  return std::trunc((hour - std::floor(hour)) * 60.0);
-}
-
 }  // namespace
 
 double standardBaseTime(std::int64_t year, std::int64_t monthIndex, std::int64_t dayIndex,
                         double hour) {
   const double wholeHours = std::trunc(hour);
+  const double wholeMinutes = std::trunc((hour - std::floor(hour)) * 60.0);
   // The sum runs from left to right; in doubles, so that no stored year can overflow it.
   return (static_cast<double>(year) - 1.0) * daysPerYear +
          static_cast<double>(monthIndex) * daysPerMonth + static_cast<double>(dayIndex) +
-         wholeHours / 24.0 + minutesOfHour(hour) / 1440.0 - 0.5;
+         wholeHours / 24.0 + wholeMinutes / 1440.0 - 0.5;
 }
 
 std::optional<CalendarReading> calendarReading(double baseTime) {
@@ -68,18 +64,9 @@ std::optional<CalendarReading> calendarReading(double baseTime) {
   if (!fields || fields->isBeforeFirstMidnight) {
     return std::nullopt;
   }
-  return CalendarReading{fields->year, fields->monthIndex, fields->dayIndex,
-                         hourOfClock(fields->hour, fields->minute)};
-}
-
-double hourOfClock(std::int64_t wholeHours, std::int64_t minutes) {
-  const auto wanted = static_cast<double>(minutes);
-  double hour = static_cast<double>(wholeHours) + wanted / 60.0;
-  // 3 + 40 / 60 is a double just below 3:40, and minutes are cut.
-  while (minutesOfHour(hour) < wanted) {
-    hour = std::nextafter(hour, std::numeric_limits<double>::infinity());
-  }
-  return hour;
+  return CalendarReading{
+      fields->year, fields->monthIndex, fields->dayIndex,
+      hourOfClock(static_cast<double>(fields->hour), static_cast<double>(fields->minute))};
 }
 
 void appendCalendarLabel(std::string& out, double baseTime) {

@@ -29,7 +29,7 @@ struct CalendarReading {
   std::int64_t year;        ///< from 1
   std::int64_t monthIndex;  ///< 0 to 11
   std::int64_t dayIndex;    ///< 0 to 29
-  double hour;              ///< below 24, on a minute
+  double hour;              ///< below 24, as hourOfClock
 
   friend bool operator==(const CalendarReading&, const CalendarReading&) = default;
 };
@@ -38,9 +38,6 @@ struct CalendarReading {
 /// before the first midnight (−0.5), whose fields no calendar has, or for what calendarLabel does
 /// not take.
 std::optional<CalendarReading> calendarReading(double baseTime);
-
-/// The hour that reads as a clock does, 0:00 to 23:59: the least that is not cut to a minute less.
-double hourOfClock(std::int64_t wholeHours, std::int64_t minutes);
 
 /// "720-01-01 12:00 OST": the standard-time reading of a base time, rounded to the second and then
 /// cut to the minute. Before the first midnight (−0.5) the fields turn negative. A base time whose

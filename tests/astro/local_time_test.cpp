@@ -6,6 +6,7 @@
 #include <rapidcheck/gtest.h>
 
 #include "astro/calendar.h"
+#include "astro/clock.h"
 #include "astro/horizon.h"
 #include "astro/sun.h"
 #include "tests/support/random_sky.h"
@@ -164,7 +165,8 @@ RC_GTEST_PROP(LocalTime, AReadingAtTheSeamGivesBackItsMomentOrIsNone, ()) {
 RC_GTEST_PROP(LocalTime, AnEnteredMinuteIsReadBack, ()) {
   const astro::CalendarReading entered{
       *tests::wholeBetween(2, 3000), *tests::wholeBetween(0, 11), *tests::wholeBetween(0, 29),
-      astro::hourOfClock(*tests::wholeBetween(0, 23), *tests::wholeBetween(0, 59))};
+      astro::hourOfClock(static_cast<double>(*tests::wholeBetween(0, 23)),
+                         static_cast<double>(*tests::wholeBetween(0, 59)))};
   const double longitude = *tests::between(inRadians(-177.0), inRadians(177.0));
   RC_ASSERT(localCalendarReading(baseTimeOf(entered, longitude), longitude) == entered);
 }
