@@ -8,6 +8,7 @@
 #include "reports/zodiac.h"
 #include "tests/charts/catalogue_survey.h"
 #include "tests/support/reference_case.h"
+#include "tests/support/source_path.h"
 
 namespace veyruna::charts {
 namespace {
@@ -15,8 +16,8 @@ namespace {
 using tests::Role;
 using tests::surveyOfTheSky;
 
-const std::string starFile = VEYRUNA_SOURCE_DIR "/resources/star_catalogue.csv";
-const std::string lineFile = VEYRUNA_SOURCE_DIR "/resources/constellation_lines.csv";
+const std::string starFile = tests::sourcePath("resources/star_catalogue.csv");
+const std::string lineFile = tests::sourcePath("resources/constellation_lines.csv");
 
 /// The fields of a file's rows, without the header.
 std::vector<std::vector<std::string>> rowsOf(const std::string& path) {

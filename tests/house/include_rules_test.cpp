@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/support/reference_case.h"
+#include "tests/support/source_path.h"
 
 namespace veyruna::tests {
 namespace {
@@ -35,15 +36,14 @@ TEST(IncludeRules, TheFoldersOfTheWindowKnowOnlyWhatIsBelow) {
 }
 
 TEST(IncludeRules, EverySourceStandsInARoom) {
-  for (const auto& top : fs::directory_iterator(VEYRUNA_SOURCE_DIR)) {
+  for (const auto& top : fs::directory_iterator(sourcePath(""))) {
     const bool holdsRooms = isRoomOrHoldsRooms(top.path().filename().string());
     if (!top.is_directory() || !holdsRooms) {
       continue;
     }
     for (const auto& entry : fs::recursive_directory_iterator(top.path())) {
       if (entry.path().extension() == ".h" || entry.path().extension() == ".cpp") {
-        const fs::path folder =
-            fs::relative(entry.path().parent_path(), fs::path(VEYRUNA_SOURCE_DIR));
+        const fs::path folder = fs::relative(entry.path().parent_path(), fs::path(sourcePath("")));
         EXPECT_EQ(forbiddenIncludes(folder.string(), ""), Lines{}) << entry.path();
       }
     }
@@ -66,7 +66,7 @@ TEST(IncludeRules, TheRoomsThatComputeUseTheStandardLibraryAlone) {
 TEST(IncludeRules, EverySourceOfTheHouseKeepsThem) {
   int sources = 0;
   for (const std::string& room : roomNames()) {
-    const fs::path folder = fs::path(VEYRUNA_SOURCE_DIR) / room;
+    const fs::path folder = fs::path(sourcePath("")) / room;
     if (!fs::exists(folder)) {
       continue;
     }

@@ -8,6 +8,8 @@
 #include <locale>
 #include <stdexcept>
 
+#include "tests/support/patience.h"
+
 namespace veyruna::tests {
 
 /// Takes over the locale named in VEYRUNA_TEST_LOCALE, for C, C++ and Qt alike; it must be one that
@@ -39,6 +41,7 @@ int runQtTests(
     int argc, char** argv, const std::function<void()>& before = [] {},
     const std::function<bool()>& after = [] { return true; }) {
   testing::InitGoogleTest(&argc, argv);
+  endTestsThatHang();
   before();
   // The application takes the environment's locale, the tests theirs after it.
   const Application application(argc, argv);

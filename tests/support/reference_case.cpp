@@ -8,12 +8,11 @@
 #include "astro/calendar.h"
 #include "astro/local_time.h"
 #include "charts/catalogue_reader.h"
+#include "tests/support/source_path.h"
 
 namespace veyruna::tests {
 
 namespace {
-
-const std::string referenceDir = VEYRUNA_TEST_DATA_DIR "/reference/";
 
 double radians(double degrees) {
   return degrees * astro::pi / 180.0;
@@ -36,8 +35,12 @@ double ReferenceCase::baseTime() const {
                       : astro::standardBaseTime(year, monthIndex, dayIndex, hour);
 }
 
+std::string ReferenceCase::goldenName(const std::string& file) const {
+  return "reference/" + folder + "/" + file;
+}
+
 std::string ReferenceCase::expected(const std::string& file) const {
-  return fileContent(referenceDir + folder + "/" + file);
+  return fileContent(sourcePath("tests/" + goldenName(file)));
 }
 
 const std::vector<ReferenceCase>& referenceCases() {
@@ -52,8 +55,8 @@ const std::vector<ReferenceCase>& referenceCases() {
 
 const charts::StarCatalogue& referenceCatalogue() {
   static const charts::StarCatalogue catalogue(
-      charts::readStars(fileContent(referenceDir + "catalogue/stars.csv")),
-      charts::readLineNames(fileContent(referenceDir + "catalogue/lines.csv")));
+      charts::readStars(fileContent(sourcePath("tests/reference/catalogue/stars.csv"))),
+      charts::readLineNames(fileContent(sourcePath("tests/reference/catalogue/lines.csv"))));
   return catalogue;
 }
 

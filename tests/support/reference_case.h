@@ -1,5 +1,6 @@
 #pragma once
 
+#include <ostream>
 #include <string>
 #include <vector>
 
@@ -19,9 +20,16 @@ struct ReferenceCase {
   double longitude;  ///< radians
 
   [[nodiscard]] double baseTime() const;
+  /// One of the case's files as isGolden calls it.
+  [[nodiscard]] std::string goldenName(const std::string& file) const;
   /// The content of one of the case's files.
   [[nodiscard]] std::string expected(const std::string& file) const;
 };
+
+/// As a failed test names it: "south".
+inline std::ostream& operator<<(std::ostream& stream, const ReferenceCase& at) {
+  return stream << at.folder;
+}
 
 const std::vector<ReferenceCase>& referenceCases();
 

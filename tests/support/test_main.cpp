@@ -4,10 +4,13 @@
 #include <locale>
 #include <stdexcept>
 
+#include "tests/support/patience.h"
+
 /// Runs the tests, under the locale named in VEYRUNA_TEST_LOCALE where it is set. A locale that
 /// cannot be had, or has no decimal comma, fails the run: it would prove nothing.
 int main(int argc, char** argv) {
   testing::InitGoogleTest(&argc, argv);
+  veyruna::tests::endTestsThatHang();
   if (const char* name = std::getenv("VEYRUNA_TEST_LOCALE")) {
     try {
       std::locale::global(std::locale(name));

@@ -1,4 +1,4 @@
-// The map as it is shipped (VEYRUNA_MAP names the file): what is marked on it lies where the
+// The map as it is shipped (resources/tamsorel.jpg): what is marked on it lies where the
 // projection says.
 #include <QFile>
 #include <QImage>
@@ -9,6 +9,7 @@
 #include <string>
 
 #include "model/city_preset.h"
+#include "tests/support/source_path.h"
 #include "ui/map/map_picture.h"
 #include "ui/map/map_projection.h"
 
@@ -17,9 +18,12 @@ namespace {
 
 constexpr double degree = astro::pi / 180.0;
 
+QString mapFile() {
+  return QString::fromStdString(tests::sourcePath("resources/tamsorel.jpg"));
+}
+
 const QImage& tamsorel() {
-  static const QImage map =
-      pictureFile(QStringLiteral(VEYRUNA_MAP))().convertToFormat(QImage::Format_RGB32);
+  static const QImage map = pictureFile(mapFile())().convertToFormat(QImage::Format_RGB32);
   return map;
 }
 
@@ -67,7 +71,7 @@ void expectMark(QPointF place, double radius, QRgb color, const std::string& wha
 }
 
 TEST(Tamsorel, HasTheSizeOfItsProjection) {
-  ASSERT_FALSE(tamsorel().isNull()) << VEYRUNA_MAP;
+  ASSERT_FALSE(tamsorel().isNull()) << mapFile().toStdString();
   EXPECT_EQ(tamsorel().width(), mapWidth);
   EXPECT_EQ(tamsorel().height(), mapHeight);
 }
@@ -87,14 +91,14 @@ uchar frameMarker(const QByteArray& file) {
 
 TEST(Tamsorel, IsReadFromTopToBottom) {
   // A progressive JPEG is held as a whole a second time while it is read: 84 million bytes.
-  QFile file(QStringLiteral(VEYRUNA_MAP));
-  ASSERT_TRUE(file.open(QIODevice::ReadOnly)) << VEYRUNA_MAP;
+  QFile file(mapFile());
+  ASSERT_TRUE(file.open(QIODevice::ReadOnly)) << mapFile().toStdString();
   EXPECT_EQ(frameMarker(file.readAll()), 0xc0);
   EXPECT_LE(file.size(), 6'000'000);
 }
 
 TEST(Tamsorel, MarksTheThirteenPlacesWhereTheyAre) {
-  ASSERT_FALSE(tamsorel().isNull()) << VEYRUNA_MAP;
+  ASSERT_FALSE(tamsorel().isNull()) << mapFile().toStdString();
   const QList<model::CityPreset> places = model::initialCities(&QUuid::createUuid);
   ASSERT_EQ(places.size(), 13);
   for (const model::CityPreset& city : places) {
@@ -109,7 +113,7 @@ TEST(Tamsorel, MarksTheThirteenPlacesWhereTheyAre) {
 }
 
 TEST(Tamsorel, TheGraticuleCrossesEveryFiveDegrees) {
-  ASSERT_FALSE(tamsorel().isNull()) << VEYRUNA_MAP;
+  ASSERT_FALSE(tamsorel().isNull()) << mapFile().toStdString();
   int crossings = 0;
   int marked = 0;
   for (int latitude = 0; latitude <= 60; latitude += 5) {
