@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "ui/controls/coordinates_text.h"
 #include "ui/controls/icons.h"
 #include "ui/controls/named.h"
 #include "ui/map/map_area.h"
@@ -211,7 +212,9 @@ void MapLocationPickerView::showLayout() {
 /// The map may also have moved under a pointer at rest.
 void MapLocationPickerView::showHover() {
   hover_ = lastHoverLocation_ ? placeAt(*lastHoverLocation_, mapLayout()) : std::nullopt;
-  area_->showReadout(hover_ ? coordinatesText(*hover_) : QString());
+  constexpr int decimals = 3;  // as many as a pick takes over
+  area_->showReadout(hover_ ? coordinatesText(hover_->latitude, hover_->longitude, decimals)
+                            : QString());
 }
 
 void MapLocationPickerView::showMarks() {

@@ -2,8 +2,6 @@
 
 #include <cmath>
 
-#include "ui/controls/coordinate_text.h"
-
 namespace veyruna::ui {
 
 namespace {
@@ -17,10 +15,6 @@ double roundedToThousandths(double degrees) {
 }
 
 }  // namespace
-
-QString coordinatesText(const MapPlace& place) {
-  return coordinateText(place.latitude, place.longitude, 3);
-}
 
 void pick(const MapPlace& place, model::AstronomyModel& model) {
   const double latitude = degreesOf(place.latitude);

@@ -4,7 +4,7 @@
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
-#include "ui/controls/coordinate_text.h"
+#include "ui/controls/coordinates_text.h"
 #include "ui/controls/named.h"
 #include "ui/map/map_location_picker_view.h"
 #include "ui/outputs/chart_views.h"
@@ -29,7 +29,7 @@ QString placeText(const AstronomyModel& model, double latitude, double longitude
           QStringLiteral("   ");
     }
   }
-  return name + coordinateText(latitude, longitude);
+  return name + coordinatesText(latitude, longitude);
 }
 
 }  // namespace

@@ -8,7 +8,7 @@
 #include <QVBoxLayout>
 
 #include "ui/controls/angle_field.h"
-#include "ui/controls/coordinate_text.h"
+#include "ui/controls/coordinates_text.h"
 #include "ui/controls/icons.h"
 #include "ui/controls/named.h"
 #include "ui/controls/segmented_picker.h"
@@ -158,7 +158,7 @@ void LocationSection::showPlace() {
   const bool isManual = model_.selectedCityID() == model::manualCityID();
   place_->setCurrentWidget(isManual ? manualFields_ : savedPlace_);
   if (!isManual) {
-    coordinates_->setText(coordinateText(model_.effectiveLatitude(), model_.effectiveLongitude()));
+    coordinates_->setText(coordinatesText(model_.effectiveLatitude(), model_.effectiveLongitude()));
   }
 }
 

@@ -1,4 +1,4 @@
-// What a place of the map becomes in the model, and in words.
+// What a place of the map becomes in the model.
 #include <gtest/gtest.h>
 
 #include "tests/model/fakes.h"
@@ -56,14 +56,6 @@ TEST_F(Pick, StoresEvenWhatIsThereAlready) {
   settings->groups.clear();
   pick({12.0 * degree, -3.0 * degree}, model);
   EXPECT_EQ(settings->groups.size(), 5U);
-}
-
-TEST(CoordinatesText, HasThreeDecimalsAndThreeSpacesInEveryLocale) {
-  EXPECT_EQ(coordinatesText({40.5 * degree, -20.9 * degree}),
-            QStringLiteral("40.500° N   20.900° W"));
-  EXPECT_EQ(coordinatesText({0.0, 0.0}), QStringLiteral("0.000° N   0.000° E"));
-  EXPECT_EQ(coordinatesText({-1.23449 * degree, 44.9996 * degree}),
-            QStringLiteral("1.234° S   45.000° E"));
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-#include "ui/controls/coordinate_text.h"
+#include "ui/controls/coordinates_text.h"
 
 #include <cmath>
 #include <string>
@@ -22,7 +22,7 @@ QString degreesText(double radians, int decimals, const char* positive, const ch
 
 }  // namespace
 
-QString coordinateText(double latitude, double longitude, int decimals) {
+QString coordinatesText(double latitude, double longitude, int decimals) {
   return degreesText(latitude, decimals, "N", "S") + QStringLiteral("   ") +
          degreesText(longitude, decimals, "E", "W");
 }
