@@ -14,6 +14,7 @@
 #include "ui/controls/named.h"
 #include "ui/map/map_marks.h"
 #include "ui/map/map_tiles.h"
+#include "ui/map/plain_key.h"
 #include "ui/map/translucent_label.h"
 
 namespace veyruna::ui {
@@ -257,9 +258,7 @@ void MapArea::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void MapArea::keyPressEvent(QKeyEvent* event) {
-  const Qt::KeyboardModifiers others =
-      event->modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier);
-  if (others != Qt::NoModifier) {
+  if (!isPlain(*event)) {
     QWidget::keyPressEvent(event);
     return;
   }
@@ -276,13 +275,6 @@ void MapArea::keyPressEvent(QKeyEvent* event) {
       break;
     case Qt::Key_Down:
       Q_EMIT panRequested({0.0, -keyStep});
-      break;
-    case Qt::Key_Plus:
-    case Qt::Key_Equal:
-      Q_EMIT zoomInRequested();
-      break;
-    case Qt::Key_Minus:
-      Q_EMIT zoomOutRequested();
       break;
     default:
       QWidget::keyPressEvent(event);

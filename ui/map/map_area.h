@@ -19,8 +19,8 @@ class MapTiles;
 class TranslucentLabel;
 
 /// The map as it is seen and touched: shows the picture in a given layout with its marks and
-/// read-outs, and says what the pointer, the fingers and the keys do there. Knows nothing of zooms,
-/// pans and models; positions and translations are points of this widget.
+/// read-outs, and says what the pointer, the fingers and the arrow keys do there. Knows nothing of
+/// zooms, pans and models; positions and translations are points of this widget.
 class MapArea final : public QWidget {
   Q_OBJECT
 
@@ -51,8 +51,6 @@ class MapArea final : public QWidget {
   /// A drag or pinch was broken off; nothing of it stays.
   void gesturesCancelled();
   void panRequested(QPointF translation);
-  void zoomInRequested();
-  void zoomOutRequested();
 
  protected:
   bool event(QEvent* event) override;

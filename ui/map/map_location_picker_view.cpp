@@ -2,6 +2,7 @@
 
 #include <QFrame>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QShortcut>
@@ -16,6 +17,7 @@
 #include "ui/map/map_area.h"
 #include "ui/map/map_marks.h"
 #include "ui/map/map_pick.h"
+#include "ui/map/plain_key.h"
 
 namespace veyruna::ui {
 
@@ -45,9 +47,9 @@ MapLocationPickerView::MapLocationPickerView(AstronomyModel& model, PictureSourc
       model_(&model),
       area_(named(new MapArea(std::move(picture), std::move(executor)), "mapArea",
                   tr("Map of Tamsorel"))) {
-  area_->setAccessibleDescription(
-      tr("Click to pick a place. The arrow keys move the map, plus and minus zoom it; a place can "
-         "also be typed in the sidebar."));
+  area_->setAccessibleDescription(tr(
+      "Click to pick a place. The arrow keys move the map, plus and minus or Page Up and Page Down "
+      "zoom it; a place can also be typed in the sidebar."));
   auto* const divider = new QFrame;
   divider->setFrameStyle(QFrame::HLine | QFrame::Sunken);
   auto* const column = new QVBoxLayout(this);
@@ -76,7 +78,10 @@ QHBoxLayout* MapLocationPickerView::makeControls() {
                                   "resetButton", tr("Show the whole map"));
   auto* const hint = named(new QLabel(tr("Click to pick · ⌥-scroll to zoom · drag to pan")),
                            "mapHint", tr("How to use the map"));
-  hint->setToolTip(tr("⌥ is the Alt key, ⌘ is the Ctrl key."));
+  hint->setToolTip(
+      tr("⌥ is the Alt key, ⌘ is the Ctrl key.\n"
+         "Where the desktop keeps ⌥-scroll for itself, + and − or Page Up and Page Down zoom as "
+         "well, once the map has been clicked or reached with Tab."));
   hint->setWordWrap(true);
 
   auto* const row = new QHBoxLayout;
@@ -140,8 +145,6 @@ void MapLocationPickerView::followArea() {
   connect(area_, &MapArea::panRequested, this, [this](QPointF translation) {
     setFraming({framing_.zoom, framing_.pan + translation});
   });
-  connect(area_, &MapArea::zoomInRequested, this, [this] { zoomBy(zoomInFactor); });
-  connect(area_, &MapArea::zoomOutRequested, this, [this] { zoomBy(zoomOutFactor); });
 }
 
 void MapLocationPickerView::followModel() {
@@ -166,6 +169,28 @@ void MapLocationPickerView::showEvent(QShowEvent* event) {
 void MapLocationPickerView::hideEvent(QHideEvent* event) {
   QWidget::hideEvent(event);
   scrollMonitor_.reset();
+}
+
+/// What the map and the controls above it leave: some window managers keep the wheel with Alt to
+/// themselves, so that the same is done by a key alone.
+void MapLocationPickerView::keyPressEvent(QKeyEvent* event) {
+  if (!isPlain(*event)) {
+    QWidget::keyPressEvent(event);
+    return;
+  }
+  switch (event->key()) {
+    case Qt::Key_Plus:
+    case Qt::Key_Equal:
+    case Qt::Key_PageUp:
+      zoomBy(zoomInFactor);
+      break;
+    case Qt::Key_Minus:
+    case Qt::Key_PageDown:
+      zoomBy(zoomOutFactor);
+      break;
+    default:
+      QWidget::keyPressEvent(event);
+  }
 }
 
 Layout MapLocationPickerView::mapLayout() const {

@@ -41,6 +41,62 @@ TEST_F(ShownPicker, TheReadoutFollowsTheMapUnderAPointerAtRest) {
   EXPECT_EQ(text("mapReadout"), moved);
 }
 
+TEST_F(ShownPicker, EveryZoomKeyGoesOneStep) {
+  struct Step {
+    Qt::Key in;
+    Qt::Key out;
+    Qt::KeyboardModifiers held;
+  };
+  for (const auto& [in, out, held] : {Step{Qt::Key_Plus, Qt::Key_Minus, Qt::NoModifier},
+                                      {Qt::Key_Plus, Qt::Key_Minus, Qt::KeypadModifier},
+                                      {Qt::Key_Plus, Qt::Key_Minus, Qt::ShiftModifier},
+                                      {Qt::Key_Equal, Qt::Key_Minus, Qt::NoModifier},
+                                      {Qt::Key_PageUp, Qt::Key_PageDown, Qt::NoModifier},
+                                      {Qt::Key_PageUp, Qt::Key_PageDown, Qt::KeypadModifier}}) {
+    for (const char* const name : {"mapArea", "zoomOutButton", "zoomInButton", "resetButton"}) {
+      auto* const control = view->findChild<QWidget*>(QString::fromLatin1(name));
+      control->setFocus();
+      ASSERT_TRUE(control->hasFocus()) << name;
+      QTest::keyClick(window.windowHandle(), in, held);
+      EXPECT_EQ(zoomText(), QStringLiteral("140%")) << name << ' ' << in;
+      QTest::keyClick(window.windowHandle(), in, held);
+      EXPECT_EQ(zoomText(), QStringLiteral("195%")) << name << ' ' << in;
+      QTest::keyClick(window.windowHandle(), out, held);
+      QTest::keyClick(window.windowHandle(), out, held);
+      EXPECT_EQ(zoomText(), QStringLiteral("100%")) << name << ' ' << out;
+    }
+  }
+}
+
+TEST_F(ShownPicker, AKeyZoomsAboutThePointerOrElseTheCentre) {
+  area->setFocus();
+  pointAt({250, 400});
+  const QString under = text("mapReadout");
+  for (const Qt::Key key : {Qt::Key_PageUp, Qt::Key_PageUp, Qt::Key_Plus, Qt::Key_PageDown}) {
+    QTest::keyClick(window.windowHandle(), key);
+    EXPECT_EQ(text("mapReadout"), under);
+  }
+  EXPECT_NE(view->pan(), QPointF());
+  push("resetButton");
+  pointAt(besideMap());
+  QTest::keyClick(window.windowHandle(), Qt::Key_PageUp);
+  EXPECT_NEAR(view->pan().x(), 0.0, 1e-9);
+  EXPECT_NEAR(view->pan().y(), 0.0, 1e-9);
+}
+
+TEST_F(ShownPicker, AZoomKeyWithCtrlOrAltIsNotTheMaps) {
+  area->setFocus();
+  for (const Qt::KeyboardModifier held : {Qt::ControlModifier, Qt::AltModifier, Qt::MetaModifier}) {
+    for (const Qt::Key key : {Qt::Key_PageUp, Qt::Key_PageDown, Qt::Key_Right}) {
+      QKeyEvent event(QEvent::KeyPress, key, held);
+      QCoreApplication::sendEvent(area, &event);
+      EXPECT_FALSE(event.isAccepted()) << key << ' ' << held;
+    }
+  }
+  EXPECT_EQ(zoomText(), QStringLiteral("100%"));
+  EXPECT_EQ(view->pan(), QPointF());
+}
+
 TEST_F(ShownPicker, OtherKeysPassOn) {
   for (const Qt::Key key : {Qt::Key_Tab, Qt::Key_A, Qt::Key_Escape}) {
     QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier);

@@ -22,6 +22,8 @@ TEST_F(ShownPicker, TheControlsSayWhatTheyDo) {
   const QString explained = view->findChild<QLabel*>(QStringLiteral("mapHint"))->toolTip();
   EXPECT_TRUE(explained.contains(QStringLiteral("⌥ is the Alt key")));
   EXPECT_TRUE(explained.contains(QStringLiteral("⌘ is the Ctrl key")));
+  EXPECT_TRUE(explained.contains(QStringLiteral("+ and −")));
+  EXPECT_TRUE(explained.contains(QStringLiteral("Page Up and Page Down")));
   EXPECT_EQ(zoomText(), QStringLiteral("100%"));
 }
 
