@@ -5,13 +5,13 @@
 
 namespace veyruna::astro {
 
-double localSiderealAngle(double t, double longitude) {
-  return longitude + meanAngle(siderealRate * t);
+double localSiderealAngle(const Observer& observer) {
+  return observer.longitude + meanAngle(siderealRate * observer.baseTime);
 }
 
-HorizonFrame::HorizonFrame(double t, double longitude, double latitude)
-    : siderealAngle_(localSiderealAngle(t, longitude)),
-      toHorizon_(rotationMatrix(Axis::y, halfPi - latitude)) {}
+HorizonFrame::HorizonFrame(const Observer& observer)
+    : siderealAngle_(localSiderealAngle(observer)),
+      toHorizon_(rotationMatrix(Axis::y, halfPi - observer.latitude)) {}
 
 std::array<double, 3> HorizonFrame::toHorizonComponents(const Vec3D& equatorial) const {
   const double hourAngle = siderealAngle_ - equatorial.phi;
@@ -23,8 +23,8 @@ Vec3D HorizonFrame::toHorizon(const Vec3D& equatorial) const {
   return {x, y, z};
 }
 
-Vec3D toHorizon(const Vec3D& equatorial, double t, double longitude, double latitude) {
-  return HorizonFrame(t, longitude, latitude).toHorizon(equatorial);
+Vec3D toHorizon(const Vec3D& equatorial, const Observer& observer) {
+  return HorizonFrame(observer).toHorizon(equatorial);
 }
 
 }  // namespace veyruna::astro

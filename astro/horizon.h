@@ -1,17 +1,18 @@
 #pragma once
 
+#include "astro/observer.h"
 #include "astro/vec3d.h"
 
 namespace veyruna::astro {
 
-/// longitude + the turn of the sky since base time `t` (days), radians; the sum is not reduced.
-double localSiderealAngle(double t, double longitude);
+/// The observer's longitude + the turn of the sky since base time 0, radians; the sum is not
+/// reduced. The latitude does not matter.
+double localSiderealAngle(const Observer& observer);
 
 /// The observer's horizon at one moment: what toHorizon needs, computed once for many bodies.
 class HorizonFrame {
  public:
-  /// Base time in days, longitude (positive east) and latitude (positive north) in radians.
-  HorizonFrame(double t, double longitude, double latitude);
+  explicit HorizonFrame(const Observer& observer);
 
   /// Azimuth (`phi`, from the south point toward the west, in [0, 2π)) and altitude (`theta`) of an
   /// equatorial direction.
@@ -26,6 +27,6 @@ class HorizonFrame {
 };
 
 /// Azimuth and altitude of an equatorial direction for an observer; see HorizonFrame.
-Vec3D toHorizon(const Vec3D& equatorial, double t, double longitude, double latitude);
+Vec3D toHorizon(const Vec3D& equatorial, const Observer& observer);
 
 }  // namespace veyruna::astro

@@ -14,15 +14,15 @@ namespace veyruna::astro {
 
 namespace {
 
-double sunHourAngle(double t, double longitude) {
-  return localSiderealAngle(t, longitude) - Sun(t).eq.phi;
+double sunHourAngle(const Observer& observer) {
+  return localSiderealAngle(observer) - Sun(observer.baseTime).eq.phi;
 }
 
 constexpr double minutesPerDay = 1440.0;
 
 /// Whole minutes after local midnight, 0 to 1439.
-std::int64_t localMinutes(double t, double longitude) {
-  const double reading = std::round((sunHourAngle(t, longitude) * 12.0 / pi + 12.0) * 60.0);
+std::int64_t localMinutes(const Observer& observer) {
+  const double reading = std::round((sunHourAngle(observer) * 12.0 / pi + 12.0) * 60.0);
   requireInvariant(std::isfinite(reading), "a local clock reading is finite");
   auto minutes = static_cast<std::int64_t>(std::fmod(reading, minutesPerDay));
   if (minutes < 0) {
@@ -40,7 +40,8 @@ double localBaseTime(std::int64_t year, std::int64_t monthIndex, std::int64_t da
   const double wantedHourAngle = (hour - 12.0) * pi / 12.0;
   double t = standardBaseTime(year, monthIndex, dayIndex, hour);
   for (int step = 0; step < mostSteps; ++step) {
-    const double excess = wrappedToHalfTurns(sunHourAngle(t, longitude) - wantedHourAngle);
+    const double excess =
+        wrappedToHalfTurns(sunHourAngle({.baseTime = t, .longitude = longitude}) - wantedHourAngle);
     if (std::abs(excess) < toleranceRadians) {
       break;
     }
@@ -49,17 +50,18 @@ double localBaseTime(std::int64_t year, std::int64_t monthIndex, std::int64_t da
   return t;
 }
 
-std::optional<CalendarReading> localCalendarReading(double baseTime, double longitude) {
+std::optional<CalendarReading> localCalendarReading(const Observer& observer) {
+  const double baseTime = observer.baseTime;
   if (!(std::abs(baseTime) <= baseTimeLimitDays)) {
     return std::nullopt;
   }
-  const double partOfDay = static_cast<double>(localMinutes(baseTime, longitude)) / minutesPerDay;
+  const double partOfDay = static_cast<double>(localMinutes(observer)) / minutesPerDay;
   const double day = std::round(baseTime + 0.5 - partOfDay);
   // Near half a day from standard time the day may be either neighbour's.
   for (const double candidate : {day, day - 1.0, day + 1.0}) {
     const std::optional<CalendarReading> reading = calendarReading(candidate + partOfDay - 0.5);
     if (reading && std::abs(localBaseTime(reading->year, reading->monthIndex, reading->dayIndex,
-                                          reading->hour, longitude) -
+                                          reading->hour, observer.longitude) -
                             baseTime) < 1.0 / minutesPerDay) {
       return reading;
     }
@@ -67,8 +69,8 @@ std::optional<CalendarReading> localCalendarReading(double baseTime, double long
   return std::nullopt;
 }
 
-std::string localClockLabel(double baseTime, double longitude) {
-  const std::int64_t minutes = localMinutes(baseTime, longitude);
+std::string localClockLabel(const Observer& observer) {
+  const std::int64_t minutes = localMinutes(observer);
   std::string text;
   appendPaddedInteger(text, minutes / 60, 2);
   text += ':';
@@ -76,8 +78,8 @@ std::string localClockLabel(double baseTime, double longitude) {
   return text;
 }
 
-std::string calendarLabelWithLocalClock(double baseTime, double longitude) {
-  return calendarLabel(baseTime) + "  (local " + localClockLabel(baseTime, longitude) + ")";
+std::string calendarLabelWithLocalClock(const Observer& observer) {
+  return calendarLabel(observer.baseTime) + "  (local " + localClockLabel(observer) + ")";
 }
 
 }  // namespace veyruna::astro

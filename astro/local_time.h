@@ -5,6 +5,7 @@
 #include <string>
 
 #include "astro/calendar.h"
+#include "astro/observer.h"
 
 /// Local solar time: the hour angle of the sun, plus noon.
 namespace veyruna::astro {
@@ -15,16 +16,17 @@ namespace veyruna::astro {
 double localBaseTime(std::int64_t year, std::int64_t monthIndex, std::int64_t dayIndex, double hour,
                      double longitude);
 
-/// The day and the local solar time, rounded to the minute as localClockLabel reads it, of a base
-/// time at `longitude`: localBaseTime of it is within a minute of the base time. Nothing before the
+/// The day and the local solar time, rounded to the minute as localClockLabel reads it, at the
+/// observer's moment: localBaseTime of it is within a minute of that moment. Nothing before the
 /// first local midnight, beyond baseTimeLimitDays, or, where local days begin half a day apart from
 /// standard ones, for the moments that no local reading names.
-std::optional<CalendarReading> localCalendarReading(double baseTime, double longitude);
+std::optional<CalendarReading> localCalendarReading(const Observer& observer);
 
-/// "14:37": the local solar time at `longitude` (radians) at a base time (days).
-std::string localClockLabel(double baseTime, double longitude);
+/// "14:37": the observer's local solar time. The latitude does not matter, here and below.
+std::string localClockLabel(const Observer& observer);
 
-/// "720-01-15 11:59 OST  (local 10:42)": a moment in standard time with its local reading.
-std::string calendarLabelWithLocalClock(double baseTime, double longitude);
+/// "720-01-15 11:59 OST  (local 10:42)": the observer's moment in standard time with its local
+/// reading.
+std::string calendarLabelWithLocalClock(const Observer& observer);
 
 }  // namespace veyruna::astro

@@ -8,12 +8,13 @@ namespace veyruna::astro {
 namespace {
 
 /// From the observer to the moon, in the ecliptic frame, in radii of the world.
-Vec3D fromObserver(double t, double longitude, double latitude) {
+Vec3D fromObserver(const Observer& observer) {
+  const double t = observer.baseTime;
   const Vec3D moon(moonLongitude(t), moonLatitude(t));
-  const Vec3D meridian(meanAngle(t + longitude / twoPi), latitude);
-  const Vec3D observer = rotated(meridian, equatorialToEcliptic);
-  return {moonDistance * moon.v[0] - observer.v[0], moonDistance * moon.v[1] - observer.v[1],
-          moonDistance * moon.v[2] - observer.v[2]};
+  const Vec3D meridian(meanAngle(t + observer.longitude / twoPi), observer.latitude);
+  const Vec3D place = rotated(meridian, equatorialToEcliptic);
+  return {moonDistance * moon.v[0] - place.v[0], moonDistance * moon.v[1] - place.v[1],
+          moonDistance * moon.v[2] - place.v[2]};
 }
 
 }  // namespace
@@ -31,7 +32,7 @@ double moonLatitude(double t) {
 Moon::Moon(double t)
     : ec(moonLongitude(t), moonLatitude(t)), eq(rotated(ec, eclipticToEquatorial)) {}
 
-Moon::Moon(double t, double longitude, double latitude)
-    : ec(fromObserver(t, longitude, latitude)), eq(rotated(ec, eclipticToEquatorial)) {}
+Moon::Moon(const Observer& observer)
+    : ec(fromObserver(observer)), eq(rotated(ec, eclipticToEquatorial)) {}
 
 }  // namespace veyruna::astro

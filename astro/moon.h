@@ -1,5 +1,6 @@
 #pragma once
 
+#include "astro/observer.h"
 #include "astro/vec3d.h"
 
 namespace veyruna::astro {
@@ -36,9 +37,9 @@ struct Moon {
   /// As seen from the centre of the world. `ec.r` is 0, as of any vector built from angles.
   explicit Moon(double t);
 
-  /// As seen by an observer at a longitude and latitude (radians); `ec.r` is about 60 world radii.
+  /// As seen by an observer on the world's surface; `ec.r` is about 60 world radii.
   /// The observer's meridian turns once per solar day here, not once per sidereal day.
-  Moon(double t, double longitude, double latitude);
+  explicit Moon(const Observer& observer);
 };
 
 }  // namespace veyruna::astro

@@ -8,6 +8,11 @@ struct Observer {
   double latitude = 0.0;   ///< radians, north positive
   double longitude = 0.0;  ///< radians, east positive
 
+  /// The same place at another moment.
+  [[nodiscard]] Observer at(double otherBaseTime) const {
+    return {.baseTime = otherBaseTime, .latitude = latitude, .longitude = longitude};
+  }
+
   friend bool operator==(const Observer&, const Observer&) = default;
 };
 

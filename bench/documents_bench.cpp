@@ -20,34 +20,35 @@ constexpr double latitude = 40.5 * astro::pi / 180.0;
 constexpr double longitude = -20.9 * astro::pi / 180.0;
 
 std::string starMap() {
-  return charts::starMap(baseTime, latitude, longitude, charts::builtInCatalogue());
+  return charts::starMap({baseTime, latitude, longitude}, charts::builtInCatalogue());
 }
 
 std::string horoscope() {
-  return charts::horoscope(false, baseTime, latitude, longitude, charts::builtInCatalogue());
+  return charts::horoscope(false, {baseTime, latitude, longitude}, charts::builtInCatalogue());
 }
 
 std::string hourly() {
-  return reports::ephemerisTable(24, baseTime, 1.0 / 24.0, latitude);
+  return reports::ephemerisTable({baseTime, latitude}, {24, 1.0 / 24.0});
 }
 std::string monthly() {
-  return reports::ephemerisTable(30, baseTime, 1.0, latitude);
+  return reports::ephemerisTable({baseTime, latitude}, {30, 1.0});
 }
 std::string daily() {
-  return reports::conjunctionTable(144, baseTime, 1.0 / 144.0);
+  return reports::conjunctionTable(baseTime, {144, 1.0 / 144.0});
 }
 std::string yearly() {
-  return reports::conjunctionTable(360, baseTime, 1.0);
+  return reports::conjunctionTable(baseTime, {360, 1.0});
 }
 
 std::string positions() {
-  return reports::positionsTableText(reports::positionRows(baseTime, latitude, longitude));
+  return reports::positionsTableText(reports::positionRows({baseTime, latitude, longitude}));
 }
 
 std::string labels() {
   std::string text = astro::calendarLabel(baseTime);
   for (const double target : {astro::fullMoonElongation, astro::newMoonElongation}) {
-    text += astro::calendarLabelWithLocalClock(astro::nextPhase(baseTime, target), longitude);
+    text += astro::calendarLabelWithLocalClock(
+        {.baseTime = astro::nextPhase(baseTime, target), .longitude = longitude});
   }
   return text;
 }
@@ -73,7 +74,7 @@ void campaign(benchmark::State& state) {
   constexpr std::int64_t rows = 720'000;
   for ([[maybe_unused]] const auto run : state) {
     std::size_t written = 0;
-    reports::writeConjunctionTable(rows, baseTime, 1.0,
+    reports::writeConjunctionTable(baseTime, {rows, 1.0},
                                    [&written](std::string_view row) { written += row.size(); });
     benchmark::DoNotOptimize(written);
   }

@@ -44,12 +44,11 @@ void drawGrid(SvgWriter& svg) {
 )");
 }
 
-void drawHeader(SvgWriter& svg, double t, double latitude, double longitude) {
-  beginText(svg, 0, 8, "6")
-      .endWithText("\n" + astro::calendarLabelWithLocalClock(t, longitude) + "\n");
+void drawHeader(SvgWriter& svg, const astro::Observer& observer) {
+  beginText(svg, 0, 8, "6").endWithText("\n" + astro::calendarLabelWithLocalClock(observer) + "\n");
   beginText(svg, 0, 18, "6")
-      .endWithText("Lat: " + astro::Arc(latitude).degMinSecText() +
-                   "  Long: " + astro::Arc(longitude).degMinSecText() + "\n");
+      .endWithText("Lat: " + astro::Arc(observer.latitude).degMinSecText() +
+                   "  Long: " + astro::Arc(observer.longitude).degMinSecText() + "\n");
 }
 
 }  // namespace veyruna::charts

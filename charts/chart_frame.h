@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <string_view>
 
+#include "astro/observer.h"
 #include "charts/projection.h"
 #include "charts/svg_writer.h"
 
@@ -29,7 +30,6 @@ SvgWriter& beginText(SvgWriter& svg, std::int64_t x, std::int64_t y, std::string
 void drawGrid(SvgWriter& svg);
 
 /// The two header lines both charts share: the moment with its local time, and the place.
-/// Base time in days, place in radians.
-void drawHeader(SvgWriter& svg, double t, double latitude, double longitude);
+void drawHeader(SvgWriter& svg, const astro::Observer& observer);
 
 }  // namespace veyruna::charts

@@ -71,16 +71,14 @@ double midheavenOf(double siderealAngle) {
 /// The horoscope of one moment and place, drawn piece by piece.
 class Horoscope {
  public:
-  Horoscope(std::string& document, bool blackAndWhite, double t, double latitude, double longitude,
+  Horoscope(std::string& document, bool blackAndWhite, const astro::Observer& observer,
             const StarCatalogue& catalogue)
       : svg_(document),
         blackAndWhite_(blackAndWhite),
-        t_(t),
-        latitude_(latitude),
-        longitude_(longitude),
-        siderealAngle_(astro::localSiderealAngle(t, longitude)),
-        sun_(t),
-        moon_(t),
+        observer_(observer),
+        siderealAngle_(astro::localSiderealAngle(observer)),
+        sun_(observer.baseTime),
+        moon_(observer.baseTime),
         catalogue_(catalogue),
         nativity_(nativityOf()) {}
 
@@ -88,7 +86,7 @@ class Horoscope {
     svg_.markup(head);
     drawDisc();
     drawGrid(svg_);
-    drawHeader(svg_, t_, latitude_, longitude_);
+    drawHeader(svg_, observer_);
     svg_.markup("<g clip-path=\"url(#horoscopeClip)\">\n");
     drawWanderers();
     drawChords();
@@ -105,10 +103,13 @@ class Horoscope {
 
  private:
   [[nodiscard]] Nativity nativityOf() const {
-    Nativity nativity{
-        sun_.ec.phi, moon_.ec.phi, moon_.ec.theta, {}, ascendantOf(siderealAngle_, latitude_)};
+    Nativity nativity{sun_.ec.phi,
+                      moon_.ec.phi,
+                      moon_.ec.theta,
+                      {},
+                      ascendantOf(siderealAngle_, observer_.latitude)};
     for (const Planet planet : astro::allPlanets) {
-      nativity.planets[indexOf(planet)] = planetEcliptic(planet, t_, sun_).phi;
+      nativity.planets[indexOf(planet)] = planetEcliptic(planet, observer_.baseTime, sun_).phi;
     }
     return nativity;
   }
@@ -251,7 +252,7 @@ class Horoscope {
 
   /// The circle of the stars that never set, about the celestial north pole.
   void drawCelestialPole() {
-    if (!(latitude_ > southernmostPoleCircle)) {
+    if (!(observer_.latitude > southernmostPoleCircle)) {
       return;
     }
     const ProjectedPoint pole =
@@ -259,7 +260,7 @@ class Horoscope {
     svg_.element("circle")
         .attribute("cx", pole.roundedX())
         .attribute("cy", pole.roundedY())
-        .attribute("r", Fixed{discRadius - 360.0 * latitude_ / astro::pi, 1})
+        .attribute("r", Fixed{discRadius - 360.0 * observer_.latitude / astro::pi, 1})
         .attribute("fill", "none")
         .attribute("stroke", "orange")
         .attribute("stroke-weight", 1)
@@ -268,9 +269,7 @@ class Horoscope {
 
   SvgWriter svg_;
   bool blackAndWhite_;
-  double t_;
-  double latitude_;
-  double longitude_;
+  astro::Observer observer_;
   double siderealAngle_;
   astro::Sun sun_;
   astro::Moon moon_;
@@ -280,10 +279,10 @@ class Horoscope {
 
 }  // namespace
 
-std::string horoscope(bool blackAndWhite, double t, double latitude, double longitude,
+std::string horoscope(bool blackAndWhite, const astro::Observer& observer,
                       const StarCatalogue& catalogue) {
   std::string document;
-  Horoscope(document, blackAndWhite, t, latitude, longitude, catalogue).draw();
+  Horoscope(document, blackAndWhite, observer, catalogue).draw();
   return document;
 }
 

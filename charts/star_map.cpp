@@ -34,14 +34,8 @@ using VisiblePoint = std::optional<ProjectedPoint>;
 /// The sky of one moment and place, drawn piece by piece.
 class StarMap {
  public:
-  StarMap(std::string& document, double t, double latitude, double longitude,
-          const StarCatalogue& catalogue)
-      : svg_(document),
-        t_(t),
-        latitude_(latitude),
-        longitude_(longitude),
-        horizon_(t, longitude, latitude),
-        catalogue_(catalogue) {
+  StarMap(std::string& document, const astro::Observer& observer, const StarCatalogue& catalogue)
+      : svg_(document), observer_(observer), horizon_(observer), catalogue_(catalogue) {
     starPoints_.reserve(catalogue.stars().size());
     for (const FixedStar& star : catalogue.stars()) {
       starPoints_.push_back(visiblePoint(star.eq));
@@ -52,7 +46,7 @@ class StarMap {
     svg_.markup(head);
     drawGrid(svg_);
     drawCompass();
-    drawHeader(svg_, t_, latitude_, longitude_);
+    drawHeader(svg_, observer_);
     drawEcliptic();
     drawSignBoundaries();
     drawConstellations();
@@ -168,15 +162,16 @@ class StarMap {
   /// The sun, the moon and the planets.
   void drawWanderers() {
     constexpr double sunSize = 3.57;
-    const astro::Sun sun(t_);
-    const astro::Moon moon(t_);
+    const double t = observer_.baseTime;
+    const astro::Sun sun(t);
+    const astro::Moon moon(t);
     drawBody(visiblePoint(sun.eq), "", "#f1c536", sunSize);
     if (const VisiblePoint at = visiblePoint(moon.eq)) {
       const PagePoint sunPoint = projected(horizon_.toHorizon(sun.eq)).exact();
       drawMoon(svg_, {at->exact(), sunPoint, moon.ec.phi - sun.ec.phi, "white"}, "white");
     }
     for (const astro::Planet planet : astro::allPlanets) {
-      const astro::Vec3D ecliptic = planetEcliptic(planet, t_, sun);
+      const astro::Vec3D ecliptic = planetEcliptic(planet, t, sun);
       const PlanetStyle& style = styleOf(planet);
       drawBody(visiblePoint(rotated(ecliptic, astro::eclipticToEquatorial)), displayName(planet),
                style.color, style.size);
@@ -184,9 +179,7 @@ class StarMap {
   }
 
   SvgWriter svg_;
-  double t_;
-  double latitude_;
-  double longitude_;
+  astro::Observer observer_;
   astro::HorizonFrame horizon_;
   const StarCatalogue& catalogue_;
   std::vector<VisiblePoint> starPoints_;  ///< in the catalogue's order
@@ -194,9 +187,9 @@ class StarMap {
 
 }  // namespace
 
-std::string starMap(double t, double latitude, double longitude, const StarCatalogue& catalogue) {
+std::string starMap(const astro::Observer& observer, const StarCatalogue& catalogue) {
   std::string document;
-  StarMap(document, t, latitude, longitude, catalogue).draw();
+  StarMap(document, observer, catalogue).draw();
   return document;
 }
 

@@ -54,7 +54,9 @@ astro::Observer observerOf(const Typed& typed) {
   const auto [latitude, longitude] = placeOf(typed);
   constexpr double limit = astro::baseTimeLimitDays;
   if (!typed.baseTime.empty()) {
-    return {readNumber("--base-time", typed.baseTime, -limit, limit), latitude, longitude};
+    return {.baseTime = readNumber("--base-time", typed.baseTime, -limit, limit),
+            .latitude = latitude,
+            .longitude = longitude};
   }
   const std::int64_t year = readWholeNumber("--year", typed.year, firstYear, lastYear);
   const std::int64_t monthIndex = readMonthIndex(typed.month);
@@ -63,7 +65,9 @@ astro::Observer observerOf(const Typed& typed) {
   const double baseTime = typed.isLocal
                               ? astro::localBaseTime(year, monthIndex, dayIndex, hour, longitude)
                               : astro::standardBaseTime(year, monthIndex, dayIndex, hour);
-  return {checkedBaseTime(baseTime, "--year: " + inQuotes(typed.year)), latitude, longitude};
+  return {.baseTime = checkedBaseTime(baseTime, "--year: " + inQuotes(typed.year)),
+          .latitude = latitude,
+          .longitude = longitude};
 }
 
 bool goesToStandardOutput(const Typed& typed) {
@@ -86,22 +90,22 @@ void writeTable(const Typed& typed, const astro::Observer& observer) {
   if (typed.rows.empty() || typed.step.empty()) {
     throw UsageError("a table needs --rows N and --step DAYS, such as --rows 24 --step 1/24");
   }
-  const std::int64_t rows = readWholeNumber("--rows", typed.rows, 0, mostRows);
-  const double step = readStepDays(typed.step);
+  const reports::TableSize size{.rows = readWholeNumber("--rows", typed.rows, 0, mostRows),
+                                .stepDays = readStepDays(typed.step)};
   checkedBaseTime(
-      observer.baseTime + static_cast<double>(rows) * step,
+      observer.baseTime + static_cast<double>(size.rows) * size.stepDays,
       "the last of " + inQuotes(typed.rows) + " rows at steps of " + inQuotes(typed.step));
 
   DocumentWriter writer = writerOf(typed);
-  Progress progress(rows + 1, goesToStandardOutput(typed));
+  Progress progress(size.rows + 1, goesToStandardOutput(typed));
   const reports::TextSink sink = [&](std::string_view piece) {
     writer.write(piece);
     progress.advance();
   };
   if (typed.command == "ephemeris") {
-    reports::writeEphemerisTable(rows, observer.baseTime, step, observer.latitude, sink);
+    reports::writeEphemerisTable(observer, size, sink);
   } else {
-    reports::writeConjunctionTable(rows, observer.baseTime, step, sink);
+    reports::writeConjunctionTable(observer.baseTime, size, sink);
   }
   writer.finish();
 }

@@ -17,33 +17,30 @@ namespace veyruna::documents {
 namespace {
 
 using astro::Observer;
+using reports::TableSize;
 
 std::string starMap(const Observer& observer, const TableSize& /*size*/) {
-  return charts::starMap(observer.baseTime, observer.latitude, observer.longitude,
-                         charts::builtInCatalogue());
+  return charts::starMap(observer, charts::builtInCatalogue());
 }
 
 std::string horoscope(const Observer& observer, const TableSize& /*size*/) {
-  return charts::horoscope(false, observer.baseTime, observer.latitude, observer.longitude,
-                           charts::builtInCatalogue());
+  return charts::horoscope(false, observer, charts::builtInCatalogue());
 }
 
 std::string horoscopeOnPaper(const Observer& observer, const TableSize& /*size*/) {
-  return charts::horoscope(true, observer.baseTime, observer.latitude, observer.longitude,
-                           charts::builtInCatalogue());
+  return charts::horoscope(true, observer, charts::builtInCatalogue());
 }
 
 std::string ephemeris(const Observer& observer, const TableSize& size) {
-  return reports::ephemerisTable(size.rows, observer.baseTime, size.stepDays, observer.latitude);
+  return reports::ephemerisTable(observer, size);
 }
 
 std::string conjunctions(const Observer& observer, const TableSize& size) {
-  return reports::conjunctionTable(size.rows, observer.baseTime, size.stepDays);
+  return reports::conjunctionTable(observer.baseTime, size);
 }
 
 std::string positions(const Observer& observer, const TableSize& /*size*/) {
-  return reports::positionsTableText(
-      reports::positionRows(observer.baseTime, observer.latitude, observer.longitude));
+  return reports::positionsTableText(reports::positionRows(observer));
 }
 
 std::string date(const Observer& observer, const TableSize& /*size*/) {
@@ -51,8 +48,8 @@ std::string date(const Observer& observer, const TableSize& /*size*/) {
 }
 
 std::string nextMoon(const Observer& observer, double elongation) {
-  return astro::calendarLabelWithLocalClock(astro::nextPhase(observer.baseTime, elongation),
-                                            observer.longitude);
+  return astro::calendarLabelWithLocalClock(
+      observer.at(astro::nextPhase(observer.baseTime, elongation)));
 }
 
 std::string nextFullMoon(const Observer& observer, const TableSize& /*size*/) {

@@ -2,11 +2,11 @@
 
 #include <array>
 #include <cstddef>
-#include <cstdint>
 #include <string>
 #include <string_view>
 
 #include "astro/observer.h"
+#include "reports/table_size.h"
 
 /// All that is written of one moment and place, a row each in one table. Whoever lists documents
 /// walks it: the command, the model, the exports.
@@ -38,12 +38,6 @@ enum class Kind {
   label   ///< one line without its line feed; no file of its own
 };
 
-/// How long a table is: its rows, and the days from one to the next. Of anything else, nothing.
-struct TableSize {
-  std::int64_t rows = 0;
-  double stepDays = 0.0;
-};
-
 /// What is said of a document.
 struct Entry {
   Document document = Document::count;
@@ -52,8 +46,8 @@ struct Entry {
   std::string_view heading;   ///< over it where several stand together
   std::string_view summary;   ///< one line of help
   Kind kind = Kind::label;
-  TableSize size;
-  std::string (*write)(const astro::Observer& observer, const TableSize& size) = nullptr;
+  reports::TableSize size;  ///< of a table; of anything else, nothing
+  std::string (*write)(const astro::Observer& observer, const reports::TableSize& size) = nullptr;
 };
 
 /// Every document, in their order.

@@ -115,7 +115,7 @@ bool AstronomyModel::setMoment(double baseTime) {
   const std::optional<astro::CalendarReading> reading =
       !isWithinReach(baseTime) ? std::nullopt
       : date_.useLocalTime && isOnGlobe(0.0, longitude)
-          ? astro::localCalendarReading(baseTime, longitude)
+          ? astro::localCalendarReading(observer().at(baseTime))
           : astro::calendarReading(baseTime);
   if (!reading) {
     return false;
@@ -164,6 +164,11 @@ double AstronomyModel::baseTime() const {
   return astro::localBaseTime(date_.year, date_.monthIndex, date_.dayIndex, date_.hour, longitude);
 }
 
+astro::Observer AstronomyModel::observer() const {
+  return {
+      .baseTime = baseTime(), .latitude = effectiveLatitude(), .longitude = effectiveLongitude()};
+}
+
 /// Whatever is done to the saved places also takes in what other programs did to them.
 template <class Change>
 void AstronomyModel::changeCities(Change change) {
@@ -202,12 +207,11 @@ void AstronomyModel::recalculate() {
   if (isCalculating_) {
     return;
   }
-  const CalculationInput input{effectiveLatitude(), effectiveLongitude(), baseTime(),
-                               horoscopeBlackAndWhite_};
+  const CalculationInput input{observer(), horoscopeBlackAndWhite_};
   std::optional<QString> refusal;
-  if (!isOnGlobe(input.latitude, input.longitude)) {
+  if (!isOnGlobe(input.observer.latitude, input.observer.longitude)) {
     refusal = QStringLiteral("This place is not on the globe.");
-  } else if (!isWithinReach(input.baseTime)) {
+  } else if (!isWithinReach(input.observer.baseTime)) {
     refusal = QStringLiteral("This moment is too far away to calculate.");
   }
   if (refusal) {
@@ -232,13 +236,14 @@ void AstronomyModel::recalculate() {
 }
 
 void AstronomyModel::publish(const CalculationResult& result) {
-  const CalculationInput& input = result.input;
+  const auto& [observer, blackAndWhite] = result.input;
   assign(starMapSVG_, result.starMapSVG, &AstronomyModel::starMapSVGChanged);
   assign(horoscopeSVG_, result.horoscopeSVG, &AstronomyModel::horoscopeSVGChanged);
-  assign(lastHoroscopeBasetime_, std::optional(input.baseTime),
+  assign(lastHoroscopeBasetime_, std::optional(observer.baseTime),
          &AstronomyModel::lastHoroscopeBasetimeChanged);
-  assign(lastHoroscopeLatitude_, input.latitude, &AstronomyModel::lastHoroscopeLatitudeChanged);
-  assign(lastHoroscopeLongitude_, input.longitude, &AstronomyModel::lastHoroscopeLongitudeChanged);
+  assign(lastHoroscopeLatitude_, observer.latitude, &AstronomyModel::lastHoroscopeLatitudeChanged);
+  assign(lastHoroscopeLongitude_, observer.longitude,
+         &AstronomyModel::lastHoroscopeLongitudeChanged);
   assign(basicTableHourly_, result.basicTableHourly, &AstronomyModel::basicTableHourlyChanged);
   assign(basicTableMonthly_, result.basicTableMonthly, &AstronomyModel::basicTableMonthlyChanged);
   assign(conjunctionDaily_, result.conjunctionDaily, &AstronomyModel::conjunctionDailyChanged);
@@ -252,7 +257,7 @@ void AstronomyModel::publish(const CalculationResult& result) {
   assign(nextNewMoonLabel_, result.nextNewMoonLabel, &AstronomyModel::nextNewMoonLabelChanged);
   const QPointer<AstronomyModel> self(this);  // whoever waited for the end may delete the model
   assign(isCalculating_, false, &AstronomyModel::isCalculatingChanged);
-  if (self && horoscopeBlackAndWhite_ != input.blackAndWhite) {
+  if (self && horoscopeBlackAndWhite_ != blackAndWhite) {
     regenerateHoroscope();
   }
 }
@@ -261,9 +266,10 @@ void AstronomyModel::regenerateHoroscope() {
   if (!lastHoroscopeBasetime_) {
     return;
   }
-  assign(horoscopeSVG_,
-         calculateHoroscope({lastHoroscopeLatitude_, lastHoroscopeLongitude_,
-                             *lastHoroscopeBasetime_, horoscopeBlackAndWhite_}),
+  const astro::Observer last{.baseTime = *lastHoroscopeBasetime_,
+                             .latitude = lastHoroscopeLatitude_,
+                             .longitude = lastHoroscopeLongitude_};
+  assign(horoscopeSVG_, calculateHoroscope({last, horoscopeBlackAndWhite_}),
          &AstronomyModel::horoscopeSVGChanged);
 }
 

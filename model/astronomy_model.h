@@ -115,6 +115,8 @@ class AstronomyModel : public QObject {
   /// The moment of the inputs, in days. Where it or the place is beyond what is calculated, the
   /// standard-time sum as it stands.
   [[nodiscard]] double baseTime() const;
+  /// The three together.
+  [[nodiscard]] astro::Observer observer() const;
 
   /// Takes in what another window or program has saved or deleted since. To be called where a list
   /// of places is about to be shown. A file that is missing or cannot be read changes nothing.

@@ -14,22 +14,22 @@
 namespace veyruna::model {
 
 CalculationResult calculate(const CalculationInput& input) {
-  const double t = input.baseTime;
+  const astro::Observer& observer = input.observer;
+  const double t = observer.baseTime;
   const double fullMoon = astro::nextPhase(t, astro::fullMoonElongation);
   const double newMoon = astro::nextPhase(t, astro::newMoonElongation);
-  const auto moonLabel = [&](double moon) {
-    return QString::fromStdString(astro::calendarLabelWithLocalClock(moon, input.longitude));
+  const auto moonLabel = [&observer](double moon) {
+    return QString::fromStdString(astro::calendarLabelWithLocalClock(observer.at(moon)));
   };
   return {
       input,
-      QString::fromStdString(
-          charts::starMap(t, input.latitude, input.longitude, charts::builtInCatalogue())),
+      QString::fromStdString(charts::starMap(observer, charts::builtInCatalogue())),
       calculateHoroscope(input),
-      QString::fromStdString(reports::ephemerisTable(24, t, 1.0 / 24.0, input.latitude)),
-      QString::fromStdString(reports::ephemerisTable(30, t, 1.0, input.latitude)),
-      QString::fromStdString(reports::conjunctionTable(144, t, 1.0 / 144.0)),
-      QString::fromStdString(reports::conjunctionTable(360, t, 1.0)),
-      reports::positionRows(t, input.latitude, input.longitude),
+      QString::fromStdString(reports::ephemerisTable(observer, {24, 1.0 / 24.0})),
+      QString::fromStdString(reports::ephemerisTable(observer, {30, 1.0})),
+      QString::fromStdString(reports::conjunctionTable(t, {144, 1.0 / 144.0})),
+      QString::fromStdString(reports::conjunctionTable(t, {360, 1.0})),
+      reports::positionRows(observer),
       QString::fromStdString(astro::calendarLabel(t)),
       moonLabel(fullMoon),
       moonLabel(newMoon),
@@ -39,9 +39,8 @@ CalculationResult calculate(const CalculationInput& input) {
 }
 
 QString calculateHoroscope(const CalculationInput& input) {
-  return QString::fromStdString(charts::horoscope(input.blackAndWhite, input.baseTime,
-                                                  input.latitude, input.longitude,
-                                                  charts::builtInCatalogue()));
+  return QString::fromStdString(
+      charts::horoscope(input.blackAndWhite, input.observer, charts::builtInCatalogue()));
 }
 
 bool isWithinReach(double baseTime) {

@@ -3,16 +3,15 @@
 #include <QString>
 #include <array>
 
+#include "astro/observer.h"
 #include "reports/positions.h"
 
 namespace veyruna::model {
 
 /// All that a calculation sees.
 struct CalculationInput {
-  double latitude;   ///< radians, north positive
-  double longitude;  ///< radians, east positive
-  double baseTime;   ///< days
-  bool blackAndWhite;
+  astro::Observer observer;
+  bool blackAndWhite = false;  ///< of the horoscope
 };
 
 /// Every output of one moment and place.

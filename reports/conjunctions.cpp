@@ -86,12 +86,12 @@ bool isConjunct(double a, double b) {
   return apart < closest || apart > acrossSeam;
 }
 
-void writeConjunctionTable(std::int64_t rows, double start, double step, const TextSink& sink) {
-  writeRows(header, rows, start, step, sink, appendRow);
+void writeConjunctionTable(double start, const TableSize& size, const TextSink& sink) {
+  writeRows(header, start, size, sink, appendRow);
 }
 
-std::string conjunctionTable(std::int64_t rows, double start, double step) {
-  return collected([&](const TextSink& sink) { writeConjunctionTable(rows, start, step, sink); });
+std::string conjunctionTable(double start, const TableSize& size) {
+  return collected([&](const TextSink& sink) { writeConjunctionTable(start, size, sink); });
 }
 
 }  // namespace veyruna::reports

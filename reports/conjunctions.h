@@ -1,8 +1,8 @@
 #pragma once
 
-#include <cstdint>
 #include <string>
 
+#include "reports/table_size.h"
 #include "reports/text_sink.h"
 
 namespace veyruna::reports {
@@ -13,10 +13,10 @@ bool isConjunct(double a, double b);
 /// The positions of moon, sun and planets, one line a moment, with a mark for every pair of planets
 /// that stand together. The planets' columns stand crossed: their longitudes in the first block,
 /// their right ascensions in the second.
-/// `rows` ≥ 0 (a negative count is a broken invariant), `start` and `step` in days of base time.
-std::string conjunctionTable(std::int64_t rows, double start, double step);
+/// It begins at `start`, in days of base time, and is the same everywhere on the world.
+std::string conjunctionTable(double start, const TableSize& size);
 
 /// The same table piece by piece; both header lines come in one piece.
-void writeConjunctionTable(std::int64_t rows, double start, double step, const TextSink& sink);
+void writeConjunctionTable(double start, const TableSize& size, const TextSink& sink);
 
 }  // namespace veyruna::reports

@@ -81,16 +81,15 @@ class EphemerisRows {
 
 }  // namespace
 
-void writeEphemerisTable(std::int64_t rows, double start, double step, double latitude,
+void writeEphemerisTable(const astro::Observer& observer, const TableSize& size,
                          const TextSink& sink) {
-  EphemerisRows table(latitude);
-  writeRows(header, rows, start, step, sink,
+  EphemerisRows table(observer.latitude);
+  writeRows(header, observer.baseTime, size, sink,
             [&table](std::string& row, double t) { table.append(row, t); });
 }
 
-std::string ephemerisTable(std::int64_t rows, double start, double step, double latitude) {
-  return collected(
-      [&](const TextSink& sink) { writeEphemerisTable(rows, start, step, latitude, sink); });
+std::string ephemerisTable(const astro::Observer& observer, const TableSize& size) {
+  return collected([&](const TextSink& sink) { writeEphemerisTable(observer, size, sink); });
 }
 
 }  // namespace veyruna::reports

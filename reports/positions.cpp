@@ -54,10 +54,11 @@ PositionRow rowOf(std::string_view name, std::string_view bodyType, const astro:
 
 }  // namespace
 
-std::array<PositionRow, 6> positionRows(double t, double latitude, double longitude) {
-  const astro::HorizonFrame horizon(t, longitude, latitude);
+std::array<PositionRow, 6> positionRows(const astro::Observer& observer) {
+  const double t = observer.baseTime;
+  const astro::HorizonFrame horizon(observer);
   const astro::Sun sun(t);
-  const astro::Moon moon(t, longitude, latitude);
+  const astro::Moon moon(observer);
   const auto planetRow = [&](astro::Planet planet) {
     const astro::Vec3D ecliptic = planetEcliptic(planet, t, sun);
     return rowOf(displayName(planet), bodyTypeOf(planet),

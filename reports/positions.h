@@ -4,6 +4,8 @@
 #include <span>
 #include <string>
 
+#include "astro/observer.h"
+
 namespace veyruna::reports {
 
 /// One moving body as an observer sees it.
@@ -17,8 +19,7 @@ struct PositionRow {
 };
 
 /// The six bodies in their fixed order: sun, moon (seen from the observer's place) and the planets.
-/// `t` in days of base time, place in radians, north and east positive.
-std::array<PositionRow, 6> positionRows(double t, double latitude, double longitude);
+std::array<PositionRow, 6> positionRows(const astro::Observer& observer);
 
 /// The rows as a table: two header lines, then one line a body. A name fills 13 characters.
 /// No rows give the header lines alone.

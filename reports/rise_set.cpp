@@ -59,16 +59,20 @@ RiseSetSearch::RiseSetSearch(const RisingBody& body, double latitude)
       cosLatitude_(std::cos(latitude)),
       sinLatitude_(std::sin(latitude)) {}
 
+astro::Observer RiseSetSearch::at(double t) const {
+  return {.baseTime = t, .latitude = latitude_, .longitude = referenceLongitude};
+}
+
 double RiseSetSearch::sineOfAltitude(double t) const {
   // The sine of an altitude is the product of two directions, the body's and the zenith's.
   const auto [x, y, z] = astro::product(astro::eclipticToEquatorial, body_.ecliptic(t).v);
-  const double sidereal = astro::localSiderealAngle(t, referenceLongitude);
+  const double sidereal = astro::localSiderealAngle(at(t));
   return cosLatitude_ * (x * std::cos(sidereal) + y * std::sin(sidereal)) + sinLatitude_ * z;
 }
 
 double RiseSetSearch::altitude(double t) const {
   const astro::Vec3D equatorial = rotated(body_.ecliptic(t), astro::eclipticToEquatorial);
-  return astro::toHorizon(equatorial, t, referenceLongitude, latitude_).theta;
+  return astro::toHorizon(equatorial, at(t)).theta;
 }
 
 double RiseSetSearch::signOfAltitude(double t) const {

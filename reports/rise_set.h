@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 
+#include "astro/observer.h"
 #include "astro/vec3d.h"
 
 namespace veyruna::reports {
@@ -34,6 +35,7 @@ class RiseSetSearch {
   void appendEvent(std::string& out, double start, double step);
 
  private:
+  [[nodiscard]] astro::Observer at(double t) const;
   [[nodiscard]] double sineOfAltitude(double t) const;
   [[nodiscard]] double altitude(double t) const;
   [[nodiscard]] double signOfAltitude(double t) const;

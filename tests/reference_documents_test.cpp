@@ -26,7 +26,8 @@ using tests::referenceCatalogue;
 class ReferenceDocuments : public testing::TestWithParam<ReferenceCase> {
  protected:
   const ReferenceCase& at = GetParam();
-  const double t = at.baseTime();
+  const astro::Observer observer = at.observer();
+  const double t = observer.baseTime;
 };
 
 /// The reference texts end with a line feed of their own.
@@ -47,51 +48,48 @@ TEST_P(ReferenceDocuments, DateLabel) {
 
 TEST_P(ReferenceDocuments, NextMoons) {
   const auto label = [this](double target) {
-    return line(astro::calendarLabelWithLocalClock(astro::nextPhase(t, target), at.longitude));
+    return line(astro::calendarLabelWithLocalClock(observer.at(astro::nextPhase(t, target))));
   };
   EXPECT_TRUE(isGolden(at.goldenName("moons.txt"),
                        label(astro::fullMoonElongation) + label(astro::newMoonElongation)));
 }
 
 TEST_P(ReferenceDocuments, Positions) {
-  EXPECT_TRUE(
-      isGolden(at.goldenName("positions.txt"),
-               reports::positionsTableText(reports::positionRows(t, at.latitude, at.longitude))));
+  EXPECT_TRUE(isGolden(at.goldenName("positions.txt"),
+                       reports::positionsTableText(reports::positionRows(observer))));
 }
 
 TEST_P(ReferenceDocuments, HourlyEphemeris) {
-  EXPECT_TRUE(isGolden(at.goldenName("hourly.txt"),
-                       reports::ephemerisTable(24, t, 1.0 / 24.0, at.latitude)));
+  EXPECT_TRUE(
+      isGolden(at.goldenName("hourly.txt"), reports::ephemerisTable(observer, {24, 1.0 / 24.0})));
 }
 
 TEST_P(ReferenceDocuments, MonthlyEphemeris) {
-  EXPECT_TRUE(
-      isGolden(at.goldenName("monthly.txt"), reports::ephemerisTable(30, t, 1.0, at.latitude)));
+  EXPECT_TRUE(isGolden(at.goldenName("monthly.txt"), reports::ephemerisTable(observer, {30, 1.0})));
 }
 
 TEST_P(ReferenceDocuments, DailyConjunctions) {
-  EXPECT_TRUE(isGolden(at.goldenName("daily.txt"), reports::conjunctionTable(144, t, 1.0 / 144.0)));
+  EXPECT_TRUE(
+      isGolden(at.goldenName("daily.txt"), reports::conjunctionTable(t, {144, 1.0 / 144.0})));
 }
 
 TEST_P(ReferenceDocuments, YearlyConjunctions) {
-  EXPECT_TRUE(isGolden(at.goldenName("yearly.txt"), reports::conjunctionTable(360, t, 1.0)));
+  EXPECT_TRUE(isGolden(at.goldenName("yearly.txt"), reports::conjunctionTable(t, {360, 1.0})));
 }
 
 TEST_P(ReferenceDocuments, StarMap) {
-  EXPECT_TRUE(isGolden(at.goldenName("star-map.svg"),
-                       charts::starMap(t, at.latitude, at.longitude, referenceCatalogue())));
+  EXPECT_TRUE(
+      isGolden(at.goldenName("star-map.svg"), charts::starMap(observer, referenceCatalogue())));
 }
 
 TEST_P(ReferenceDocuments, Horoscope) {
-  EXPECT_TRUE(
-      isGolden(at.goldenName("horoscope.svg"),
-               charts::horoscope(false, t, at.latitude, at.longitude, referenceCatalogue())));
+  EXPECT_TRUE(isGolden(at.goldenName("horoscope.svg"),
+                       charts::horoscope(false, observer, referenceCatalogue())));
 }
 
 TEST_P(ReferenceDocuments, HoroscopeInBlackAndWhite) {
-  EXPECT_TRUE(
-      isGolden(at.goldenName("horoscope-bw.svg"),
-               charts::horoscope(true, t, at.latitude, at.longitude, referenceCatalogue())));
+  EXPECT_TRUE(isGolden(at.goldenName("horoscope-bw.svg"),
+                       charts::horoscope(true, observer, referenceCatalogue())));
 }
 
 INSTANTIATE_TEST_SUITE_P(All, ReferenceDocuments, testing::ValuesIn(tests::referenceCases()),

@@ -36,7 +36,8 @@ TEST(AstroEdges, ZerosOfBothSignsAreTheSameMoment) {
   EXPECT_EQ(astro::Sun(-0.0).ec.phi, astro::Sun(0.0).ec.phi);
   EXPECT_EQ(astro::moonLongitude(-0.0), astro::moonLongitude(0.0));
   EXPECT_EQ(astro::calendarLabel(-0.0), astro::calendarLabel(0.0));
-  EXPECT_EQ(astro::localClockLabel(-0.0, -0.0), astro::localClockLabel(0.0, 0.0));
+  EXPECT_EQ(astro::localClockLabel({.baseTime = -0.0, .longitude = -0.0}),
+            astro::localClockLabel({.baseTime = 0.0, .longitude = 0.0}));
 }
 
 TEST(AstroEdges, ZerosOfBothSignsStayWhatTheyAreWhenWrapped) {
@@ -82,7 +83,7 @@ TEST(AstroEdges, AtThePolesTheSunKeepsItsAltitudeAllDay) {
   for (const double latitude : {halfPi, -halfPi}) {
     const Vec3D solstice(1.0, astro::obliquity);
     for (double t = 0.0; t < 1.0; t += 0.0625) {
-      const double altitude = toHorizon(solstice, t, 0.0, latitude).theta;
+      const double altitude = toHorizon(solstice, {t, latitude, 0.0}).theta;
       EXPECT_NEAR(altitude, latitude > 0.0 ? astro::obliquity : -astro::obliquity, 1e-12);
     }
   }
@@ -114,7 +115,7 @@ TEST(AstroEdges, ModelsEndAtHugeMoments) {
   for (const double t : hugeNumbers) {
     const astro::Sun sun(t);
     const astro::Moon moon(t);
-    const astro::Moon seen(t, 1e300, -1e300);
+    const astro::Moon seen({t, -1e300, 1e300});
     EXPECT_TRUE(sun.ec.phi >= 0.0 && sun.ec.phi < twoPi) << t;
     EXPECT_TRUE(moon.ec.phi >= 0.0 && moon.ec.phi < twoPi) << t;
     EXPECT_LE(std::abs(moon.ec.theta), astro::moonInclination) << t;
@@ -122,7 +123,7 @@ TEST(AstroEdges, ModelsEndAtHugeMoments) {
     for (const astro::Planet planet : astro::allPlanets) {
       EXPECT_LE(std::abs(planetEcliptic(planet, t).phi), pi) << t;
     }
-    EXPECT_LE(std::abs(toHorizon(sun.eq, t, 1e300, 1e300).theta), halfPi) << t;
+    EXPECT_LE(std::abs(toHorizon(sun.eq, {t, 1e300, 1e300}).theta), halfPi) << t;
   }
 }
 
@@ -145,8 +146,8 @@ TEST(AstroEdges, SearchesEndAtHugeMoments) {
 
 TEST(AstroEdges, ClocksEndAtHugeMomentsAndLongitudes) {
   for (const double huge : hugeNumbers) {
-    EXPECT_EQ(astro::localClockLabel(huge, 0.5).size(), 5U) << huge;
-    EXPECT_EQ(astro::localClockLabel(0.5, huge).size(), 5U) << huge;
+    EXPECT_EQ(astro::localClockLabel({.baseTime = huge, .longitude = 0.5}).size(), 5U) << huge;
+    EXPECT_EQ(astro::localClockLabel({.baseTime = 0.5, .longitude = huge}).size(), 5U) << huge;
     EXPECT_TRUE(std::isfinite(astro::localBaseTime(720, 0, 0, 12.0, huge))) << huge;
     EXPECT_TRUE(std::isfinite(astro::localBaseTime(720, 0, 0, huge, 0.0))) << huge;
   }
@@ -189,8 +190,10 @@ TEST(AstroEdgesDeathTest, MomentsBeyondTheCalendarStopTheProgram) {
 }
 
 TEST(AstroEdgesDeathTest, ClocksOfMomentsOrPlacesThatAreNoneStopTheProgram) {
-  EXPECT_DEATH(astro::localClockLabel(notANumber, 0.0), "a local clock reading is finite");
-  EXPECT_DEATH(astro::localClockLabel(0.0, infinity), "a local clock reading is finite");
+  EXPECT_DEATH(astro::localClockLabel({.baseTime = notANumber, .longitude = 0.0}),
+               "a local clock reading is finite");
+  EXPECT_DEATH(astro::localClockLabel({.baseTime = 0.0, .longitude = infinity}),
+               "a local clock reading is finite");
   EXPECT_DEATH(astro::localBaseTime(720, 0, 0, 12.0, notANumber), broken);
   EXPECT_DEATH(astro::localBaseTime(720, 0, 0, infinity, 0.0), broken);
 }

@@ -25,14 +25,17 @@ Vec3D bodyAt(double hourAngle, double declination) {
 }
 
 Vec3D seenFrom(double latitude, double hourAngle, double declination) {
-  return toHorizon(bodyAt(hourAngle, declination), 0.0, 0.0, latitude);
+  return toHorizon(bodyAt(hourAngle, declination), {0.0, latitude, 0.0});
 }
 
 TEST(Horizon, TheSiderealAngleIsTheLongitudePlusTheTurnOfTheSky) {
-  EXPECT_EQ(localSiderealAngle(0.0, 0.7), 0.7);
-  EXPECT_NEAR(localSiderealAngle(1.0, 0.0), astro::sunMeanMotion * twoPi, 1e-14);
-  EXPECT_NEAR(localSiderealAngle(1.0 / astro::siderealRate, 0.0), 0.0, 1e-14);
-  EXPECT_NEAR(localSiderealAngle(-0.25 / astro::siderealRate, 3.0), 3.0 + 1.5 * pi, 1e-14);
+  EXPECT_EQ(localSiderealAngle({.baseTime = 0.0, .longitude = 0.7}), 0.7);
+  EXPECT_NEAR(localSiderealAngle({.baseTime = 1.0, .longitude = 0.0}), astro::sunMeanMotion * twoPi,
+              1e-14);
+  EXPECT_NEAR(localSiderealAngle({.baseTime = 1.0 / astro::siderealRate, .longitude = 0.0}), 0.0,
+              1e-14);
+  EXPECT_NEAR(localSiderealAngle({.baseTime = -0.25 / astro::siderealRate, .longitude = 3.0}),
+              3.0 + 1.5 * pi, 1e-14);
 }
 
 TEST(Horizon, OnTheEquatorACelestialEquatorBodyOnTheMeridianIsAtTheZenith) {
@@ -80,8 +83,8 @@ RC_GTEST_PROP(Horizon, OnceMoreAroundTheWorldIsTheSamePlace, ()) {
   const double t = *tests::momentsWithin(1e6);
   const double longitude = *tests::longitudes();
   const double latitude = *tests::latitudes();
-  const Vec3D here = toHorizon(body, t, longitude, latitude);
-  const Vec3D around = toHorizon(body, t, longitude + twoPi, latitude);
+  const Vec3D here = toHorizon(body, {t, latitude, longitude});
+  const Vec3D around = toHorizon(body, {t, latitude, longitude + twoPi});
   for (std::size_t i = 0; i < 3; ++i) {
     RC_ASSERT(std::abs(here.v[i] - around.v[i]) < 1e-12);
   }
@@ -93,8 +96,9 @@ RC_GTEST_PROP(Horizon, AgreesWithTheSphericalTriangle, ()) {
   const double t = *tests::momentsWithin(1e6);
   const double longitude = *tests::longitudes();
   const double latitude = *tests::latitudes();
-  const double hourAngle = localSiderealAngle(t, longitude) - rightAscension;
-  const Vec3D seen = toHorizon(Vec3D(rightAscension, declination), t, longitude, latitude);
+  const double hourAngle =
+      localSiderealAngle({.baseTime = t, .longitude = longitude}) - rightAscension;
+  const Vec3D seen = toHorizon(Vec3D(rightAscension, declination), {t, latitude, longitude});
   const double south = std::sin(latitude) * std::cos(declination) * std::cos(hourAngle) -
                        std::cos(latitude) * std::sin(declination);
   const double west = std::cos(declination) * std::sin(hourAngle);
@@ -110,9 +114,9 @@ RC_GTEST_PROP(Horizon, OneFrameServesEveryBodyAlike, ()) {
   const double t = *tests::moments();
   const double longitude = *tests::longitudes();
   const double latitude = *tests::latitudes();
-  const astro::HorizonFrame frame(t, longitude, latitude);
+  const astro::HorizonFrame frame({t, latitude, longitude});
   const Vec3D body(*tests::between(0.0, twoPi), *tests::between(-halfPi, halfPi));
-  const Vec3D single = toHorizon(body, t, longitude, latitude);
+  const Vec3D single = toHorizon(body, {t, latitude, longitude});
   RC_ASSERT(frame.toHorizon(body).v == single.v);
   RC_ASSERT(frame.toHorizonComponents(body) == single.v);
   RC_ASSERT(single.phi >= 0.0 && single.phi <= twoPi);

@@ -82,28 +82,30 @@ TEST(LocalTime, TheSameHourHalfAWorldAwayIsHalfADayAway) {
 TEST(LocalTime, AtLocalNoonTheSunStandsInTheSouth) {
   const double longitude = inRadians(25.3);
   const double t = localBaseTime(1243, 6, 18, 12.0, longitude);
-  const astro::Vec3D sun = astro::toHorizon(astro::Sun(t).eq, t, longitude, inRadians(60.0));
+  const astro::Vec3D sun = astro::toHorizon(astro::Sun(t).eq, {t, inRadians(60.0), longitude});
   EXPECT_NEAR(tests::apart(sun.phi, 0.0), 0.0, 1e-4);
-  EXPECT_EQ(localClockLabel(t, longitude), "12:00");
+  EXPECT_EQ(localClockLabel({.baseTime = t, .longitude = longitude}), "12:00");
 }
 
 TEST(LocalTime, EastOfTheReferenceMeridianClocksAreAhead) {
-  EXPECT_NEAR(minutesApart(minutesOf(localClockLabel(1000.25, inRadians(15.0))),
-                           minutesOf(localClockLabel(1000.25, 0.0))),
-              60.0, 1.0);
+  EXPECT_NEAR(
+      minutesApart(minutesOf(localClockLabel({.baseTime = 1000.25, .longitude = inRadians(15.0)})),
+                   minutesOf(localClockLabel({.baseTime = 1000.25, .longitude = 0.0}))),
+      60.0, 1.0);
 }
 
 TEST(LocalTime, TheLabelOfAPhaseCarriesBothClocks) {
-  EXPECT_EQ(astro::calendarLabelWithLocalClock(258840.0, 1.0),
-            "720-01-01 12:00 OST  (local " + localClockLabel(258840.0, 1.0) + ")");
+  EXPECT_EQ(astro::calendarLabelWithLocalClock({.baseTime = 258840.0, .longitude = 1.0}),
+            "720-01-01 12:00 OST  (local " +
+                localClockLabel({.baseTime = 258840.0, .longitude = 1.0}) + ")");
 }
 
 TEST(LocalTime, TheMinuteBeforeMidnightRoundsToMidnight) {
   // A clock never reads 24:00.
   const double midnight = localBaseTime(720, 0, 0, 24.0, 0.5);
-  EXPECT_EQ(localClockLabel(midnight, 0.5), "00:00");
-  EXPECT_EQ(localClockLabel(midnight - 10.0 / 86400.0, 0.5), "00:00");
-  EXPECT_EQ(localClockLabel(midnight - 50.0 / 86400.0, 0.5), "23:59");
+  EXPECT_EQ(localClockLabel({.baseTime = midnight, .longitude = 0.5}), "00:00");
+  EXPECT_EQ(localClockLabel({.baseTime = midnight - 10.0 / 86400.0, .longitude = 0.5}), "00:00");
+  EXPECT_EQ(localClockLabel({.baseTime = midnight - 50.0 / 86400.0, .longitude = 0.5}), "23:59");
 }
 
 RC_GTEST_PROP(LocalTime, TheLocalClockReadsTheHourAskedFor, ()) {
@@ -112,7 +114,9 @@ RC_GTEST_PROP(LocalTime, TheLocalClockReadsTheHourAskedFor, ()) {
   const double t = localBaseTime(*tests::wholeBetween(1, 3000), *tests::wholeBetween(0, 11),
                                  *tests::wholeBetween(0, 29), hour, longitude);
   // The search ends within 1e-5 rad, a seventh of a second; the rest is the rounding to minutes.
-  RC_ASSERT(std::abs(minutesApart(minutesOf(localClockLabel(t, longitude)), hour * 60.0)) <= 0.51);
+  RC_ASSERT(
+      std::abs(minutesApart(minutesOf(localClockLabel({.baseTime = t, .longitude = longitude})),
+                            hour * 60.0)) <= 0.51);
 }
 
 RC_GTEST_PROP(LocalTime, LiesWithinHalfADayAndTheTiltOfTheStandardHour, ()) {
@@ -125,8 +129,9 @@ RC_GTEST_PROP(LocalTime, LiesWithinHalfADayAndTheTiltOfTheStandardHour, ()) {
 RC_GTEST_PROP(LocalTime, FifteenDegreesAreAnHour, ()) {
   const double t = *tests::momentsWithin(1e6);
   const double longitude = *tests::longitudes();
-  const double here = minutesOf(localClockLabel(t, longitude));
-  const double there = minutesOf(localClockLabel(t, longitude + inRadians(15.0)));
+  const double here = minutesOf(localClockLabel({.baseTime = t, .longitude = longitude}));
+  const double there =
+      minutesOf(localClockLabel({.baseTime = t, .longitude = longitude + inRadians(15.0)}));
   RC_ASSERT(std::abs(minutesApart(there, here) - 60.0) <= 1.0);
 }
 
@@ -134,9 +139,11 @@ RC_GTEST_PROP(LocalTime, TheClockReadsTheHourAngleOfTheSun, ()) {
   const double t = *tests::momentsWithin(1e6);
   const double longitude = *tests::longitudes();
   // From the north pole the azimuth is the hour angle itself.
-  const astro::Vec3D sun = astro::toHorizon(astro::Sun(t).eq, t, longitude, astro::halfPi);
+  const astro::Vec3D sun = astro::toHorizon(astro::Sun(t).eq, {t, astro::halfPi, longitude});
   const double minutes = (sun.phi * 12.0 / astro::pi + 12.0) * 60.0;
-  RC_ASSERT(std::abs(minutesApart(minutesOf(localClockLabel(t, longitude)), minutes)) <= 0.5001);
+  RC_ASSERT(std::abs(minutesApart(
+                minutesOf(localClockLabel({.baseTime = t, .longitude = longitude})), minutes)) <=
+            0.5001);
 }
 
 double baseTimeOf(const astro::CalendarReading& reading, double longitude) {
@@ -147,17 +154,17 @@ RC_GTEST_PROP(LocalTime, AReadingGivesBackItsMomentWithinAMinute, ()) {
   const double t = std::abs(*tests::momentsWithin(1e6)) + 1.0;
   // Nearer to 180 degrees some moments have no reading.
   const double longitude = *tests::between(inRadians(-177.0), inRadians(177.0));
-  const auto reading = localCalendarReading(t, longitude);
+  const auto reading = localCalendarReading({.baseTime = t, .longitude = longitude});
   RC_ASSERT(reading.has_value());
   RC_ASSERT(std::abs(baseTimeOf(*reading, longitude) - t) * 1440.0 < 0.51);
   const auto minutes = static_cast<double>(static_cast<std::int64_t>(reading->hour * 60.0 + 0.5));
-  RC_ASSERT(minutesOf(localClockLabel(t, longitude)) == minutes);
+  RC_ASSERT(minutesOf(localClockLabel({.baseTime = t, .longitude = longitude})) == minutes);
 }
 
 RC_GTEST_PROP(LocalTime, AReadingAtTheSeamGivesBackItsMomentOrIsNone, ()) {
   const double t = std::abs(*tests::momentsWithin(1e6)) + 1.0;
   const double longitude = *rc::gen::element(-1.0, 1.0) * *tests::between(3.0, astro::pi);
-  const auto reading = localCalendarReading(t, longitude);
+  const auto reading = localCalendarReading({.baseTime = t, .longitude = longitude});
   RC_CLASSIFY(!reading.has_value(), "no reading");
   RC_ASSERT(!reading || std::abs(baseTimeOf(*reading, longitude) - t) * 1440.0 < 0.51);
 }
@@ -168,26 +175,29 @@ RC_GTEST_PROP(LocalTime, AnEnteredMinuteIsReadBack, ()) {
       astro::hourOfClock(static_cast<double>(*tests::wholeBetween(0, 23)),
                          static_cast<double>(*tests::wholeBetween(0, 59)))};
   const double longitude = *tests::between(inRadians(-177.0), inRadians(177.0));
-  RC_ASSERT(localCalendarReading(baseTimeOf(entered, longitude), longitude) == entered);
+  RC_ASSERT(localCalendarReading(
+                {.baseTime = baseTimeOf(entered, longitude), .longitude = longitude}) == entered);
 }
 
 TEST(LocalTime, MidnightIsReadAsTheDayThatBegins) {
   const double midnight = localBaseTime(720, 0, 0, 24.0, 0.5);
-  EXPECT_EQ(localCalendarReading(midnight, 0.5), (astro::CalendarReading{720, 0, 1, 0.0}));
-  EXPECT_EQ(localCalendarReading(midnight - 10.0 / 86400.0, 0.5),
+  EXPECT_EQ(localCalendarReading({.baseTime = midnight, .longitude = 0.5}),
             (astro::CalendarReading{720, 0, 1, 0.0}));
-  EXPECT_EQ(localCalendarReading(midnight - 50.0 / 86400.0, 0.5),
+  EXPECT_EQ(localCalendarReading({.baseTime = midnight - 10.0 / 86400.0, .longitude = 0.5}),
+            (astro::CalendarReading{720, 0, 1, 0.0}));
+  EXPECT_EQ(localCalendarReading({.baseTime = midnight - 50.0 / 86400.0, .longitude = 0.5}),
             (astro::CalendarReading{720, 0, 0, astro::hourOfClock(23, 59)}));
 }
 
 TEST(LocalTime, BeforeTheFirstLocalMidnightNothingIsRead) {
   const double first = localBaseTime(1, 0, 0, 0.0, -1.0);
   EXPECT_GT(first, -0.5);
-  EXPECT_EQ(localCalendarReading(first + 1e-4, -1.0), (astro::CalendarReading{1, 0, 0, 0.0}));
-  EXPECT_EQ(localCalendarReading(first - 0.01, -1.0), std::nullopt);
-  EXPECT_EQ(localCalendarReading(-3.0, 1.0), std::nullopt);
-  EXPECT_EQ(localCalendarReading(2e9, 1.0), std::nullopt);
-  EXPECT_EQ(localCalendarReading(std::nan(""), 1.0), std::nullopt);
+  EXPECT_EQ(localCalendarReading({.baseTime = first + 1e-4, .longitude = -1.0}),
+            (astro::CalendarReading{1, 0, 0, 0.0}));
+  EXPECT_EQ(localCalendarReading({.baseTime = first - 0.01, .longitude = -1.0}), std::nullopt);
+  EXPECT_EQ(localCalendarReading({.baseTime = -3.0, .longitude = 1.0}), std::nullopt);
+  EXPECT_EQ(localCalendarReading({.baseTime = 2e9, .longitude = 1.0}), std::nullopt);
+  EXPECT_EQ(localCalendarReading({.baseTime = std::nan(""), .longitude = 1.0}), std::nullopt);
 }
 
 }  // namespace

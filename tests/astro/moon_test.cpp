@@ -43,7 +43,7 @@ TEST(Moon, FromTheWorldsCentreItHasNoDistance) {
 }
 
 RC_GTEST_PROP(Moon, FromAnObserverItIsAboutSixtyRadiiAway, ()) {
-  const Moon moon(*tests::moments(), *tests::longitudes(), *tests::latitudes());
+  const Moon moon({*tests::moments(), *tests::latitudes(), *tests::longitudes()});
   RC_ASSERT(std::abs(moon.ec.r - astro::moonDistance) <= 1.0 + 1e-12);
   RC_ASSERT(std::abs(moon.eq.r - moon.ec.r) < 1e-12);
 }
@@ -72,7 +72,7 @@ RC_GTEST_PROP(Moon, BothFramesShowTheSameDirection, ()) {
 /// From the world's centre to the observer, in the equatorial frame: what parts the two moons.
 Vec3D observerOf(double t, double longitude, double latitude) {
   const Moon centre(t);
-  const Moon seen(t, longitude, latitude);
+  const Moon seen({t, latitude, longitude});
   const Vec3D observer(astro::moonDistance * centre.ec.v[0] - seen.ec.v[0],
                        astro::moonDistance * centre.ec.v[1] - seen.ec.v[1],
                        astro::moonDistance * centre.ec.v[2] - seen.ec.v[2]);
@@ -98,7 +98,7 @@ RC_GTEST_PROP(Moon, TheObserversMeridianTurnsOncePerSolarDay, ()) {
 RC_GTEST_PROP(Moon, TheObserverSeesItAtMostADegreeAside, ()) {
   const double t = *tests::moments();
   const Moon centre(t);
-  const Moon seen(t, *tests::longitudes(), *tests::latitudes());
+  const Moon seen({t, *tests::latitudes(), *tests::longitudes()});
   const double cosine = (centre.ec.v[0] * seen.ec.v[0] + centre.ec.v[1] * seen.ec.v[1] +
                          centre.ec.v[2] * seen.ec.v[2]) /
                         seen.ec.r;

@@ -13,16 +13,15 @@
 namespace veyruna::charts {
 namespace {
 
-using tests::Observer;
+using astro::Observer;
 
 double heightOfEcliptic(const Observer& at, double longitude) {
-  return at.sineOfAltitude(tests::equatorialOfEcliptic(longitude));
+  return tests::sineOfAltitude(at, tests::equatorialOfEcliptic(longitude));
 }
 
 /// Positive west of the meridian, negative east of it.
 double hourAngleOfEcliptic(const Observer& at, double longitude) {
-  return tests::nearZero(tests::meridian(at.t, at.longitude) -
-                         tests::equatorialOfEcliptic(longitude).phi);
+  return tests::nearZero(tests::meridian(at) - tests::equatorialOfEcliptic(longitude).phi);
 }
 
 /// The longitude on the horizon in the east. Going along the ecliptic with growing longitude, what
@@ -45,8 +44,7 @@ double risingLongitude(const Observer& at) {
 
 struct Wheel {
   explicit Wheel(const Observer& at)
-      : elements(tests::readXml(
-            horoscope(false, at.t, at.latitude, at.longitude, StarCatalogue({}, {})))) {}
+      : elements(tests::readXml(horoscope(false, at, StarCatalogue({}, {})))) {}
 
   /// The rest of the one text that begins so.
   [[nodiscard]] std::string textAfter(const std::string& beginning) const {
@@ -86,7 +84,7 @@ RC_GTEST_PROP(Ascendant, IsOnTheHorizonInTheEast, ()) {
 Observer seesRising(double longitude, double t, double latitude) {
   const tests::Place point = tests::equatorialOfEcliptic(longitude);
   const double hourAngle = -std::acos(-std::tan(latitude) * std::tan(point.theta));
-  return {t, latitude, tests::nearZero(point.phi + hourAngle - tests::meridian(t, 0.0))};
+  return {t, latitude, tests::nearZero(point.phi + hourAngle - tests::meridian({.baseTime = t}))};
 }
 
 RC_GTEST_PROP(Ascendant, ChangesItsSignWithinABillionthOfARadian, ()) {
@@ -130,7 +128,7 @@ RC_GTEST_PROP(Midheaven, StandsOnTheMeridianAboveThePole, ()) {
 
 RC_GTEST_PROP(SunHourAngle, IsHowFarTheSunHasPassedTheMeridian, ()) {
   const Observer at = tests::someObserver();
-  const double expected = tests::degrees(hourAngleOfEcliptic(at, astro::sunLongitude(at.t)));
+  const double expected = tests::degrees(hourAngleOfEcliptic(at, astro::sunLongitude(at.baseTime)));
   const double printed = hourAngleAndMidheaven(Wheel(at)).first;
   RC_ASSERT(printed >= -180.0);
   RC_ASSERT(printed <= 180.0);

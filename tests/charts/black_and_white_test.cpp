@@ -43,8 +43,8 @@ StarCatalogue colourfulSky() {
 class BlackAndWhite : public testing::TestWithParam<double> {
  protected:
   const StarCatalogue sky = colourfulSky();
-  const std::vector<std::string> inColour = linesOf(horoscope(false, GetParam(), 0.7, 1.1, sky));
-  const std::vector<std::string> onPaper = linesOf(horoscope(true, GetParam(), 0.7, 1.1, sky));
+  const std::vector<std::string> inColour = linesOf(horoscope(false, {GetParam(), 0.7, 1.1}, sky));
+  const std::vector<std::string> onPaper = linesOf(horoscope(true, {GetParam(), 0.7, 1.1}, sky));
 };
 
 TEST_P(BlackAndWhite, ChangesTheListedThingsAndNothingElse) {

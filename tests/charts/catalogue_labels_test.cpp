@@ -38,7 +38,7 @@ struct Box {
 /// The wheel of the shipped sky; where the wanderers stand does not matter to the names.
 struct Names {
   explicit Names(bool blackAndWhite)
-      : elements(tests::readXml(horoscope(blackAndWhite, 0.0, 0.5, 0.0, builtInCatalogue()))) {
+      : elements(tests::readXml(horoscope(blackAndWhite, {0.0, 0.5, 0.0}, builtInCatalogue()))) {
     std::set<std::string> fixed;
     for (const FixedStar* const label : tests::surveyOfTheSky().labels) {
       fixed.insert(label->name);

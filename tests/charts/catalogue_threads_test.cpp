@@ -24,8 +24,8 @@ bool drawAtOnce() {
     threads[i] = std::thread([&, i] {
       start.arrive_and_wait();
       catalogues[i] = &builtInCatalogue();
-      documents[i] = starMap(258840.0, 0.7, -0.36, *catalogues[i]) +
-                     horoscope(false, 258840.0, 0.7, -0.36, *catalogues[i]);
+      documents[i] = starMap({258840.0, 0.7, -0.36}, *catalogues[i]) +
+                     horoscope(false, {258840.0, 0.7, -0.36}, *catalogues[i]);
     });
   }
   for (std::thread& thread : threads) {

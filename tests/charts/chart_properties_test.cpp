@@ -11,14 +11,14 @@
 namespace veyruna::charts {
 namespace {
 
-using tests::Observer;
+using astro::Observer;
 
 std::string wheelFor(const Observer& at, const StarCatalogue& sky, bool blackAndWhite = false) {
-  return horoscope(blackAndWhite, at.t, at.latitude, at.longitude, sky);
+  return horoscope(blackAndWhite, at, sky);
 }
 
 std::string mapFor(const Observer& at, const StarCatalogue& sky) {
-  return starMap(at.t, at.latitude, at.longitude, sky);
+  return starMap(at, sky);
 }
 
 /// A name as a catalogue may hold it: any characters but the comma and those XML cannot carry.
@@ -49,9 +49,9 @@ RC_GTEST_PROP(Charts, CarryAnyNameWholeAndWellFormed, ()) {
   const Observer at = tests::someObserver();
   const std::string name = someName();
   // At the zenith, so that the star map shows it too.
-  const StarCatalogue sky({makeStar(name, true, "#f4f4f3", tests::meridian(at.t, at.longitude),
-                                    at.latitude, *rc::gen::inRange(0, 3))},
-                          {});
+  const StarCatalogue sky(
+      {makeStar(name, true, "#f4f4f3", tests::meridian(at), at.latitude, *rc::gen::inRange(0, 3))},
+      {});
   for (const std::string& document : {mapFor(at, sky), wheelFor(at, sky)}) {
     const auto texts = tests::textsOf(tests::readXml(document));
     RC_ASSERT(std::count(texts.begin(), texts.end(), name) == 1);
@@ -102,7 +102,7 @@ RC_GTEST_PROP(Charts, ShowTheFixedStarsAtOnePlaceOfTheWheel, ()) {
 // Both charts at a whole turn of longitude further east: the same sky, only the header differs.
 RC_GTEST_PROP(Charts, AWholeTurnEastIsTheSamePlace, ()) {
   const Observer at = tests::someObserver(80);
-  const Observer turned{at.t, at.latitude, at.longitude + tests::fullTurn};
+  const Observer turned{at.baseTime, at.latitude, at.longitude + tests::fullTurn};
   const auto names = [](const std::string& document) {
     auto texts = tests::textsOf(tests::readXml(document));
     std::erase_if(texts, [](const std::string& text) {
@@ -111,7 +111,8 @@ RC_GTEST_PROP(Charts, AWholeTurnEastIsTheSamePlace, ()) {
     return texts;
   };
   const StarCatalogue sky({}, {});
-  const double sun = at.sineOfAltitude(tests::equatorialOfEcliptic(astro::sunLongitude(at.t)));
+  const double sun =
+      tests::sineOfAltitude(at, tests::equatorialOfEcliptic(astro::sunLongitude(at.baseTime)));
   RC_PRE(std::abs(sun) > tests::horizonMargin);
   RC_ASSERT(names(wheelFor(at, sky)) == names(wheelFor(turned, sky)));
 }

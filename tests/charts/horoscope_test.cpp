@@ -21,11 +21,11 @@ FixedStar named(const std::string& name, double longitude, double latitude, doub
 }
 
 std::string wheelWith(const FixedStar& entry, bool blackAndWhite = false) {
-  return horoscope(blackAndWhite, 1000.25, 0.5, -0.25, StarCatalogue({entry}, {}));
+  return horoscope(blackAndWhite, {1000.25, 0.5, -0.25}, StarCatalogue({entry}, {}));
 }
 
 std::string emptyWheel(double t, double latitude, double longitude) {
-  return horoscope(false, t, latitude, longitude, StarCatalogue({}, {}));
+  return horoscope(false, {t, latitude, longitude}, StarCatalogue({}, {}));
 }
 
 bool contains(const std::string& document, const std::string& part) {

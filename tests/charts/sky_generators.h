@@ -26,17 +26,7 @@ inline rc::Gen<double> someAngle(int limitDegrees) {
                       [](int i) { return radians(static_cast<double>(i) * 1e-6); });
 }
 
-struct Observer {
-  double t;
-  double latitude;
-  double longitude;
-
-  [[nodiscard]] double sineOfAltitude(const Place& equatorial) const {
-    return tests::sineOfAltitude(equatorial, t, latitude, longitude);
-  }
-};
-
-inline Observer someObserver(int limitDegrees = 90) {
+inline astro::Observer someObserver(int limitDegrees = 90) {
   const double t = *someTime();
   const double latitude = *someAngle(limitDegrees);
   return {t, latitude, *someAngle(180)};

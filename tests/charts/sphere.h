@@ -3,6 +3,8 @@
 #include <array>
 #include <cmath>
 
+#include "astro/observer.h"
+
 /// Spherical trigonometry for the charts' tests, by the textbook's triangles instead of the
 /// program's frames and matrices. Angles in radians unless a name says degrees.
 namespace veyruna::tests {
@@ -80,16 +82,16 @@ inline Place equatorialOfEcliptic(double longitude) {
 }
 
 /// Right ascension of the observer's meridian. The sky turns once a day and once more a year.
-inline double meridian(double t, double longitude) {
-  const double turns = t * 1.0027777692901494;
-  return longitude + (turns - std::floor(turns)) * fullTurn;
+inline double meridian(const astro::Observer& at) {
+  const double turns = at.baseTime * 1.0027777692901494;
+  return at.longitude + (turns - std::floor(turns)) * fullTurn;
 }
 
 /// The sine of the altitude, from the triangle of pole, zenith and star.
-inline double sineOfAltitude(const Place& equatorial, double t, double latitude, double longitude) {
-  const double hourAngle = meridian(t, longitude) - equatorial.phi;
-  return std::sin(latitude) * std::sin(equatorial.theta) +
-         std::cos(latitude) * std::cos(equatorial.theta) * std::cos(hourAngle);
+inline double sineOfAltitude(const astro::Observer& at, const Place& equatorial) {
+  const double hourAngle = meridian(at) - equatorial.phi;
+  return std::sin(at.latitude) * std::sin(equatorial.theta) +
+         std::cos(at.latitude) * std::cos(equatorial.theta) * std::cos(hourAngle);
 }
 
 }  // namespace veyruna::tests

@@ -79,14 +79,12 @@ TEST(Command, WritesTheReferenceMoment) {
 TEST(Command, DrawsTheChartsWithTheProgramsOwnSky) {
   const charts::StarCatalogue& sky = charts::builtInCatalogue();
   for (const tests::ReferenceCase& at : tests::referenceCases()) {
-    const double t = at.baseTime();
     // Without the texts in the message: they are long.
-    EXPECT_TRUE(documentOf(typed(at) + words("star-map")) ==
-                charts::starMap(t, at.latitude, at.longitude, sky));
+    EXPECT_TRUE(documentOf(typed(at) + words("star-map")) == charts::starMap(at.observer(), sky));
     EXPECT_TRUE(documentOf(typed(at) + words("horoscope")) ==
-                charts::horoscope(false, t, at.latitude, at.longitude, sky));
+                charts::horoscope(false, at.observer(), sky));
     EXPECT_TRUE(documentOf(typed(at) + words("horoscope --bw")) ==
-                charts::horoscope(true, t, at.latitude, at.longitude, sky));
+                charts::horoscope(true, at.observer(), sky));
   }
 }
 
@@ -136,13 +134,13 @@ TEST(Command, TablesOfOnesOwn) {
   const double t = astro::standardBaseTime(1200, 2, 9, 18.25);
   const Words moment = words("--year 1200 --month Dovri --day 10 --hour 18.25 --lat 60S");
   EXPECT_EQ(documentOf(moment + words("ephemeris --rows 40 --step -2.5")),
-            reports::ephemerisTable(40, t, -2.5, -inRadians(60.0)));
+            reports::ephemerisTable({t, -inRadians(60.0)}, {40, -2.5}));
   EXPECT_EQ(documentOf(moment + words("conjunctions --rows 40 --step 1/7")),
-            reports::conjunctionTable(40, t, 1.0 / 7.0));
+            reports::conjunctionTable(t, {40, 1.0 / 7.0}));
   EXPECT_EQ(documentOf(moment + words("ephemeris --rows 0 --step 1")),
-            reports::ephemerisTable(0, t, 1.0, 0.0));
+            reports::ephemerisTable({t, 0.0}, {0, 1.0}));
   EXPECT_EQ(documentOf(moment + words("conjunctions --rows 1 --step 0")),
-            reports::conjunctionTable(1, t, 0.0));
+            reports::conjunctionTable(t, {1, 0.0}));
 }
 
 TEST(Command, ABaseTimeNamesItsMomentExactly) {

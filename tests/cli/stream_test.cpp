@@ -28,7 +28,7 @@ TEST(Pipe, AReaderThatHasSeenEnoughEndsItQuietly) {
   for (const bool ignored : {false, true}) {
     Process table(
         {.arguments = words("conjunctions --rows 5000000 --step 1"), .ignoresPipeSignal = ignored});
-    const std::string header = reports::conjunctionTable(0, 0.0, 1.0);
+    const std::string header = reports::conjunctionTable(0.0, {0, 1.0});
     EXPECT_EQ(table.firstLineThenClose(), header.substr(0, header.find('\n') + 1));
     const Outcome outcome = table.outcome();
     EXPECT_EQ(outcome.err, "");

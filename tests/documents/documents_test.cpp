@@ -19,14 +19,10 @@ using documents::Kind;
 using documents::textOf;
 using tests::fileContent;
 
-astro::Observer observerOf(const tests::ReferenceCase& at) {
-  return {at.baseTime(), at.latitude, at.longitude};
-}
-
 class Documents : public testing::TestWithParam<tests::ReferenceCase> {
  protected:
   const tests::ReferenceCase& at = GetParam();
-  const astro::Observer observer = observerOf(at);
+  const astro::Observer observer = at.observer();
 };
 
 TEST_P(Documents, AreThoseOfTheReferences) {
@@ -46,12 +42,9 @@ TEST_P(Documents, AreThoseOfTheReferences) {
 
 TEST_P(Documents, ChartsShowTheProgramsOwnSky) {
   const charts::StarCatalogue& stars = charts::builtInCatalogue();
-  EXPECT_EQ(textOf(Document::starMap, observer),
-            charts::starMap(observer.baseTime, at.latitude, at.longitude, stars));
-  EXPECT_EQ(textOf(Document::horoscope, observer),
-            charts::horoscope(false, observer.baseTime, at.latitude, at.longitude, stars));
-  EXPECT_EQ(textOf(Document::horoscopeOnPaper, observer),
-            charts::horoscope(true, observer.baseTime, at.latitude, at.longitude, stars));
+  EXPECT_EQ(textOf(Document::starMap, observer), charts::starMap(observer, stars));
+  EXPECT_EQ(textOf(Document::horoscope, observer), charts::horoscope(false, observer, stars));
+  EXPECT_EQ(textOf(Document::horoscopeOnPaper, observer), charts::horoscope(true, observer, stars));
 }
 
 TEST_P(Documents, TheMomentIsItsLabelsUnderTheirHeadings) {

@@ -28,7 +28,7 @@ TEST(Moment, MoonsAreWhatTheirLabelsRead) {
   AstronomyModel& model = world.model;
   const auto label = [&](std::optional<double> moon) {
     return QString::fromStdString(
-        moon ? astro::calendarLabelWithLocalClock(*moon, model.effectiveLongitude()) : "none");
+        moon ? astro::calendarLabelWithLocalClock(model.observer().at(*moon)) : "none");
   };
   QStringList heard;  // both are there when either label is signalled
   for (const auto signal :
@@ -64,9 +64,8 @@ TEST(Moment, InLocalTimeTheHourIsThePlaces) {
   const double moon = model.nextNewMoonBaseTime().value();
   ASSERT_TRUE(model.setMoment(moon));
   EXPECT_NEAR(model.baseTime(), moon, minute / 2.0 + 0.5 / 86400.0);
-  const double longitude = model.effectiveLongitude();
-  EXPECT_EQ(astro::localClockLabel(model.baseTime(), longitude),
-            astro::localClockLabel(moon, longitude));
+  EXPECT_EQ(astro::localClockLabel(model.observer()),
+            astro::localClockLabel(model.observer().at(moon)));
   // 20.9 degrees west the place's clock is well behind.
   const auto standard = astro::calendarReading(moon);
   ASSERT_TRUE(standard.has_value());

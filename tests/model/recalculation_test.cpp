@@ -14,8 +14,7 @@ using tests::FakeModel;
 using Names = tests::ChangeLog::Names;
 
 std::string horoscopeOf(bool blackAndWhite, const AstronomyModel& model) {
-  return charts::horoscope(blackAndWhite, model.baseTime(), model.effectiveLatitude(),
-                           model.effectiveLongitude(), charts::builtInCatalogue());
+  return charts::horoscope(blackAndWhite, model.observer(), charts::builtInCatalogue());
 }
 
 TEST(Recalculation, TheLogHearsEverySignal) {

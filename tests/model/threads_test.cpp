@@ -27,8 +27,7 @@ TEST(Threads, ThePoolWorksAndTheInterfaceThreadPublishes) {
   EXPECT_FALSE(model.isCalculating());
   EXPECT_TRUE(log.isOnOneThread());
   EXPECT_EQ(model.horoscopeSVG(),
-            model::calculateHoroscope(
-                {model.effectiveLatitude(), model.effectiveLongitude(), model.baseTime(), false}));
+            model::calculateHoroscope({.observer = model.observer(), .blackAndWhite = false}));
 }
 
 TEST(Threads, ThePoolServesThePersonFirst) {
@@ -78,7 +77,7 @@ TEST(Threads, TheTaskTouchesNothingOfTheModel) {
 }
 
 TEST(Threads, CalculationsAtOnceAgree) {
-  const model::CalculationInput input{0.5, -0.25, 258840.0, false};
+  const model::CalculationInput input{{258840.0, 0.5, -0.25}, false};
   std::array<model::CalculationResult, 4> results;
   std::vector<std::thread> workers;
   for (model::CalculationResult& result : results) {

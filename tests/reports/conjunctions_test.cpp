@@ -39,7 +39,7 @@ constexpr std::size_t marksColumn = secondBlock + 6 * angleStride;
 
 /// The single row of a table without its label.
 std::string rowAt(double t) {
-  const std::string line = linesOf(conjunctionTable(1, t, 1.0)).at(2);
+  const std::string line = linesOf(conjunctionTable(t, {1, 1.0})).at(2);
   return line.substr(labelWidth(line));
 }
 
@@ -91,7 +91,7 @@ RC_GTEST_PROP(Conjunction, IsBeingLessThanTwoDegreesApart, ()) {
 }
 
 TEST(ConjunctionTable, WithoutRowsIsItsTwoHeaderLines) {
-  EXPECT_EQ(conjunctionTable(0, 258840.0, 1.0), header);
+  EXPECT_EQ(conjunctionTable(258840.0, {0, 1.0}), header);
   EXPECT_EQ(header.size(), 288U);
 }
 
@@ -178,11 +178,11 @@ RC_GTEST_PROP(ConjunctionTable, MarksAreThoseOfThePairsThatStandTogether, ()) {
 RC_GTEST_PROP(ConjunctionTable, RowsAreThoseOfTheMomentsAddedUp, ()) {
   const double start = *tests::moments();
   const double step = *rc::gen::element(1.0 / 144.0, 1.0, -1.0, 0.0);
-  const std::vector<std::string> lines = linesOf(conjunctionTable(6, start, step));
+  const std::vector<std::string> lines = linesOf(conjunctionTable(start, {6, step}));
   RC_ASSERT(lines.size() == 8U);
   double t = start;
   for (std::size_t row = 2; row < lines.size(); ++row) {
-    RC_ASSERT(lines[row] + "\n" == conjunctionTable(1, t, step).substr(header.size()));
+    RC_ASSERT(lines[row] + "\n" == conjunctionTable(t, {1, step}).substr(header.size()));
     RC_ASSERT(lines[row].substr(0, labelWidth(lines[row])) == astro::calendarLabel(t));
     t += step;
   }
@@ -192,7 +192,7 @@ RC_GTEST_PROP(ConjunctionTable, ASinkReceivesTheHeaderAndThenEachRow, ()) {
   const std::int64_t rows = *tests::wholeBetween(0, 5);
   const double start = *tests::moments();
   std::vector<std::string> pieces;
-  reports::writeConjunctionTable(rows, start, 1.0,
+  reports::writeConjunctionTable(start, {rows, 1.0},
                                  [&](std::string_view piece) { pieces.emplace_back(piece); });
   RC_ASSERT(pieces.size() == static_cast<std::size_t>(rows) + 1);
   RC_ASSERT(pieces.front() == header);
@@ -201,7 +201,7 @@ RC_GTEST_PROP(ConjunctionTable, ASinkReceivesTheHeaderAndThenEachRow, ()) {
     RC_ASSERT(piece.back() == '\n');
     joined += piece;
   }
-  RC_ASSERT(joined == conjunctionTable(rows, start, 1.0));
+  RC_ASSERT(joined == conjunctionTable(start, {rows, 1.0}));
 }
 
 }  // namespace

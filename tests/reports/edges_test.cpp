@@ -50,37 +50,37 @@ void expectLabelsInOrder(const std::string& table, std::size_t headerLines, long
 
 TEST(ReportsEdges, LabelsGoOnAcrossYearEndsAndTheEpoch) {
   for (const double start : {-360.0 * 3.5, -15.0, -0.75, 360.0 - 15.0, 360.0 * 998.9}) {
-    expectLabelsInOrder(ephemerisTable(24, start, 1.0 / 24.0, 0.7), 1, 60);
-    expectLabelsInOrder(ephemerisTable(30, start, 1.0, 0.7), 1, 1440);
-    expectLabelsInOrder(conjunctionTable(144, start, 1.0 / 144.0), 2, 10);
-    expectLabelsInOrder(conjunctionTable(360, start, 1.0), 2, 1440);
+    expectLabelsInOrder(ephemerisTable({start, 0.7}, {24, 1.0 / 24.0}), 1, 60);
+    expectLabelsInOrder(ephemerisTable({start, 0.7}, {30, 1.0}), 1, 1440);
+    expectLabelsInOrder(conjunctionTable(start, {144, 1.0 / 144.0}), 2, 10);
+    expectLabelsInOrder(conjunctionTable(start, {360, 1.0}), 2, 1440);
   }
 }
 
 TEST(ReportsEdges, TheYearEndsBetweenTwoRows) {
   const std::vector<std::string> lines =
-      linesOf(ephemerisTable(2, 359.5 - 1.0 / 24.0, 1.0 / 24.0, 0.0));
+      linesOf(ephemerisTable({359.5 - 1.0 / 24.0, 0.0}, {2, 1.0 / 24.0}));
   EXPECT_EQ(lines.at(1).substr(0, labelWidth(lines[1])), "001-12-30 23:00 OST");
   EXPECT_EQ(lines.at(2).substr(0, labelWidth(lines[2])), "002-01-01 00:00 OST");
 }
 
 TEST(ReportsEdges, ZerosOfBothSignsAreTheSameMomentAndLatitude) {
-  EXPECT_EQ(ephemerisTable(4, 0.0, 0.25, 0.0), ephemerisTable(4, -0.0, 0.25, -0.0));
-  EXPECT_EQ(conjunctionTable(4, 0.0, 0.25), conjunctionTable(4, -0.0, 0.25));
-  const std::string zero = reports::positionsTableText(reports::positionRows(0.0, 0.0, 0.0));
-  EXPECT_EQ(reports::positionsTableText(reports::positionRows(-0.0, -0.0, -0.0)), zero);
+  EXPECT_EQ(ephemerisTable({0.0, 0.0}, {4, 0.25}), ephemerisTable({-0.0, -0.0}, {4, 0.25}));
+  EXPECT_EQ(conjunctionTable(0.0, {4, 0.25}), conjunctionTable(-0.0, {4, 0.25}));
+  const std::string zero = reports::positionsTableText(reports::positionRows({0.0, 0.0, 0.0}));
+  EXPECT_EQ(reports::positionsTableText(reports::positionRows({-0.0, -0.0, -0.0})), zero);
 }
 
 TEST(ReportsEdges, OverThePoleTheTablesStillHaveTheirRows) {
   for (const double latitude : {astro::halfPi, -astro::halfPi, 1.6, -1.6, 100.0, 1e300}) {
-    EXPECT_EQ(linesOf(ephemerisTable(24, 720.0, 1.0 / 24.0, latitude)).size(), 25U) << latitude;
-    EXPECT_EQ(reports::positionRows(720.0, latitude, 0.0)[0].altitude.size(), 7U) << latitude;
+    EXPECT_EQ(linesOf(ephemerisTable({720.0, latitude}, {24, 1.0 / 24.0})).size(), 25U) << latitude;
+    EXPECT_EQ(reports::positionRows({720.0, latitude, 0.0})[0].altitude.size(), 7U) << latitude;
   }
 }
 
 TEST(ReportsEdges, FullTurnsOfLongitudeDoNotMoveTheObserver) {
-  const auto here = reports::positionRows(1000.3, 0.5, 0.25);
-  const auto around = reports::positionRows(1000.3, 0.5, 0.25 + astro::twoPi);
+  const auto here = reports::positionRows({1000.3, 0.5, 0.25});
+  const auto around = reports::positionRows({1000.3, 0.5, 0.25 + astro::twoPi});
   for (std::size_t i = 0; i < here.size(); ++i) {
     EXPECT_EQ(here[i].azimuth, around[i].azimuth);
     EXPECT_EQ(here[i].altitude, around[i].altitude);
@@ -102,7 +102,7 @@ TEST(ReportsEdges, SearchesEndAtHugeMoments) {
       EXPECT_EQ(reports::sunRiseSetEvent(huge, 0.25, latitude).size() % 9, 0U) << huge;
       EXPECT_EQ(reports::sunRiseSetEvent(0.0, huge, latitude).size() % 9, 0U) << huge;
     }
-    for (const reports::PositionRow& row : reports::positionRows(huge, 0.7, huge)) {
+    for (const reports::PositionRow& row : reports::positionRows({huge, 0.7, huge})) {
       EXPECT_EQ(row.azimuth.size(), 7U) << huge;
     }
   }
@@ -110,35 +110,36 @@ TEST(ReportsEdges, SearchesEndAtHugeMoments) {
 
 TEST(ReportsEdges, TablesEndWhereAStepNoLongerMovesTheMoment) {
   for (const double start : {1e9, -1e9, 1e12, 1e14, -1e14}) {
-    EXPECT_EQ(linesOf(ephemerisTable(3, start, 1.0 / 24.0, 0.7)).size(), 4U) << start;
-    EXPECT_EQ(linesOf(conjunctionTable(3, start, 1.0 / 144.0)).size(), 5U) << start;
+    EXPECT_EQ(linesOf(ephemerisTable({start, 0.7}, {3, 1.0 / 24.0})).size(), 4U) << start;
+    EXPECT_EQ(linesOf(conjunctionTable(start, {3, 1.0 / 144.0})).size(), 5U) << start;
   }
-  EXPECT_EQ(linesOf(ephemerisTable(3, 1000.0, 0.0, 0.7)).size(), 4U);
-  EXPECT_EQ(linesOf(conjunctionTable(1, 1000.0, 1e300)).size(), 3U);
+  EXPECT_EQ(linesOf(ephemerisTable({1000.0, 0.7}, {3, 0.0})).size(), 4U);
+  EXPECT_EQ(linesOf(conjunctionTable(1000.0, {1, 1e300})).size(), 3U);
 }
 
 TEST(ReportsEdgesDeathTest, ATableHasNoNegativeNumberOfRows) {
   const char* message = "veyruna: broken invariant: a table has no negative number of rows";
-  EXPECT_DEATH(ephemerisTable(-1, 0.0, 1.0, 0.0), message);
-  EXPECT_DEATH(conjunctionTable(-1, 0.0, 1.0), message);
-  EXPECT_DEATH(ephemerisTable(std::numeric_limits<std::int64_t>::min(), 0.0, 1.0, 0.0), message);
+  EXPECT_DEATH(ephemerisTable({0.0, 0.0}, {-1, 1.0}), message);
+  EXPECT_DEATH(conjunctionTable(0.0, {-1, 1.0}), message);
+  EXPECT_DEATH(ephemerisTable({}, {std::numeric_limits<std::int64_t>::min(), 1.0}), message);
 }
 
 TEST(ReportsEdgesDeathTest, MomentsBeyondTheCalendarStopTheProgram) {
   for (const double none : {1e15, 1e300, -1e300}) {
-    EXPECT_DEATH(ephemerisTable(1, none, 1.0, 0.0), "a base time is a 64-bit number of seconds");
-    EXPECT_DEATH(conjunctionTable(1, none, 1.0), "a base time is a 64-bit number of seconds");
+    EXPECT_DEATH(ephemerisTable({none, 0.0}, {1, 1.0}),
+                 "a base time is a 64-bit number of seconds");
+    EXPECT_DEATH(conjunctionTable(none, {1, 1.0}), "a base time is a 64-bit number of seconds");
   }
 }
 
 TEST(ReportsEdgesDeathTest, NumbersThatAreNoneStopTheProgram) {
   const char* broken = "veyruna: broken invariant: ";
   for (const double none : {notANumber, infinity, -infinity}) {
-    EXPECT_DEATH(ephemerisTable(1, none, 1.0, 0.0), broken);
-    EXPECT_DEATH(conjunctionTable(1, none, 1.0), broken);
-    EXPECT_DEATH(reports::positionRows(none, 0.0, 0.0), broken);
-    EXPECT_DEATH(reports::positionRows(0.0, none, 0.0), broken);
-    EXPECT_DEATH(reports::positionRows(0.0, 0.0, none), broken);
+    EXPECT_DEATH(ephemerisTable({none, 0.0}, {1, 1.0}), broken);
+    EXPECT_DEATH(conjunctionTable(none, {1, 1.0}), broken);
+    EXPECT_DEATH(reports::positionRows({none, 0.0, 0.0}), broken);
+    EXPECT_DEATH(reports::positionRows({0.0, none, 0.0}), broken);
+    EXPECT_DEATH(reports::positionRows({0.0, 0.0, none}), broken);
     EXPECT_DEATH(reports::signName(none), broken);
     EXPECT_DEATH(reports::isConjunct(none, 0.0), broken);
     EXPECT_DEATH(reports::isConjunct(0.0, none), broken);

@@ -37,7 +37,7 @@ constexpr std::size_t eventColumn = phaseColumn + 4 + 3;
 
 /// The single row of a table without its label.
 std::string rowAt(double t, double latitude) {
-  const std::string line = linesOf(ephemerisTable(1, t, 1.0, latitude)).at(1);
+  const std::string line = linesOf(ephemerisTable({t, latitude}, {1, 1.0})).at(1);
   return line.substr(labelWidth(line));
 }
 
@@ -49,7 +49,7 @@ double numberIn(const std::string& field) {
 }
 
 TEST(EphemerisTable, WithoutRowsIsItsHeader) {
-  EXPECT_EQ(ephemerisTable(0, 258840.0, 1.0, 0.5), header);
+  EXPECT_EQ(ephemerisTable({258840.0, 0.5}, {0, 1.0}), header);
   EXPECT_EQ(header.size(), 91U);
 }
 
@@ -57,7 +57,7 @@ TEST(EphemerisTable, ANightThatLastsAllMonthHasNoEvents) {
   // Midwinter at 80° north: the sun stays below; the row of a moon that does too ends in blanks.
   const double midwinter = 0.5 + (300.0 + 0.75) / astro::sunMeanMotion;
   int quietRows = 0;
-  for (const std::string& line : linesOf(ephemerisTable(30, midwinter, 1.0, inRadians(80.0)))) {
+  for (const std::string& line : linesOf(ephemerisTable({midwinter, inRadians(80.0)}, {30, 1.0}))) {
     EXPECT_EQ(line.find("SR@"), std::string::npos) << line;
     EXPECT_EQ(line.find("SS@"), std::string::npos) << line;
     quietRows += line.size() == labelWidth(line) + eventColumn ? 1 : 0;
@@ -161,11 +161,11 @@ RC_GTEST_PROP(EphemerisTable, RowsAreThoseOfTheMomentsAddedUp, ()) {
   const double start = *tests::moments();
   const double step = *rc::gen::element(1.0 / 24.0, 1.0, 0.25, -1.0, 0.0);
   const double latitude = *tests::latitudes();
-  const std::vector<std::string> lines = linesOf(ephemerisTable(6, start, step, latitude));
+  const std::vector<std::string> lines = linesOf(ephemerisTable({start, latitude}, {6, step}));
   RC_ASSERT(lines.size() == 7U);
   double t = start;
   for (std::size_t row = 1; row < lines.size(); ++row) {
-    RC_ASSERT(lines[row] + "\n" == ephemerisTable(1, t, step, latitude).substr(header.size()));
+    RC_ASSERT(lines[row] + "\n" == ephemerisTable({t, latitude}, {1, step}).substr(header.size()));
     RC_ASSERT(lines[row].substr(0, labelWidth(lines[row])) == astro::calendarLabel(t));
     t += step;
   }
@@ -176,7 +176,7 @@ RC_GTEST_PROP(EphemerisTable, ASinkReceivesTheHeaderAndThenEachRow, ()) {
   const double start = *tests::moments();
   const double latitude = *tests::latitudes();
   std::vector<std::string> pieces;
-  reports::writeEphemerisTable(rows, start, 1.0, latitude,
+  reports::writeEphemerisTable({start, latitude}, {rows, 1.0},
                                [&](std::string_view piece) { pieces.emplace_back(piece); });
   RC_ASSERT(pieces.size() == static_cast<std::size_t>(rows) + 1);
   RC_ASSERT(pieces.front() == header);
@@ -185,7 +185,7 @@ RC_GTEST_PROP(EphemerisTable, ASinkReceivesTheHeaderAndThenEachRow, ()) {
     RC_ASSERT(piece.find('\n') == piece.size() - 1);
     joined += piece;
   }
-  RC_ASSERT(joined == ephemerisTable(rows, start, 1.0, latitude));
+  RC_ASSERT(joined == ephemerisTable({start, latitude}, {rows, 1.0}));
 }
 
 TEST(EphemerisTable, WhatASinkThrowsPassesThrough) {
@@ -195,7 +195,8 @@ TEST(EphemerisTable, WhatASinkThrowsPassesThrough) {
       throw std::runtime_error("full");
     }
   };
-  EXPECT_THROW(reports::writeEphemerisTable(9, 0.0, 1.0, 0.0, fullAfterTwo), std::runtime_error);
+  EXPECT_THROW(reports::writeEphemerisTable({0.0, 0.0}, {9, 1.0}, fullAfterTwo),
+               std::runtime_error);
   EXPECT_EQ(pieces, 2);
 }
 

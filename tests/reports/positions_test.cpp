@@ -28,7 +28,7 @@ const std::string header =
     "----           -------    --------   ---------   ----\n";
 
 TEST(Positions, SixBodiesInTheirOrder) {
-  const auto rows = positionRows(258840.0, 0.5, 0.5);
+  const auto rows = positionRows({258840.0, 0.5, 0.5});
   const char* const expected[6][2] = {{"Thessil", "Sun"},       {"Ivro", "Moon"},
                                       {"Bralo", "Terrestrial"}, {"Dunmor", "Terrestrial"},
                                       {"Galvi", "Gas Giant"},   {"Pallox", "Gas Giant"}};
@@ -40,11 +40,11 @@ TEST(Positions, SixBodiesInTheirOrder) {
 
 /// A longitude at which the sun of the first equinox stands on the meridian.
 double meridianOfTheEquinox() {
-  return -astro::localSiderealAngle(0.5, 0.0);
+  return -astro::localSiderealAngle({.baseTime = 0.5, .longitude = 0.0});
 }
 
 TEST(Positions, OnTheMeridianSouthOfTheZenithTheAzimuthIsZero) {
-  const PositionRow sun = positionRows(0.5, inRadians(40.0), meridianOfTheEquinox())[0];
+  const PositionRow sun = positionRows({0.5, inRadians(40.0), meridianOfTheEquinox()})[0];
   EXPECT_EQ(sun.azimuth, "    :00");
   EXPECT_EQ(sun.altitude, " 050:00");
   EXPECT_EQ(sun.ecLong, "    :00");
@@ -52,21 +52,21 @@ TEST(Positions, OnTheMeridianSouthOfTheZenithTheAzimuthIsZero) {
 }
 
 TEST(Positions, OnTheMeridianNorthOfTheZenithTheAzimuthIs180Degrees) {
-  const PositionRow sun = positionRows(0.5, inRadians(-40.0), meridianOfTheEquinox())[0];
+  const PositionRow sun = positionRows({0.5, inRadians(-40.0), meridianOfTheEquinox()})[0];
   EXPECT_EQ(sun.azimuth, " 180:00");
   EXPECT_EQ(sun.altitude, " 050:00");
 }
 
 TEST(Positions, ABodyBelowTheHorizonHasANegativeAltitude) {
   const double midnight = meridianOfTheEquinox() + astro::pi;
-  const PositionRow sun = positionRows(0.5, inRadians(77.5), midnight)[0];
+  const PositionRow sun = positionRows({0.5, inRadians(77.5), midnight})[0];
   EXPECT_EQ(sun.altitude, "-012:30");
   EXPECT_EQ(sun.azimuth, " 180:00");
 }
 
 TEST(Positions, OnTheCelestialEquatorTheSunSetsDueWest) {
   const PositionRow sun =
-      positionRows(0.5, inRadians(40.0), meridianOfTheEquinox() + astro::halfPi)[0];
+      positionRows({0.5, inRadians(40.0), meridianOfTheEquinox() + astro::halfPi})[0];
   EXPECT_EQ(sun.azimuth, " 090:00");
 }
 
@@ -75,7 +75,7 @@ TEST(Positions, APlanetWestOfTheEquinoxHasANegativeLongitude) {
   while (planetEcliptic(astro::Planet::dunmor, t).phi > -0.5) {
     t += 1.0;
   }
-  EXPECT_EQ(positionRows(t, 0.0, 0.0)[3].ecLong.front(), '-');
+  EXPECT_EQ(positionRows({t, 0.0, 0.0})[3].ecLong.front(), '-');
 }
 
 /// The degrees a text of degrees and minutes reads.
@@ -93,14 +93,15 @@ RC_GTEST_PROP(Positions, AreWhatTheHorizonShows, ()) {
   const double t = *tests::momentsWithin(1e6);
   const double latitude = *tests::latitudes();
   const double longitude = *tests::longitudes();
-  const auto rows = positionRows(t, latitude, longitude);
-  std::vector<astro::Vec3D> ecliptic = {astro::Sun(t).ec, astro::Moon(t, longitude, latitude).ec};
+  const auto rows = positionRows({t, latitude, longitude});
+  std::vector<astro::Vec3D> ecliptic = {astro::Sun(t).ec, astro::Moon({t, latitude, longitude}).ec};
   for (const astro::Planet planet : astro::allPlanets) {
     ecliptic.push_back(planetEcliptic(planet, t));
   }
   for (std::size_t i = 0; i < rows.size(); ++i) {
     const astro::Vec3D equatorial = rotated(ecliptic[i], astro::eclipticToEquatorial);
-    const double hourAngle = astro::localSiderealAngle(t, longitude) - equatorial.phi;
+    const double hourAngle =
+        astro::localSiderealAngle({.baseTime = t, .longitude = longitude}) - equatorial.phi;
     const double up = std::sin(latitude) * std::sin(equatorial.theta) +
                       std::cos(latitude) * std::cos(equatorial.theta) * std::cos(hourAngle);
     RC_ASSERT(std::abs(degreesOf(rows[i].altitude) - std::asin(up) * astro::degreesPerRadian) <=
@@ -116,7 +117,7 @@ RC_GTEST_PROP(Positions, AreWhatTheHorizonShows, ()) {
 
 RC_GTEST_PROP(Positions, TextsHaveTheirWidths, ()) {
   for (const PositionRow& row :
-       positionRows(*tests::moments(), *tests::latitudes(), *tests::longitudes())) {
+       positionRows({*tests::moments(), *tests::latitudes(), *tests::longitudes()})) {
     RC_ASSERT(row.azimuth.size() == 7U);
     RC_ASSERT(row.altitude.size() == 7U);
     RC_ASSERT(row.ecLong.size() == 7U);
@@ -155,7 +156,7 @@ TEST(PositionsTable, NamesAreMeasuredInCharactersNotBytes) {
 }
 
 RC_GTEST_PROP(PositionsTable, EveryLineHoldsItsRow, ()) {
-  const auto rows = positionRows(*tests::moments(), *tests::latitudes(), *tests::longitudes());
+  const auto rows = positionRows({*tests::moments(), *tests::latitudes(), *tests::longitudes()});
   const std::vector<std::string> lines = tests::linesOf(positionsTableText(rows));
   RC_ASSERT(lines.size() == 8U);
   for (std::size_t i = 0; i < rows.size(); ++i) {

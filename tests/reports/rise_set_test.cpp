@@ -27,11 +27,11 @@ using tests::inRadians;
 constexpr double searchTolerance = 0.0001;
 
 double sunAltitude(double t, double latitude) {
-  return astro::toHorizon(astro::Sun(t).eq, t, 0.0, latitude).theta;
+  return astro::toHorizon(astro::Sun(t).eq, {t, latitude, 0.0}).theta;
 }
 
 double moonAltitude(double t, double latitude) {
-  return astro::toHorizon(astro::Moon(t).eq, t, 0.0, latitude).theta;
+  return astro::toHorizon(astro::Moon(t).eq, {t, latitude, 0.0}).theta;
 }
 
 /// The moment in [start, end] at which the sun passes the horizon, to a nanoday.

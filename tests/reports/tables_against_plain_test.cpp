@@ -120,10 +120,10 @@ TEST(TablesAgainstPlain, EphemeridesAreTheSameToTheByte) {
   for (std::int64_t i = 0; i < cases; ++i) {
     const double t = draw.moment();
     const double latitude = draw.latitude();
-    const std::string hourly = reports::ephemerisTable(24, t, 1.0 / 24.0, latitude);
+    const std::string hourly = reports::ephemerisTable({t, latitude}, {24, 1.0 / 24.0});
     ASSERT_EQ(hourly, tests::plainEphemerisTable(24, t, 1.0 / 24.0, latitude))
         << "hourly, " << described(t, latitude);
-    const std::string monthly = reports::ephemerisTable(30, t, 1.0, latitude);
+    const std::string monthly = reports::ephemerisTable({t, latitude}, {30, 1.0});
     ASSERT_EQ(monthly, tests::plainEphemerisTable(30, t, 1.0, latitude))
         << "monthly, " << described(t, latitude);
     seen.count(hourly);
@@ -151,7 +151,7 @@ TEST(TablesAgainstPlain, ConjunctionsAreTheSameToTheByte) {
   for (std::int64_t i = 0; i < cases; ++i) {
     const double t = draw.moment();
     for (const double step : {1.0 / 144.0, 1.0}) {
-      const std::string table = reports::conjunctionTable(24, t, step);
+      const std::string table = reports::conjunctionTable(t, {24, step});
       ASSERT_EQ(table, tests::plainConjunctionTable(24, t, step))
           << "step " << step << ", " << described(t, 0.0);
       marks += rowsWithMarks(table);

@@ -35,6 +35,10 @@ double ReferenceCase::baseTime() const {
                       : astro::standardBaseTime(year, monthIndex, dayIndex, hour);
 }
 
+astro::Observer ReferenceCase::observer() const {
+  return {.baseTime = baseTime(), .latitude = latitude, .longitude = longitude};
+}
+
 std::string ReferenceCase::goldenName(const std::string& file) const {
   return "reference/" + folder + "/" + file;
 }

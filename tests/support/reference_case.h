@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "astro/observer.h"
 #include "charts/star_catalogue.h"
 
 namespace veyruna::tests {
@@ -20,6 +21,7 @@ struct ReferenceCase {
   double longitude;  ///< radians
 
   [[nodiscard]] double baseTime() const;
+  [[nodiscard]] astro::Observer observer() const;
   /// One of the case's files as isGolden calls it.
   [[nodiscard]] std::string goldenName(const std::string& file) const;
   /// The content of one of the case's files.
