@@ -8,6 +8,7 @@
 #include "charts/horoscope.h"
 #include "charts/star_map.h"
 #include "tests/support/reference_case.h"
+#include "tests/support/source_path.h"
 
 namespace veyruna {
 namespace {
@@ -85,7 +86,7 @@ TEST(DocumentsDeathTest, WhatIsNoDocumentHasNoRow) {
 }
 
 std::string page(const std::string& path) {
-  return fileContent(std::string(VEYRUNA_SOURCE_DIR) + "/" + path);
+  return fileContent(tests::sourcePath(path));
 }
 
 /// The summary as a cell of a table has it.
