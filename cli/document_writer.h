@@ -1,8 +1,9 @@
 #pragma once
 
-#include <optional>
 #include <string>
 #include <string_view>
+
+#include "files/file_writer.h"
 
 namespace veyruna::cli {
 
@@ -12,15 +13,8 @@ class DocumentWriter {
  public:
   static DocumentWriter toStandardOutput();
 
-  /// A document that replaces `path` when it is finished. Until then, and for good where it is
-  /// never finished, what was there stays. A device or pipe is written to as it is.
+  /// A document that replaces `path` when it is finished, as files::FileWriter does.
   static DocumentWriter toFile(const std::string& path);
-
-  DocumentWriter(DocumentWriter&& other) noexcept;
-  DocumentWriter(const DocumentWriter&) = delete;
-  DocumentWriter& operator=(const DocumentWriter&) = delete;
-  DocumentWriter& operator=(DocumentWriter&&) = delete;
-  ~DocumentWriter();
 
   void write(std::string_view text);
 
@@ -28,22 +22,10 @@ class DocumentWriter {
   void finish();
 
  private:
-  /// A file still without a name, or with a temporary one.
-  struct Replacement {
-    std::string target;     ///< where the file goes, links resolved
-    std::string temporary;  ///< its name beside the target
-    bool isNamed;           ///< the temporary name exists in the folder
-  };
+  DocumentWriter(std::string name, files::FileWriter writer);
 
-  DocumentWriter(int descriptor, std::string name, std::optional<Replacement> replacement);
-  void flush();
-  void putInPlace(Replacement& replacement);
-  [[noreturn]] void fail() const;
-
-  int descriptor_;
   std::string name_;  ///< as the person gave it
-  std::optional<Replacement> replacement_;
-  std::string buffer_;
+  files::FileWriter writer_;
 };
 
 }  // namespace veyruna::cli

@@ -1,9 +1,11 @@
 #include "export/document_exporter.h"
 
+#include <QFile>
 #include <cstdio>
+#include <system_error>
 #include <utility>
 
-#include "export/whole_file.h"
+#include "files/file_writer.h"
 
 namespace veyruna::exports {
 
@@ -18,6 +20,14 @@ void conclude(const FailureSink& failures, const QString& prefix,
   if (saved) {
     saved(error);
   }
+}
+
+/// Why the file could not be written, in the system's words; nothing where it was.
+std::optional<QString> written(const QString& path, const QByteArray& bytes) {
+  const std::error_code error =
+      files::writeWholeFile(QFile::encodeName(path).toStdString(),
+                            {bytes.constData(), static_cast<std::size_t>(bytes.size())});
+  return error ? std::optional(QString::fromLocal8Bit(error.message())) : std::nullopt;
 }
 
 }  // namespace
@@ -55,7 +65,7 @@ void DocumentExporter::save(const PdfExport& content, const QString& path,
                 return;
               }
               conclude(failures, QStringLiteral("Error writing PDF: "),
-                       writeWholeFile(path, std::get<QByteArray>(result)), saved);
+                       written(path, std::get<QByteArray>(result)), saved);
             });
 }
 
@@ -67,7 +77,7 @@ void DocumentExporter::save(const NativeExport& content, const QString& path,
   conclude(failures_,
            content.format == NativeFormat::svg ? QStringLiteral("Error saving SVG: ")
                                                : QStringLiteral("Error saving text: "),
-           writeWholeFile(path, content.text.toUtf8()), saved);
+           written(path, content.text.toUtf8()), saved);
 }
 
 }  // namespace veyruna::exports

@@ -4,11 +4,12 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QLockFile>
-#include <QSaveFile>
 #include <QStandardPaths>
 
 #include "model/keep_aside.h"
 #include "model/locations_text.h"
+
+#include "files/file_writer.h"
 
 namespace veyruna::model {
 
@@ -38,11 +39,10 @@ LocationsFile::Reading LocationsFile::read() const {
 }
 
 bool LocationsFile::write(const QList<CityPreset>& places) const {
-  QSaveFile file(path_);
   const QByteArray text = locationsText(places);
-  return makeFolder() && file.open(QIODevice::WriteOnly) && file.write(text) == text.size() &&
-         file.flush() &&  // commit() would put an empty file in place on a full disk
-         file.commit();
+  return makeFolder() &&
+         !files::writeWholeFile(QFile::encodeName(path_).toStdString(),
+                                {text.constData(), static_cast<std::size_t>(text.size())});
 }
 
 bool LocationsFile::keepAside() const {

@@ -31,8 +31,8 @@ class LocationsFile {
   };
   [[nodiscard]] Reading read() const;
 
-  /// Replaces the file at one stroke; makes its folder where it is missing. False where that fails,
-  /// and then the old file is as it was.
+  /// Puts the file in place whole (files::writeWholeFile); makes its folder where it is missing.
+  /// False where that fails, and then the old file is as it was.
   [[nodiscard]] bool write(const QList<CityPreset>& places) const;
 
   /// Moves what is there to a free name beside it, "locations.unreadable.json" or numbered. False

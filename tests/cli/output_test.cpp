@@ -162,15 +162,23 @@ TEST_F(Output, AFolderIsNoFileAndAFileNoFolder) {
 
 TEST_F(Output, AFolderThatMayNotBeWrittenStaysAsItIs) {
   writeFile(file, before);
-  ASSERT_EQ(chmod(file.c_str(), 0666), 0);
   ASSERT_EQ(chmod(scratch.path().c_str(), 0555), 0);
-  for (const std::string& path : {file, scratch / "new.txt"}) {
-    expectNotWritten(run({.arguments = {"base-time", "-o", path}, .asNobody = true}),
-                     "\"" + path + "\"");
-  }
+  const std::string newFile = scratch / "new.txt";
+  expectNotWritten(run({.arguments = {"base-time", "-o", newFile}, .asNobody = true}),
+                   "\"" + newFile + "\": Permission denied");
   expectNotWritten(run({.arguments = {"all", "--out", scratch / "all"}, .asNobody = true}),
                    "\"" + (scratch / "all") + "\"");
   EXPECT_EQ(fileContent(file), before);
+  EXPECT_EQ(namesIn(scratch.path()), Names{"document.txt"});
+}
+
+TEST_F(Output, AFileThatMayBeWrittenIsThoughItsFolderMayNot) {
+  writeFile(file, std::string(100'000, 'x'));
+  ASSERT_EQ(chmod(file.c_str(), 0666), 0);
+  ASSERT_EQ(chmod(scratch.path().c_str(), 0555), 0);
+  const Outcome outcome = run({.arguments = {"base-time", "-o", file}, .asNobody = true});
+  EXPECT_EQ(outcome.status, 0) << outcome.err;
+  EXPECT_EQ(fileContent(file), document);
   EXPECT_EQ(namesIn(scratch.path()), Names{"document.txt"});
 }
 

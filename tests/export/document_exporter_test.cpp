@@ -2,7 +2,12 @@
 #include "export/document_exporter.h"
 
 #include <QFile>
+#include <algorithm>
+#include <array>
+#include <cstdio>
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include "export/report_html.h"
 #include "tests/model/disk.h"
@@ -217,6 +222,28 @@ TEST_F(Exporting, FailuresGoToStandardOutput) {
   plain.save(*plain.native(OutputTab::planets), folder / u"gone/°"_s);
   EXPECT_EQ(testing::internal::GetCapturedStdout(),
             "Error saving text: No such file or directory\n");
+}
+
+/// A program that reads the failures must not have to wait for the window's end.
+TEST_F(Exporting, AFailureIsInAPipeAtOnce) {
+  std::array<int, 2> ends{};
+  ASSERT_EQ(pipe2(ends.data(), O_CLOEXEC | O_NONBLOCK), 0);
+  std::fflush(stdout);
+  const int standardOutput = dup(STDOUT_FILENO);
+  dup2(ends[1], STDOUT_FILENO);
+  std::array<char, 4096> buffer{};  // as the C library buffers a pipe, whatever the tests write to
+  setvbuf(stdout, buffer.data(), _IOFBF, buffer.size());
+  exports::standardOutput()(u"Error saving text: °"_s);
+  QByteArray received(256, '\0');
+  const ssize_t count = read(ends[0], received.data(), 256);
+  std::fflush(stdout);
+  setvbuf(stdout, nullptr, _IOLBF, 0);
+  dup2(standardOutput, STDOUT_FILENO);
+  for (const int end : {ends[0], ends[1], standardOutput}) {
+    close(end);
+  }
+  received.resize(std::max(count, ssize_t{0}));
+  EXPECT_EQ(received, "Error saving text: °\n"_ba);
 }
 
 TEST_F(Exporting, OutlivesWhoAskedForIt) {

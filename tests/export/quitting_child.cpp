@@ -6,7 +6,8 @@
 
 #include "export/pdf_exporter.h"
 #include "export/report_html.h"
-#include "export/whole_file.h"
+
+#include "files/file_writer.h"
 
 using namespace Qt::StringLiterals;
 using veyruna::exports::PDFExporter;
@@ -21,7 +22,7 @@ void startThree(const QString& folder) {
     const QString path = folder + u'/' + QString::number(number) + u".pdf"_s;
     PDFExporter::start(html, {612, 792}, [path](const PdfResult& result) {
       if (const auto* bytes = std::get_if<QByteArray>(&result)) {
-        veyruna::exports::writeWholeFile(path, *bytes);
+        veyruna::files::writeWholeFile(path.toStdString(), bytes->toStdString());
       }
     });
   }

@@ -8,41 +8,58 @@ namespace veyruna::tests {
 
 namespace {
 
+/// The libraries that a room uses.
+enum class Libraries { standard, standardAndPosix, any };
+
 struct Room {
   std::set<std::string, std::less<>> mayUse;  ///< rooms below, besides itself
-  bool standardLibraryOnly;                   ///< uses no other library
+  Libraries libraries;
 };
 
 const std::map<std::string, Room, std::less<>>& rooms() {
   static const std::map<std::string, Room, std::less<>> all = {
-      {"astro", {{}, true}},
-      {"reports", {{"astro"}, true}},
-      {"charts", {{"astro", "reports"}, true}},
-      {"documents", {{"astro", "reports", "charts"}, true}},
-      {"model", {{"astro", "reports", "charts", "documents"}, false}},
-      {"export", {{"astro", "reports", "charts", "documents", "model"}, false}},
-      {"cli", {{"astro", "reports", "charts", "documents", "model"}, false}},
-      {"ui/controls", {{"astro"}, false}},
-      {"ui/map", {{"astro", "model", "ui/controls"}, false}},
+      {"astro", {{}, Libraries::standard}},
+      {"files", {{}, Libraries::standardAndPosix}},
+      {"reports", {{"astro"}, Libraries::standard}},
+      {"charts", {{"astro", "reports"}, Libraries::standard}},
+      {"documents", {{"astro", "reports", "charts"}, Libraries::standard}},
+      {"model", {{"astro", "reports", "charts", "documents", "files"}, Libraries::any}},
+      {"export", {{"astro", "reports", "charts", "documents", "files", "model"}, Libraries::any}},
+      {"cli", {{"astro", "reports", "charts", "documents", "files", "model"}, Libraries::any}},
+      {"ui/controls", {{"astro"}, Libraries::any}},
+      {"ui/map", {{"astro", "model", "ui/controls"}, Libraries::any}},
       {"ui/outputs",
-       {{"astro", "reports", "documents", "model", "export", "ui/controls", "ui/map"}, false}},
-      {"ui/sidebar", {{"astro", "model", "export", "ui/controls"}, false}},
+       {{"astro", "reports", "documents", "model", "export", "ui/controls", "ui/map"},
+        Libraries::any}},
+      {"ui/sidebar", {{"astro", "model", "export", "ui/controls"}, Libraries::any}},
       {"ui/window",
-       {{"astro", "model", "export", "ui/controls", "ui/map", "ui/outputs", "ui/sidebar"}, false}},
+       {{"astro", "model", "export", "ui/controls", "ui/map", "ui/outputs", "ui/sidebar"},
+        Libraries::any}},
   };
   return all;
 }
 
-/// A header of the standard library has neither a folder nor an ending, but for C's own.
+/// A header of the standard library has neither a folder nor an ending, nor capitals as Qt's.
 bool isStandardHeader(const std::string& header) {
-  return header.find_first_of("/.") == std::string::npos;
+  return header.find_first_not_of("abcdefghijklmnopqrstuvwxyz0123456789_") == std::string::npos;
+}
+
+bool isPosixHeader(const std::string& header) {
+  static const std::set<std::string, std::less<>> used = {"fcntl.h", "poll.h", "sys/mman.h",
+                                                          "sys/stat.h", "unistd.h"};
+  return used.contains(header);
+}
+
+bool isLibraryAllowed(Libraries libraries, const std::string& header) {
+  return libraries == Libraries::any || isStandardHeader(header) ||
+         (libraries == Libraries::standardAndPosix && isPosixHeader(header));
 }
 
 /// Whether a file of the room may include what stands between the quotes or brackets.
 bool isAllowed(const std::string& roomName, const Room& room, const std::string& header,
                bool isQuoted) {
   if (!isQuoted) {
-    return !room.standardLibraryOnly || isStandardHeader(header);
+    return isLibraryAllowed(room.libraries, header);
   }
   const std::string folder = header.substr(0, header.rfind('/'));
   return folder == roomName || room.mayUse.contains(folder);

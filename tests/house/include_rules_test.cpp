@@ -60,7 +60,15 @@ TEST(IncludeRules, AnIncludeThatPointsDownIsFine) {
 TEST(IncludeRules, TheRoomsThatComputeUseTheStandardLibraryAlone) {
   EXPECT_EQ(forbiddenIncludes("charts", "#include <QString/x>\n").size(), 1U);
   EXPECT_EQ(forbiddenIncludes("astro", "#include <unistd.h>\n").size(), 1U);
+  EXPECT_EQ(forbiddenIncludes("astro", "#include <QString>\n").size(), 1U);
   EXPECT_EQ(forbiddenIncludes("reports", "#include <CLI/CLI.hpp>\n").size(), 1U);
+}
+
+TEST(IncludeRules, FilesUseTheSystemBesides) {
+  EXPECT_TRUE(forbiddenIncludes("files", "#include <string>\n#include <unistd.h>\n").empty());
+  EXPECT_EQ(forbiddenIncludes("files", "#include <QSaveFile>\n").size(), 1U);
+  EXPECT_EQ(forbiddenIncludes("files", "#include \"astro/arc.h\"\n").size(), 1U);
+  EXPECT_EQ(forbiddenIncludes("files", "#include <CLI/CLI.hpp>\n").size(), 1U);
 }
 
 TEST(IncludeRules, EverySourceOfTheHouseKeepsThem) {

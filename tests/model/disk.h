@@ -15,6 +15,7 @@
 #include <unistd.h>
 
 #include "tests/model/printing.h"
+#include "tests/support/as_nobody.h"
 
 /// Files, users and file systems for the tests of what can go wrong with them.
 namespace veyruna::tests {
@@ -84,28 +85,6 @@ inline bool isKeptAside(const QString& folder, const QString& stem, const QByteA
   }
   return false;
 }
-
-/// Lets the tests act without the rights of root while it lives.
-class AsNobody {
- public:
-  AsNobody() {
-    constexpr uid_t nobody = 65534;
-    wasRoot_ = geteuid() == 0;
-    holds_ = !wasRoot_ || (setegid(nobody) == 0 && seteuid(nobody) == 0);
-  }
-  AsNobody(const AsNobody&) = delete;
-  AsNobody& operator=(const AsNobody&) = delete;
-  ~AsNobody() {
-    if (wasRoot_ && (seteuid(0) != 0 || setegid(0) != 0)) {
-      std::abort();
-    }
-  }
-  [[nodiscard]] bool holds() const { return holds_; }
-
- private:
-  bool wasRoot_ = false;
-  bool holds_ = false;
-};
 
 /// A file system of 64 KiB in memory, mounted while it lives where that may be done.
 class SmallFileSystem {

@@ -101,7 +101,7 @@ TEST_F(Kill, LeavesAWholeListOfPlaces) {
     ASSERT_FALSE(tests::isKeptAside(folder.path(), u"locations"_s, tests::bytesIn(path)));
     steps += last;
     for (const QString& name : folder.names()) {
-      pieces += name.startsWith(u"locations.json."_s) && !name.endsWith(u".lock"_s) ? 1 : 0;
+      pieces += name.startsWith(u".veyruna-"_s) ? 1 : 0;
     }
     const QFileInfo lock(path + u".lock"_s);
     lockedOut += lock.exists() && lock.size() == 0 ? 1 : 0;
