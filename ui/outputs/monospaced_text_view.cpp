@@ -5,6 +5,7 @@
 #include <QScrollBar>
 
 #include "ui/controls/named.h"
+#include "ui/outputs/fixed_pitch_font.h"
 
 namespace veyruna::ui {
 
@@ -18,7 +19,7 @@ MonospacedTextView::MonospacedTextView(QPlainTextEdit* view, const QString& plac
     : WithPlaceholder(view, placeholder, parent), view_(view) {
   view_->setReadOnly(true);
   view_->setLineWrapMode(QPlainTextEdit::NoWrap);
-  view_->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+  view_->setFont(fixedPitchFont(QFontDatabase::systemFont(QFontDatabase::FixedFont)));
   view_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
   view_->setUndoRedoEnabled(false);
   view_->document()->setDocumentMargin(8);

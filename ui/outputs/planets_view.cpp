@@ -3,9 +3,13 @@
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
+#include <QEvent>
 #include <QHeaderView>
 #include <QPainter>
 #include <QTableWidget>
+#include <algorithm>
+#include <numeric>
+#include <vector>
 
 #include "ui/controls/named.h"
 
@@ -16,7 +20,7 @@ namespace {
 using model::BodyColor;
 using model::BodyPosition;
 
-constexpr int columnSpacing = 16;
+constexpr int columnSpacing = 16;  // beside each text, where there is room for it
 
 QColor shadeOf(BodyColor color) {
   switch (color) {
@@ -75,6 +79,8 @@ PlanetsView::PlanetsView(QTableWidget* table, QWidget* parent)
   table_->setSelectionBehavior(QAbstractItemView::SelectRows);
   table_->setTabKeyNavigation(false);
   table_->horizontalHeader()->setStretchLastSection(true);
+  table_->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+  table_->viewport()->installEventFilter(this);
 
   auto* const copy = new QAction(tr("Copy"), this);
   copy->setShortcut(QKeySequence::Copy);
@@ -96,11 +102,29 @@ void PlanetsView::show(const QList<BodyPosition>& positions) {
     }
     table_->item(row, 0)->setIcon(markOf(positions[row].color));
   }
-  table_->resizeColumnsToContents();
-  for (int column = 0; column < table_->columnCount(); ++column) {
-    table_->setColumnWidth(column, table_->columnWidth(column) + columnSpacing);
-  }
+  fitColumns();
   showView(!positions.isEmpty());
+}
+
+bool PlanetsView::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::Resize || event->type() == QEvent::FontChange) {
+    fitColumns();
+  }
+  return WithPlaceholder::eventFilter(watched, event);
+}
+
+void PlanetsView::fitColumns() {
+  const QAbstractItemView& texts = *table_;
+  std::vector<int> widths;
+  for (int column = 0; column < table_->columnCount(); ++column) {
+    widths.push_back(std::max(texts.sizeHintForColumn(column),
+                              table_->horizontalHeader()->sectionSizeHint(column)));
+  }
+  const int room = table_->viewport()->width() - std::accumulate(widths.begin(), widths.end(), 0);
+  const int spacing = std::clamp(room / table_->columnCount(), 0, columnSpacing);
+  for (int column = 0; column < table_->columnCount(); ++column) {
+    table_->setColumnWidth(column, widths[static_cast<std::size_t>(column)] + spacing);
+  }
 }
 
 void PlanetsView::copySelection() const {

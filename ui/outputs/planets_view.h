@@ -7,15 +7,22 @@ class QTableWidget;
 
 namespace veyruna::ui {
 
-/// The six bodies as a table, each with a mark in its colour.
+/// The six bodies as a table, each with a mark in its colour. Every text is shown whole; it scrolls
+/// sideways only where the texts themselves have no room.
 class PlanetsView final : public WithPlaceholder {
  public:
   explicit PlanetsView(QWidget* parent = nullptr);
 
   void show(const QList<model::BodyPosition>& positions);
 
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
  private:
   PlanetsView(QTableWidget* table, QWidget* parent);
+  /// Gives each column the width of its texts and of the room that is left, a function of these two
+  /// alone. The last column takes what remains.
+  void fitColumns();
   void copySelection() const;
 
   QTableWidget* table_;

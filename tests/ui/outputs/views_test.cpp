@@ -22,6 +22,10 @@ struct Views : testing::Test, tests::ShownWindow {
     }
     throw std::runtime_error("no table is shown");
   }
+  /// What a column's cells ask for, with mark and margins.
+  static int textWidth(const QAbstractItemView* cells, int column) {
+    return cells->sizeHintForColumn(column);
+  }
   QStringList placeholders() {
     QStringList texts;
     for (const auto* const label : window.findChildren<QLabel*>(QStringLiteral("placeholder"))) {
@@ -112,6 +116,58 @@ TEST_F(Views, ThePositionsAreATableOfTheBodiesInTheirOrder) {
     EXPECT_EQ(positions->item(row, 0)->text(), model.positions()[row].name);
     EXPECT_EQ(positions->item(row, 5)->text(), model.positions()[row].sign);
   }
+}
+
+TEST_F(Views, TheTableOfPositionsKeepsItsWidthsHoweverOftenItIsCalculated) {
+  calculate();
+  press("tab3");
+  auto* const positions = find<QTableWidget>("positionsTable");
+  const auto texts = [positions](int column) {
+    return std::max(textWidth(positions, column),
+                    positions->horizontalHeader()->sectionSizeHint(column));
+  };
+  for (const int width : {window.minimumSizeHint().width(), 900, 1180, 1600}) {
+    SCOPED_TRACE(width);
+    window.resize(width, 700);
+    tests::turnEventLoop();
+    QList<int> first;
+    for (int calculation = 0; calculation < 20; ++calculation) {
+      calculate();
+      QList<int> widths;
+      int needed = 0;
+      for (int column = 0; column < positions->columnCount(); ++column) {
+        widths.append(positions->columnWidth(column));
+        needed += texts(column);
+        EXPECT_GE(positions->columnWidth(column), texts(column));
+      }
+      const int lacking = std::max(0, needed - positions->viewport()->width());
+      EXPECT_EQ(positions->horizontalScrollBar()->maximum(), lacking);
+      EXPECT_EQ(positions->horizontalScrollBar()->isVisible(), lacking > 0);
+      EXPECT_TRUE(lacking == 0 || width < 900);
+      first = first.isEmpty() ? widths : first;
+      EXPECT_EQ(widths, first);
+    }
+  }
+}
+
+TEST_F(Views, WhereTheTextsHaveNoRoomTheTableScrollsAndCutsNone) {
+  calculate();
+  press("tab3");
+  auto* const positions = find<QTableWidget>("positionsTable");
+  QFont large = positions->font();
+  large.setPointSizeF(large.pointSizeF() * 2.0);
+  positions->setFont(large);
+  positions->horizontalHeader()->setFont(large);
+  window.resize(window.minimumSizeHint());
+  tests::turnEventLoop();
+  calculate();
+  EXPECT_GT(positions->horizontalScrollBar()->maximum(), 0);
+  for (int column = 0; column < positions->columnCount(); ++column) {
+    EXPECT_GE(positions->columnWidth(column), textWidth(positions, column));
+  }
+  window.resize(2400, 700);
+  tests::turnEventLoop();
+  EXPECT_EQ(positions->horizontalScrollBar()->maximum(), 0);
 }
 
 TEST_F(Views, EveryMarkCanBeSeenOnLightAndOnDark) {
