@@ -35,11 +35,14 @@ MainView* VeyrunaAstroApp::openWindow() {
   connect(window, &MainView::aboutRequested, this, &VeyrunaAstroApp::openAbout);
   connect(window, &MainView::quitRequested, qApp, &QApplication::closeAllWindows);
   // Beside the window it was opened from, not on top of it.
-  if (const QWidget* const other = QApplication::activeWindow();
-      qobject_cast<const MainView*>(other) != nullptr) {
+  if (const auto* const other = qobject_cast<const MainView*>(QApplication::activeWindow())) {
+    Placement beside = other->placement();
+    beside.frame.translate(cascade, cascade);
     const QRect room = other->screen()->availableGeometry();
-    const QPoint beside = other->pos() + QPoint(cascade, cascade);
-    window->move(room.contains(QRect(beside, grip)) ? beside : room.topLeft());
+    if (!room.contains(QRect(beside.frame.topLeft(), grip))) {
+      beside.frame.moveTo(room.topLeft());
+    }
+    window->openAt(beside);
   }
   window->show();
   model_.recalculate();

@@ -2,11 +2,11 @@
 
 #include <QAction>
 #include <QCloseEvent>
+#include <QGuiApplication>
 #include <QMenuBar>
 #include <QScreen>
 #include <QSplitter>
 #include <QStatusBar>
-#include <algorithm>
 
 #include "ui/outputs/detailed_view.h"
 #include "ui/sidebar/sidebar_view.h"
@@ -24,6 +24,7 @@ using exports::OutputTab;
 
 constexpr int idealSidebarWidth = 300;
 constexpr QSize firstSize(1180, 780);
+constexpr QSize decoration(16, 40);  // left for edges and title bar while nothing is known of them
 
 }  // namespace
 
@@ -33,18 +34,13 @@ MainView::MainView(model::AstronomyModel& model, const PageEngine& engine, Windo
       state_(state),
       tabs_(new TabSelector(this)),
       sidebar_(new SidebarView(model)),
-      output_(new DetailedView(model, engine)) {
+      output_(new DetailedView(model, engine)),
+      columns_(new QSplitter) {
   setWindowTitle(tr("Veyrunan Astrologer"));
   setAttribute(Qt::WA_DeleteOnClose);
   setContextMenuPolicy(Qt::NoContextMenu);  // which would offer to hide the toolbar
   addToolBar(tabs_);
-  auto* const columns = new QSplitter;
-  columns->addWidget(sidebar_);
-  columns->addWidget(output_);
-  columns->setChildrenCollapsible(false);
-  columns->setStretchFactor(1, 1);
-  columns->setSizes({idealSidebarWidth, firstSize.width() - idealSidebarWidth});
-  setCentralWidget(columns);
+  makeColumns();
   auto* const notice = new ExportNotice;
   statusBar()->addWidget(notice, 1);
   exports_ = new ExportCommands(model, engine, state, *notice, *this);
@@ -57,19 +53,44 @@ MainView::MainView(model::AstronomyModel& model, const PageEngine& engine, Windo
   connect(sidebar_, &SidebarView::pdfExportRequested, this,
           [this] { exports_->exportPdf(selectedTab_); });
   selectTab(OutputTab::starMap);
-  resize(firstSize);
-  restoreGeometry(state_.geometry());
-  keepOnScreen();
+  if (const auto placement = state_.placement()) {
+    openAt(*placement);
+  } else {
+    resize(firstSize.boundedTo(screen()->availableSize() - decoration));
+  }
 }
 
-void MainView::keepOnScreen() {
-  constexpr int titleBar = 40;  // room for what the window manager puts around
-  const QRect room = screen()->availableGeometry().adjusted(0, titleBar, 0, 0);
-  if (!isMaximized() && !isFullScreen() && !room.contains(geometry())) {
-    resize(size().boundedTo(room.size()));
-    const QPoint last = room.bottomRight() - QPoint(width(), height());
-    move(std::clamp(x(), room.left(), std::max(room.left(), last.x())),
-         std::clamp(y(), room.top() - titleBar, std::max(room.top(), last.y()) - titleBar));
+void MainView::makeColumns() {
+  columns_->addWidget(sidebar_);
+  columns_->addWidget(output_);
+  columns_->setChildrenCollapsible(false);
+  columns_->setStretchFactor(1, 1);
+  const int sidebarWidth = state_.sidebarWidth().value_or(idealSidebarWidth);
+  columns_->setSizes({sidebarWidth, firstSize.width() - sidebarWidth});
+  setCentralWidget(columns_);
+}
+
+void MainView::openAt(const Placement& placement) {
+  QList<QRect> rooms;
+  for (const QScreen* const each : QGuiApplication::screens()) {
+    rooms.append(each->availableGeometry());
+  }
+  placement_ = onScreens(placement, rooms);
+  resize(placement_.size);
+  move(placement_.frame.topLeft());
+  setWindowState((placement_.isMaximized ? Qt::WindowMaximized : Qt::WindowNoState) |
+                 (placement_.isFullScreen ? Qt::WindowFullScreen : Qt::WindowNoState));
+}
+
+void MainView::notePlacement() {
+  if (!isVisible() || isMinimized()) {
+    return;
+  }
+  placement_.isMaximized = isMaximized();
+  placement_.isFullScreen = isFullScreen();
+  if (!isMaximized() && !isFullScreen()) {
+    placement_.frame = frameGeometry();
+    placement_.size = size();
   }
 }
 
@@ -98,9 +119,28 @@ void MainView::makeMenus() {
   menuBar()->addMenu(new HelpMenuView(this));
 }
 
+void MainView::moveEvent(QMoveEvent* event) {
+  QMainWindow::moveEvent(event);
+  notePlacement();
+}
+
+void MainView::resizeEvent(QResizeEvent* event) {
+  QMainWindow::resizeEvent(event);
+  notePlacement();
+}
+
+void MainView::changeEvent(QEvent* event) {
+  QMainWindow::changeEvent(event);
+  if (event->type() == QEvent::WindowStateChange) {
+    notePlacement();
+  }
+}
+
 void MainView::closeEvent(QCloseEvent* event) {
   sidebar_->commit();
-  state_.setGeometry(saveGeometry());
+  notePlacement();
+  state_.setPlacement(placement_);
+  state_.setSidebarWidth(columns_->sizes().constFirst());
   QMainWindow::closeEvent(event);
 }
 

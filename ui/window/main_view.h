@@ -5,6 +5,9 @@
 #include "export/output_tab.h"
 #include "model/astronomy_model.h"
 #include "ui/outputs/page_engine.h"
+#include "ui/window/placement.h"
+
+class QSplitter;
 
 namespace veyruna::ui {
 
@@ -27,6 +30,12 @@ class MainView final : public QMainWindow {
   /// Takes over what is being typed and shows the tab.
   void selectTab(exports::OutputTab tab);
 
+  /// Where the window stands now, as far as the window manager tells.
+  [[nodiscard]] const Placement& placement() const { return placement_; }
+
+  /// Lets a window that has not been shown yet open there, or where it can be reached.
+  void openAt(const Placement& placement);
+
  Q_SIGNALS:
   void newWindowRequested();
   void aboutRequested();
@@ -34,16 +43,22 @@ class MainView final : public QMainWindow {
 
  protected:
   void closeEvent(QCloseEvent* event) override;
+  void moveEvent(QMoveEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void changeEvent(QEvent* event) override;
 
  private:
+  void makeColumns();
   void makeMenus();
-  void keepOnScreen();
+  void notePlacement();
 
   WindowState& state_;
   TabSelector* tabs_;
   SidebarView* sidebar_;
   DetailedView* output_;
+  QSplitter* columns_;
   ExportCommands* exports_;
+  Placement placement_;
   exports::OutputTab selectedTab_ = exports::OutputTab::starMap;
 };
 

@@ -7,19 +7,43 @@ namespace veyruna::ui {
 
 namespace {
 
-const QString geometryKey = QStringLiteral("geometry");
+constexpr QRect desktop(-100'000, -100'000, 200'000, 200'000);  // larger than any
+
+const QString frameKey = QStringLiteral("frame");
+const QString sizeKey = QStringLiteral("size");
+const QString isMaximizedKey = QStringLiteral("isMaximized");
+const QString isFullScreenKey = QStringLiteral("isFullScreen");
+const QString sidebarWidthKey = QStringLiteral("sidebarWidth");
 const QString exportFolderKey = QStringLiteral("exportFolder");
 
 }  // namespace
 
 WindowState::WindowState(const QString& path) : state_(path) {}
 
-QByteArray WindowState::geometry() const {
-  return QByteArray::fromBase64(state_.stored(geometryKey).toString().toLatin1());
+std::optional<Placement> WindowState::placement() const {
+  const Placement stored = {state_.stored(frameKey).toRect(), state_.stored(sizeKey).toSize(),
+                            state_.stored(isMaximizedKey).toBool(),
+                            state_.stored(isFullScreenKey).toBool()};
+  // On some desktop, and a frame is around its window.
+  const bool isSound = desktop.contains(stored.frame) && !stored.size.isEmpty() &&
+                       stored.frame.size().expandedTo(stored.size) == stored.frame.size();
+  return isSound ? std::optional(stored) : std::nullopt;
 }
 
-void WindowState::setGeometry(const QByteArray& geometry) {
-  state_.store({{geometryKey, QString::fromLatin1(geometry.toBase64())}});
+void WindowState::setPlacement(const Placement& placement) {
+  state_.store({{frameKey, placement.frame},
+                {sizeKey, placement.size},
+                {isMaximizedKey, placement.isMaximized},
+                {isFullScreenKey, placement.isFullScreen}});
+}
+
+std::optional<int> WindowState::sidebarWidth() const {
+  const int width = state_.stored(sidebarWidthKey).toInt();
+  return width > 0 ? std::optional(width) : std::nullopt;
+}
+
+void WindowState::setSidebarWidth(int width) {
+  state_.store({{sidebarWidthKey, width}});
 }
 
 QString WindowState::exportFolder() const {

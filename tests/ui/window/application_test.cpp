@@ -4,7 +4,6 @@
 #include <QFile>
 #include <QLabel>
 #include <QMenuBar>
-#include <QScreen>
 
 #include "tests/ui/opened_addresses.h"
 #include "tests/ui/shown_window.h"
@@ -97,39 +96,6 @@ TEST_F(Application, CloseClosesOneWindowAndQuitAllOfThem) {
   }
 }
 
-TEST_F(Application, AWindowComesBackWhereTheLastOneStood) {
-  MainView* const window = program.openWindow();
-  window->setGeometry(40, 50, window->minimumSizeHint().width() + 31, 610);
-  tests::turnEventLoop();
-  const QSize size = window->size();
-  window->close();
-  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-  VeyrunaAstroApp again(surroundings(), tests::recordingEngine(), statePath);
-  EXPECT_EQ(again.openWindow()->size(), size);
-}
-
-TEST_F(Application, AWindowNeverOpensOffTheScreen) {
-  {
-    MainView far(program.model(), tests::recordingEngine(), program.state());
-    far.setAttribute(Qt::WA_DeleteOnClose, false);
-    far.show();
-    far.setGeometry(9000, 9000, 800, 600);
-    tests::turnEventLoop();
-    far.close();
-  }
-  const MainView* const window = program.openWindow();
-  const QRect room = window->screen()->availableGeometry();
-  EXPECT_TRUE(room.contains(window->geometry().topLeft()))
-      << window->geometry().x() << ", " << window->geometry().y();
-}
-
-TEST_F(Application, AWindowIsNoLargerThanTheScreen) {
-  const MainView* const window = program.openWindow();
-  const QRect room = window->screen()->availableGeometry();
-  EXPECT_LE(window->height(), room.height());
-  EXPECT_LE(window->width(), std::max(room.width(), window->minimumSizeHint().width()));
-}
-
 TEST_F(Application, AboutClosesOnEscape) {
   AboutView* const about = program.openAbout();
   ASSERT_TRUE(QTest::qWaitForWindowActive(about));
@@ -145,7 +111,7 @@ TEST_F(Application, AStateFileThatCannotBeReadIsKeptAside) {
   file.close();
   {
     WindowState state(path);
-    EXPECT_EQ(state.geometry(), QByteArray());
+    EXPECT_FALSE(state.placement());
     state.setExportFolder(folder.path());
   }
   const QStringList kept =
@@ -158,7 +124,9 @@ TEST_F(Application, AStateThatIsNonsenseIsAFirstStart) {
   QDir(folder.path()).mkpath(QStringLiteral("sub"));
   QFile file(statePath);
   ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-  file.write("[General]\ngeometry=AAAA////nonsense\nexportFolder=/nowhere/at/all\n");
+  file.write(
+      "[General]\nframe=@Rect(0 0 -4 2000000000)\nsize=nonsense\nisMaximized=maybe\n"
+      "sidebarWidth=-7\nexportFolder=/nowhere/at/all\n");
   file.close();
   VeyrunaAstroApp again(surroundings(), tests::recordingEngine(), statePath);
   const MainView* const window = again.openWindow();
