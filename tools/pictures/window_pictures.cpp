@@ -18,6 +18,7 @@
 #include "ui/window/about_view.h"
 #include "ui/window/application.h"
 #include "ui/window/main_view.h"
+#include "ui/window/product.h"
 
 namespace {
 
@@ -65,7 +66,7 @@ int main(int argc, char** argv) {
   }
   veyruna::exports::prepareWebEngine();
   const QApplication application(argc, argv);
-  QApplication::setApplicationName(QStringLiteral("Veyruna Astro"));
+  QApplication::setApplicationName(veyruna::ui::product().name);
   QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
   const QDir folder(QString::fromLocal8Bit(argv[1]));
   const QSize size(QByteArray(argv[2]).toInt(), QByteArray(argv[3]).toInt());

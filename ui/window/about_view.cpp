@@ -8,10 +8,12 @@
 #include <QShortcut>
 #include <QVBoxLayout>
 #include <QWindow>
+#include <algorithm>
 
 #include "ui/controls/icons.h"
 #include "ui/controls/named.h"
 #include "ui/controls/program.h"
+#include "ui/window/manual.h"
 #include "ui/window/product.h"
 
 namespace veyruna::ui {
@@ -22,14 +24,17 @@ constexpr int contentWidth = 650;
 constexpr int spacing = 6;
 constexpr int pictureSize = 100;
 
-QPushButton* linkButton(const QString& title, const QUrl& address) {
-  auto* const button = named(new QPushButton(title), "", title);
-  button->setObjectName(QStringLiteral("link") + title);
-  button->setEnabled(address.isValid());
-  button->setToolTip(address.isValid() ? address.toDisplayString()
-                                       : AboutView::tr("No address has been given for this yet."));
+/// As wide as its title asks, so that all five stand in one row.
+QPushButton* linkButton(const ProductLink& link) {
+  auto* const button = named(new QPushButton(labelOf(link.title)), "", link.title);
+  button->setObjectName(QStringLiteral("link") + link.title);
+  const int padding = 2 * button->fontMetrics().averageCharWidth();
+  button->setMinimumWidth(button->fontMetrics().horizontalAdvance(link.title) + padding);
+  button->setEnabled(link.address.isValid());
+  button->setToolTip(leadsTo(link));
+  button->setAccessibleDescription(leadsTo(link));
   QObject::connect(button, &QPushButton::clicked, button,
-                   [address] { QDesktopServices::openUrl(address); });
+                   [link] { QDesktopServices::openUrl(link.address); });
   return button;
 }
 
@@ -48,14 +53,12 @@ AboutView::AboutView(QWidget* parent) : QWidget(parent, Qt::Dialog) {
   }
   setObjectName(QStringLiteral("about"));
   setAttribute(Qt::WA_QuitOnClose, false);  // the program ends with its last main window
-  setWindowTitle(tr("About Veyruna Astro"));
-  setFixedWidth(contentWidth);
+  setWindowTitle(tr("About %1").arg(product().name));
   setAutoFillBackground(true);
-  const Product product = readProduct();
 
   auto* const picture = named(centred(QString()), "picture", tr("The sky of Veyruna"));
   picture->setPixmap(programIcon().pixmap(QSize(pictureSize, pictureSize), devicePixelRatio()));
-  auto* const title = centred(tr("Veyrunan Astrologer"));
+  auto* const title = centred(product().title);
   QFont titleFont = title->font();
   titleFont.setPointSizeF(titleFont.pointSizeF() * 2.0);
   title->setFont(titleFont);
@@ -65,18 +68,29 @@ AboutView::AboutView(QWidget* parent) : QWidget(parent, Qt::Dialog) {
   column->addWidget(picture);
   column->addWidget(title);
   column->addWidget(centred(tr("Version %1 (Build %2)").arg(programVersion(), programBuild())));
-  for (const QString& paragraph : product.credits) {
+  for (const QString& paragraph : product().credits) {
     column->addWidget(centred(paragraph));
   }
-  auto* const links = new QHBoxLayout;
-  links->addWidget(linkButton(tr("Application Documentation"), product.documentation));
-  links->addWidget(linkButton(tr("Developer Website"), product.developerWebsite));
-  links->addWidget(linkButton(tr("Community Chat"), product.community));
-  column->addLayout(links);
-  auto* const publisherLinks = new QHBoxLayout;
-  publisherLinks->addWidget(linkButton(tr("Publisher"), product.publisher));
-  publisherLinks->addWidget(linkButton(tr("Publisher's PDF"), product.publishersEdition));
-  column->addLayout(publisherLinks);
+  addLinks(column);
+  setFixedWidth(std::max(contentWidth, column->minimumSize().width()));
+}
+
+void AboutView::addLinks(QVBoxLayout* column) {
+  auto* const row = new QHBoxLayout;
+  column->addLayout(row);
+  QStringList without;
+  for (const ProductLink& link :
+       {ProductLink{product().documentation.title, manual()}, product().developerWebsite,
+        product().community, product().publisher, product().publishersEdition}) {
+    row->addWidget(linkButton(link));
+    if (!link.address.isValid()) {
+      without.append(link.title);
+    }
+  }
+  if (!without.isEmpty()) {
+    column->addWidget(named(centred(tr("No address yet: %1").arg(without.join(tr(", ")))),
+                            "linkStatus", tr("Links that do nothing yet")));
+  }
 }
 
 void AboutView::mousePressEvent(QMouseEvent* event) {

@@ -3,6 +3,8 @@
 #include <QWidget>
 #include <optional>
 
+class QVBoxLayout;
+
 namespace veyruna::ui {
 
 /// What the program is and whose: picture, title, version, credits and links. Can be dragged by its
@@ -21,6 +23,7 @@ class AboutView final : public QWidget {
   void leaveEvent(QEvent* event) override;
 
  private:
+  void addLinks(QVBoxLayout* column);
   void showHovering(bool isHovering);
 
   std::optional<QPoint> grip_;  ///< where it is held, while this window moves itself

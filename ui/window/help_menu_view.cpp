@@ -2,22 +2,24 @@
 
 #include <QDesktopServices>
 
-#include "ui/window/product.h"
+#include "ui/window/manual.h"
 
 namespace veyruna::ui {
 
 HelpMenuView::HelpMenuView(QWidget* parent) : QMenu(tr("&Help"), parent) {
-  const Product product = readProduct();
-  addLink(tr("Veyruna Astro &Help"), product.documentation)
-      ->setShortcut(QKeySequence::HelpContents);
-  addLink(tr("&Developer Website"), product.developerWebsite);
+  setToolTipsVisible(true);
+  addLink(tr("%1 &Help").arg(labelOf(product().name)), {{}, manual()});
+  const ProductLink& website = product().developerWebsite;
+  addLink(QLatin1Char('&') + labelOf(website.title), website);
 }
 
-QAction* HelpMenuView::addLink(const QString& title, const QUrl& address) {
-  QAction* const action = addAction(title);
-  action->setEnabled(address.isValid());
-  connect(action, &QAction::triggered, action, [address] { QDesktopServices::openUrl(address); });
-  return action;
+void HelpMenuView::addLink(const QString& label, const ProductLink& link) {
+  QAction* const action = addAction(label);
+  action->setEnabled(link.address.isValid());
+  action->setToolTip(leadsTo(link));
+  action->setStatusTip(leadsTo(link));
+  connect(action, &QAction::triggered, action,
+          [address = link.address] { QDesktopServices::openUrl(address); });
 }
 
 }  // namespace veyruna::ui

@@ -9,6 +9,7 @@
 #include "ui/controls/program.h"
 #include "ui/outputs/web_page_engine.h"
 #include "ui/window/application.h"
+#include "ui/window/product.h"
 
 namespace {
 
@@ -19,9 +20,10 @@ bool answersOnTerminal(int argc, char** argv) {
     std::printf("veyruna-astro %s (build %s)\n", qUtf8Printable(veyruna::ui::programVersion()),
                 qUtf8Printable(veyruna::ui::programBuild()));
   } else if (option == "--help") {
-    std::puts(
-        "veyruna-astro opens the window of Veyrunan Astrologer. It takes no options but\n"
-        "--help and --version; `veyruna` is the command for scripts.");
+    std::printf(
+        "veyruna-astro opens the window of %s. It takes no options but\n"
+        "--help and --version; `veyruna` is the command for scripts.\n",
+        qUtf8Printable(veyruna::ui::product().title));
   } else {
     return false;
   }
@@ -37,7 +39,7 @@ int main(int argc, char** argv) {
   veyruna::exports::prepareWebEngine();
   QCoreApplication::setAttribute(Qt::AA_DisableShaderDiskCache);
   const QApplication application(argc, argv);
-  QApplication::setApplicationName(QStringLiteral("Veyruna Astro"));
+  QApplication::setApplicationName(veyruna::ui::product().name);
   QApplication::setDesktopFileName(QStringLiteral("veyruna-astro"));
   QApplication::setWindowIcon(veyruna::ui::programIcon());
   veyruna::ui::VeyrunaAstroApp program(

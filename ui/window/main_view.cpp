@@ -2,9 +2,11 @@
 
 #include <QAction>
 #include <QCloseEvent>
+#include <QDesktopServices>
 #include <QGuiApplication>
 #include <QMenuBar>
 #include <QScreen>
+#include <QShortcut>
 #include <QSplitter>
 #include <QStatusBar>
 
@@ -13,6 +15,8 @@
 #include "ui/window/export_commands.h"
 #include "ui/window/export_notice.h"
 #include "ui/window/help_menu_view.h"
+#include "ui/window/manual.h"
+#include "ui/window/product.h"
 #include "ui/window/tab_selector.h"
 #include "ui/window/window_state.h"
 
@@ -36,7 +40,7 @@ MainView::MainView(model::AstronomyModel& model, const PageEngine& engine, Windo
       sidebar_(new SidebarView(model)),
       output_(new DetailedView(model, engine)),
       columns_(new QSplitter) {
-  setWindowTitle(tr("Veyrunan Astrologer"));
+  setWindowTitle(product().title);
   setAttribute(Qt::WA_DeleteOnClose);
   setContextMenuPolicy(Qt::NoContextMenu);  // which would offer to hide the toolbar
   addToolBar(tabs_);
@@ -110,13 +114,15 @@ void MainView::makeMenus() {
     });
     action->setShortcut(QKeySequence(QString::fromLatin1(keys)));
   };
-  QMenu* const program = menuBar()->addMenu(tr("&Veyruna Astro"));
-  add(program, tr("&About Veyruna Astro"), "", &MainView::aboutRequested);
+  QMenu* const program = menuBar()->addMenu(QLatin1Char('&') + labelOf(product().name));
+  add(program, tr("&About %1").arg(labelOf(product().name)), "", &MainView::aboutRequested);
   add(program, tr("&Quit"), "Ctrl+Q", &MainView::quitRequested);
   QMenu* const file = menuBar()->addMenu(tr("&File"));
   add(file, tr("&New Window"), "Ctrl+N", &MainView::newWindowRequested);
   add(file, tr("&Close"), "Ctrl+W", &QWidget::close);
   menuBar()->addMenu(new HelpMenuView(this));
+  connect(new QShortcut(QKeySequence::HelpContents, this), &QShortcut::activated, this,
+          [this] { QDesktopServices::openUrl(manualChapter(selectedTab_)); });
 }
 
 void MainView::moveEvent(QMoveEvent* event) {

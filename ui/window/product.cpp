@@ -2,7 +2,6 @@
 
 #include <QCoreApplication>
 #include <QFile>
-#include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -13,43 +12,54 @@ namespace veyruna::ui {
 
 namespace {
 
-QUrl addressIn(const QJsonObject& links, const char* name) {
-  const QString text = links[QLatin1String(name)].toString();
-  return text.isEmpty() ? QUrl() : QUrl(text, QUrl::StrictMode);
+/// A text that the owner's file must hold.
+QString textIn(const QJsonObject& object, const char* key) {
+  QString text = object[QLatin1String(key)].toString();
+  astro::requireInvariant(!text.isEmpty(), "the product texts hold names and titles");
+  return text;
 }
 
-/// The manual beside the program, where it is installed or built.
-QUrl manual() {
-  for (const QString& folder :
-       {QCoreApplication::applicationDirPath() + QStringLiteral("/../share/doc/veyruna/manual"),
-        QStringLiteral(VEYRUNA_MANUAL_DIR)}) {
-    const QFileInfo page(folder + QStringLiteral("/index.html"));
-    if (page.exists()) {
-      return QUrl::fromLocalFile(page.canonicalFilePath());
-    }
-  }
-  return {};
+ProductLink linkIn(const QJsonObject& product, const char* key) {
+  const QJsonObject link =
+      product[QLatin1String("links")].toObject()[QLatin1String(key)].toObject();
+  const QString address = link[QLatin1String("address")].toString();
+  return {textIn(link, "title"), address.isEmpty() ? QUrl() : QUrl(address, QUrl::StrictMode)};
 }
-
-}  // namespace
 
 Product readProduct() {
   QFile file(QStringLiteral(":/product.json"));
   const bool isOpen = file.open(QIODevice::ReadOnly);
   const QJsonObject product =
       isOpen ? QJsonDocument::fromJson(file.readAll()).object() : QJsonObject();
-  astro::requireInvariant(!product.isEmpty(), "the program carries its product texts");
   QStringList credits;
   for (const auto& paragraph : product[QLatin1String("credits")].toArray()) {
     credits.append(paragraph.toString());
   }
-  const QJsonObject links = product[QLatin1String("links")].toObject();
-  return {credits,
-          manual(),
-          addressIn(links, "developerWebsite"),
-          addressIn(links, "community"),
-          addressIn(links, "publisher"),
-          addressIn(links, "publishersEdition")};
+  return {textIn(product, "name"),
+          textIn(product, "title"),
+          credits,
+          linkIn(product, "documentation"),
+          linkIn(product, "developerWebsite"),
+          linkIn(product, "community"),
+          linkIn(product, "publisher"),
+          linkIn(product, "publishersEdition")};
+}
+
+}  // namespace
+
+QString leadsTo(const ProductLink& link) {
+  return link.address.isValid() ? link.address.toDisplayString()
+                                : QCoreApplication::translate(
+                                      "ProductLink", "No address has been given for this yet.");
+}
+
+QString labelOf(QString title) {
+  return title.replace(QLatin1Char('&'), QLatin1String("&&"));
+}
+
+const Product& product() {
+  static const Product texts = readProduct();
+  return texts;
 }
 
 }  // namespace veyruna::ui

@@ -179,7 +179,7 @@ TEST_F(Keyboard, TheMenusAnswerToTheirKeys) {
   EXPECT_EQ(keys[QStringLiteral("Quit")], QStringLiteral("Ctrl+Q"));
   EXPECT_EQ(keys[QStringLiteral("New Window")], QStringLiteral("Ctrl+N"));
   EXPECT_EQ(keys[QStringLiteral("Close")], QStringLiteral("Ctrl+W"));
-  EXPECT_EQ(keys[QStringLiteral("Veyruna Astro Help")], QStringLiteral("F1"));
+  EXPECT_EQ(keys[QStringLiteral("Veyruna Astro Help")], QString());  // F1 knows the chapter
   EXPECT_EQ(keys.size(), 6);
 }
 
