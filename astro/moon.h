@@ -1,9 +1,14 @@
 #pragma once
 
+#include <string_view>
+
 #include "astro/observer.h"
 #include "astro/vec3d.h"
 
 namespace veyruna::astro {
+
+/// The moon's name.
+inline constexpr std::string_view moonName = "Ivro";
 
 /// Revolutions of the moon in longitude per day: a sidereal month of 27.6923 days.
 inline constexpr double moonMeanMotion = 0.03611111929015772;
@@ -23,7 +28,7 @@ inline constexpr double moonInclination = 0.13962634015954636;
 /// Distance of the moon in radii of the world, 1384 / 23.
 inline constexpr double moonDistance = 60.17391304347826;
 
-/// Ecliptic longitude of the moon, Ivro, at base time `t` (days), in [0, 2π).
+/// Ecliptic longitude of the moon at base time `t` (days), in [0, 2π).
 double moonLongitude(double t);
 
 /// Ecliptic latitude of the moon at base time `t` (days), radians.

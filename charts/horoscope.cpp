@@ -9,13 +9,13 @@
 #include "astro/horizon.h"
 #include "astro/moon.h"
 #include "astro/number_text.h"
-#include "astro/planet.h"
 #include "astro/sun.h"
 #include "charts/body_marker.h"
+#include "charts/body_style.h"
 #include "charts/chart_frame.h"
+#include "charts/element.h"
 #include "charts/interpretation.h"
 #include "charts/moon_glyph.h"
-#include "charts/planet_style.h"
 #include "charts/svg_writer.h"
 
 namespace veyruna::charts {
@@ -40,21 +40,7 @@ constexpr double rimDistance = 0.9;
 /// South of this latitude the celestial pole's circle would leave the wheel: −21°.
 constexpr double southernmostPoleCircle = -astro::obliquity;
 
-struct Chord {
-  astro::Planet from;
-  astro::Planet to;
-  std::string_view color;
-};
-
 using astro::Planet;
-constexpr std::array<Chord, 6> chords = {{
-    {Planet::bralo, Planet::galvi, "green"},
-    {Planet::bralo, Planet::dunmor, "orange"},
-    {Planet::bralo, Planet::pallox, "purple"},
-    {Planet::dunmor, Planet::galvi, "yellow"},
-    {Planet::dunmor, Planet::pallox, "pink"},
-    {Planet::galvi, Planet::pallox, "blue"},
-}};
 
 double ascendantOf(double siderealAngle, double latitude) {
   return astro::wrappedToTurn(
@@ -172,15 +158,15 @@ class Horoscope {
     constexpr double sunSize = 5.0;
     const astro::Vec3D sunAt = rotated(sun_.eq, astro::equatorialToEcliptic);
     const astro::Vec3D moonAt = rotated(moon_.eq, astro::equatorialToEcliptic);
-    drawBody(sunAt, "", "yellow", sunSize);
+    drawBody(sunAt, "", shadeOf(sunColor).name, sunSize);
     drawMoon(svg_,
              {projected(moonAt).exact(), projected(sunAt).exact(), nativity_.moon - nativity_.sun,
-              ink("white")},
+              ink(shadeOf(moonColor).name)},
              "gray");
     for (const Planet planet : astro::allPlanets) {
       const PlanetStyle& style = styleOf(planet);
       drawBody(astro::Vec3D(nativity_.planets[indexOf(planet)], 0.0), displayName(planet),
-               style.color, style.size);
+               shadeOf(style.color).shade, style.size);
     }
   }
 
@@ -190,15 +176,15 @@ class Horoscope {
       return ProjectedPoint{1.0, std::sin(longitude) * discRadius,
                             std::cos(longitude) * discRadius};
     };
-    for (const Chord& chord : chords) {
-      const ProjectedPoint from = onEdge(chord.from);
-      const ProjectedPoint to = onEdge(chord.to);
+    for (const Element& element : elementsByChord) {
+      const ProjectedPoint from = onEdge(element.pair.first);
+      const ProjectedPoint to = onEdge(element.pair.second);
       svg_.element("line")
           .attribute("x1", from.roundedX())
           .attribute("y1", from.roundedY())
           .attribute("x2", to.roundedX())
           .attribute("y2", to.roundedY())
-          .attribute("stroke", ink(chord.color))
+          .attribute("stroke", ink(element.color))
           .attribute("stroke-width", "0.8")
           .endEmpty();
     }

@@ -6,8 +6,9 @@
 #include <utility>
 
 #include "astro/angle.h"
-#include "astro/planet.h"
+#include "charts/body_style.h"
 #include "charts/chart_frame.h"
+#include "charts/element.h"
 #include "reports/zodiac.h"
 
 namespace veyruna::charts {
@@ -22,36 +23,34 @@ constexpr double unitsPerTurn = 200.0;
 constexpr std::int64_t headingX = 400;
 constexpr std::int64_t rowX = 410;
 
-struct PlanetRow {
-  std::string_view label;
-  std::string_view dotColor;
-  std::string_view natalLabel;
-};
+/// Where blocks of rows begin and what they must not reach, a row every 10 units.
+constexpr std::int64_t rowHeight = 10;
+constexpr std::int64_t planetRowsY = 110;
+constexpr std::int64_t keepY = 170;
+constexpr std::int64_t elementRowsY = 210;
+constexpr std::int64_t natalHeadingY = 290;
+constexpr std::int64_t natalRowsY = 330;
+constexpr std::int64_t pageEndY = 370;
 
-constexpr std::array<PlanetRow, 4> planetRows = {{
-    {"Bralo (Inspiration)", "blue", "BRALO (Inspiration) - "},
-    {"Dunmor (Energy)", "red", "DUNMOR (Energy) - "},
-    {"Galvi (Endurance)", "orange", "GALVI (Endurance) - "},
-    {"Pallox (Wisdom)", "purple", "PALLOX (Wisdom) - "},
-}};
+constexpr bool hasRoom(std::int64_t begin, std::size_t rows, std::int64_t end) {
+  return begin + static_cast<std::int64_t>(rows) * rowHeight <= end;
+}
+static_assert(hasRoom(planetRowsY, astro::planetCount, keepY));
+static_assert(hasRoom(elementRowsY, astro::planetPairCount, natalHeadingY));
+static_assert(hasRoom(natalRowsY, astro::planetCount, pageEndY));
 
-struct ElementRow {
-  std::string_view element;
-  std::string_view lineColor;  ///< that of the pair's chord on the wheel
-  std::string_view pairCode;
-  Planet first;
-  Planet second;
-  std::string_view bodyPart;
-};
+/// "Bralo (Inspiration)".
+std::string withGift(std::string name, Planet planet) {
+  return name.append(" (").append(styleOf(planet).gift).append(")");
+}
 
-constexpr std::array<ElementRow, 6> elementRows = {{
-    {"Marthel", "purple", "BR-PA", Planet::bralo, Planet::pallox, "Brain (Ethereal)"},
-    {"Tobrin", "pink", "DU-PA", Planet::dunmor, Planet::pallox, "Lungs (Plenary)"},
-    {"Quorane", "orange", "BR-DU", Planet::bralo, Planet::dunmor, "Heart (Impulse)"},
-    {"Kellam", "yellow", "DU-GA", Planet::dunmor, Planet::galvi, "Bones (Material)"},
-    {"Umbrik", "green", "BR-GA", Planet::bralo, Planet::galvi, "Gonads (Plenary)"},
-    {"Zerathe", "blue", "GA-PA", Planet::galvi, Planet::pallox, "Stomach (Repose)"},
-}};
+std::string inCapitals(std::string_view name) {
+  std::string capitals(name);
+  for (char& letter : capitals) {
+    letter = letter >= 'a' && letter <= 'z' ? static_cast<char>(letter - 'a' + 'A') : letter;
+  }
+  return capitals;
+}
 
 void drawText(SvgWriter& svg, std::int64_t x, std::int64_t y, std::string_view text) {
   beginText(svg, x, y, "6").endWithText(text);
@@ -63,50 +62,51 @@ void drawText(SvgWriter& svg, std::int64_t x, std::int64_t y, std::string_view l
 }
 
 void drawPlanetRows(SvgWriter& svg, const Nativity& nativity) {
-  std::int64_t y = 110;
+  std::int64_t y = planetRowsY;
   for (const Planet planet : astro::allPlanets) {
-    const PlanetRow& row = planetRows[indexOf(planet)];
     const double longitude = nativity.planets[indexOf(planet)];
-    drawText(svg, rowX, y, row.label);
+    drawText(svg, rowX, y, withGift(std::string(displayName(planet)), planet));
     drawText(svg, 500, y, signNameWithMeaning(longitude));
     drawText(svg, 650, y, aspectVerdict(longitude, nativity));
     svg.element("circle")
         .attribute("cx", 405)
         .attribute("cy", y - 3)
         .attribute("r", 3)
-        .attribute("fill", row.dotColor)
+        .attribute("fill", shadeOf(styleOf(planet).color).name)
         .endEmpty();
-    y += 10;
+    y += rowHeight;
   }
 }
 
 void drawElementRows(SvgWriter& svg, const Nativity& nativity) {
-  std::int64_t y = 210;
-  for (const ElementRow& row : elementRows) {
-    drawText(svg, rowX, y, row.element);
+  std::int64_t y = elementRowsY;
+  for (const Element& element : elements) {
+    drawText(svg, rowX, y, element.name);
     svg.element("line")
         .attribute("x1", 402)
         .attribute("y1", y - 4)
         .attribute("x2", 408)
         .attribute("y2", y - 4)
-        .attribute("stroke", row.lineColor)
+        .attribute("stroke", element.color)
         .attribute("stroke-width", 1)
         .endEmpty();
-    drawText(svg, 500, y, row.pairCode);
-    drawText(svg, 540, y, row.bodyPart);
-    drawText(
-        svg, 640, y,
-        pairStrength(nativity.planets[indexOf(row.first)], nativity.planets[indexOf(row.second)]));
-    y += 10;
+    std::string code;
+    appendCode(code, element.pair);
+    drawText(svg, 500, y, code);
+    drawText(svg, 540, y, element.bodyPart);
+    drawText(svg, 640, y,
+             pairStrength(nativity.planets[indexOf(element.pair.first)],
+                          nativity.planets[indexOf(element.pair.second)]));
+    y += rowHeight;
   }
 }
 
 void drawNatalRows(SvgWriter& svg, const Nativity& nativity) {
-  std::int64_t y = 330;
+  std::int64_t y = natalRowsY;
   for (const Planet planet : astro::allPlanets) {
-    drawText(svg, rowX, y, planetRows[indexOf(planet)].natalLabel,
+    drawText(svg, rowX, y, withGift(inCapitals(displayName(planet)), planet) + " - ",
              pairStrength(nativity.planets[indexOf(planet)], nativity.ascendant));
-    y += 10;
+    y += rowHeight;
   }
 }
 
@@ -159,8 +159,9 @@ std::string_view powerVerdict(double moonLatitude) {
                                       : "INFERIOR.  Will can overcome Fate across Veyruna.";
 }
 
-bool isTwistedKeep(const std::array<double, 4>& planetLongitudes) {
-  std::array<std::pair<double, int>, 4> order{};
+bool isTwistedKeep(const astro::PerPlanet<double>& planetLongitudes) {
+  static_assert(astro::planetCount == 4, "the keep is that of two groups of two planets");
+  astro::PerPlanet<std::pair<double, int>> order{};
   for (std::size_t i = 0; i < order.size(); ++i) {
     order[i] = {astro::wrappedToClosedTurn(planetLongitudes[i]), static_cast<int>(i % 2)};
   }
@@ -185,16 +186,16 @@ void drawInterpretation(SvgWriter& svg, const Nativity& nativity) {
   drawPlanetRows(svg, nativity);
   drawText(svg, headingX, 200, "Elemental Influences");
   drawElementRows(svg, nativity);
-  drawText(svg, headingX, 290, "Natal Forces (Origins)");
+  drawText(svg, headingX, natalHeadingY, "Natal Forces (Origins)");
   drawText(svg, rowX, 300, "Dominant Sphere: ", aspectVerdict(nativity.ascendant, nativity));
   drawText(svg, rowX, 310, "Ascending Sign (Purpose): ", signNameWithMeaning(nativity.ascendant));
   drawText(svg, rowX, 320,
            "Descending Sign (Displacement): ", signNameWithMeaning(nativity.ascendant + astro::pi));
   drawNatalRows(svg, nativity);
   if (isTwistedKeep(nativity.planets)) {
-    beginText(svg, headingX, 170, "9").endWithText("Twisted Keep!");
+    beginText(svg, headingX, keepY, "9").endWithText("Twisted Keep!");
   } else {
-    beginText(svg, headingX, 170, "6").endWithText("Straight Keep");
+    beginText(svg, headingX, keepY, "6").endWithText("Straight Keep");
   }
 }
 

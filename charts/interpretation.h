@@ -1,8 +1,8 @@
 #pragma once
 
-#include <array>
 #include <string_view>
 
+#include "astro/planet.h"
 #include "charts/svg_writer.h"
 
 namespace veyruna::charts {
@@ -12,8 +12,8 @@ struct Nativity {
   double sun;   ///< longitude
   double moon;  ///< longitude
   double moonLatitude;
-  std::array<double, 4> planets;  ///< longitudes in the planets' order, any turn
-  double ascendant;               ///< longitude
+  astro::PerPlanet<double> planets;  ///< longitudes, any turn
+  double ascendant;                  ///< longitude
 };
 
 /// Separation of two longitudes on a scale of 200 to the full turn: 0 together, 100 opposite.
@@ -30,7 +30,7 @@ std::string_view pairStrength(double a, double b);
 std::string_view powerVerdict(double moonLatitude);
 
 /// Whether the planets' two groups (1 and 3, 2 and 4) alternate around the circle.
-bool isTwistedKeep(const std::array<double, 4>& planetLongitudes);
+bool isTwistedKeep(const astro::PerPlanet<double>& planetLongitudes);
 
 /// The panel to the right of the wheel.
 void drawInterpretation(SvgWriter& svg, const Nativity& nativity);

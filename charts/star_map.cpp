@@ -12,9 +12,9 @@
 #include "astro/planet.h"
 #include "astro/sun.h"
 #include "charts/body_marker.h"
+#include "charts/body_style.h"
 #include "charts/chart_frame.h"
 #include "charts/moon_glyph.h"
-#include "charts/planet_style.h"
 #include "charts/svg_writer.h"
 
 namespace veyruna::charts {
@@ -165,16 +165,17 @@ class StarMap {
     const double t = observer_.baseTime;
     const astro::Sun sun(t);
     const astro::Moon moon(t);
-    drawBody(visiblePoint(sun.eq), "", "#f1c536", sunSize);
+    drawBody(visiblePoint(sun.eq), "", shadeOf(sunColor).shade, sunSize);
     if (const VisiblePoint at = visiblePoint(moon.eq)) {
+      constexpr std::string_view white = shadeOf(moonColor).name;
       const PagePoint sunPoint = projected(horizon_.toHorizon(sun.eq)).exact();
-      drawMoon(svg_, {at->exact(), sunPoint, moon.ec.phi - sun.ec.phi, "white"}, "white");
+      drawMoon(svg_, {at->exact(), sunPoint, moon.ec.phi - sun.ec.phi, white}, white);
     }
     for (const astro::Planet planet : astro::allPlanets) {
       const astro::Vec3D ecliptic = planetEcliptic(planet, t, sun);
       const PlanetStyle& style = styleOf(planet);
       drawBody(visiblePoint(rotated(ecliptic, astro::eclipticToEquatorial)), displayName(planet),
-               style.color, style.size);
+               shadeOf(style.color).shade, style.size);
     }
   }
 

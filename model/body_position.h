@@ -5,13 +5,14 @@
 #include <QUuid>
 #include <span>
 
+#include "charts/body_style.h"
 #include "model/city_preset.h"
 #include "reports/positions.h"
 
 namespace veyruna::model {
 
-/// The colours bodies are shown in, by name; the shades are the interface's.
-enum class BodyColor { yellow, white, blue, red, orange, purple, gray };
+/// The colours bodies are shown in, those of the charts.
+using charts::BodyColor;
 
 /// One row of the positions list. The texts are those of reports::PositionRow.
 struct BodyPosition {

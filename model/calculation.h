@@ -23,7 +23,7 @@ struct CalculationResult {
   QString basicTableMonthly;  ///< 30 rows, one a day
   QString conjunctionDaily;   ///< 144 rows, one every ten minutes
   QString conjunctionYearly;  ///< 360 rows, one a day
-  std::array<reports::PositionRow, 6> positions;
+  std::array<reports::PositionRow, astro::bodyCount> positions;
   QString dateLabel;
   QString nextFullMoonLabel;
   QString nextNewMoonLabel;

@@ -1,13 +1,13 @@
 #include "reports/conjunctions.h"
 
-#include <array>
+#include <algorithm>
 #include <cmath>
 
 #include "astro/angle.h"
 #include "astro/arc.h"
 #include "astro/calendar.h"
 #include "astro/moon.h"
-#include "astro/planet.h"
+#include "astro/planet_pair.h"
 #include "astro/sun.h"
 #include "reports/table_rows.h"
 
@@ -26,26 +26,47 @@ constexpr std::string_view header =
 constexpr double closest = 0.03490658503988659;
 constexpr double acrossSeam = 6.2482787221397;
 
-struct PlanetPair {
-  astro::Planet first;
-  astro::Planet second;
-  std::string_view mark;
+/// Whether `name` stands at a place of the header, in capitals and as a whole word.
+constexpr bool isInCapitals(std::string_view name, std::string_view headerFromThere) {
+  for (const char letter : name) {
+    const char capital = letter >= 'a' ? static_cast<char>(letter - 'a' + 'A') : letter;
+    if (headerFromThere.empty() || headerFromThere.front() != capital) {
+      return false;
+    }
+    headerFromThere.remove_prefix(1);
+  }
+  return headerFromThere.starts_with(' ');
+}
+
+/// Every body has a column of either block.
+constexpr bool isInBothBlocks(std::string_view name) {
+  int columns = 0;
+  for (std::size_t place = 0; place < header.size(); ++place) {
+    columns += isInCapitals(name, header.substr(place)) ? 1 : 0;
+  }
+  return columns == 2;
+}
+static_assert(std::ranges::all_of(astro::planetFacts, isInBothBlocks, &astro::PlanetFacts::name),
+              "a planet has no columns in the header");
+static_assert(isInBothBlocks(astro::sunName) && isInBothBlocks(astro::moonName));
+
+void appendAngle(std::string& out, double angle) {
+  astro::Arc(angle).appendDegMinText(out);
+  out += "  ";
+}
+
+/// The columns of moon, sun and planets, in this order.
+struct Block {
+  double moon;
+  double sun;
+  astro::PerPlanet<double> planets;
 };
 
-using astro::Planet;
-constexpr std::array<PlanetPair, 6> planetPairs = {{
-    {Planet::bralo, Planet::dunmor, "BR-DU "},
-    {Planet::bralo, Planet::galvi, "BR-GA "},
-    {Planet::bralo, Planet::pallox, "BR-PA "},
-    {Planet::dunmor, Planet::galvi, "DU-GA "},
-    {Planet::dunmor, Planet::pallox, "DU-PA "},
-    {Planet::galvi, Planet::pallox, "GA-PA "},
-}};
-
-void appendAngles(std::string& out, const std::array<double, 6>& angles) {
-  for (const double angle : angles) {
-    astro::Arc(angle).appendDegMinText(out);
-    out += "  ";
+void appendBlock(std::string& out, const Block& block) {
+  appendAngle(out, block.moon);
+  appendAngle(out, block.sun);
+  for (const double angle : block.planets) {
+    appendAngle(out, angle);
   }
 }
 
@@ -56,9 +77,9 @@ double rightAscensionOf(const astro::Vec3D& ecliptic) {
 void appendRow(std::string& out, double t) {
   const astro::Sun sun(t);
   const astro::Vec3D moon(astro::moonLongitude(t), astro::moonLatitude(t));
-  std::array<double, 4> longitudes{};
-  std::array<double, 4> rightAscensions{};
-  for (const Planet planet : astro::allPlanets) {
+  astro::PerPlanet<double> longitudes{};
+  astro::PerPlanet<double> rightAscensions{};
+  for (const astro::Planet planet : astro::allPlanets) {
     const astro::Vec3D ecliptic = planetEcliptic(planet, t, sun);
     longitudes[indexOf(planet)] = ecliptic.phi;
     rightAscensions[indexOf(planet)] = rightAscensionOf(ecliptic);
@@ -66,14 +87,14 @@ void appendRow(std::string& out, double t) {
 
   astro::appendCalendarLabel(out, t);
   out += "  ";
-  appendAngles(out, {rightAscensionOf(moon), sun.eq.phi, longitudes[0], longitudes[1],
-                     longitudes[2], longitudes[3]});
+  // The planets' columns stand crossed; see conjunctionTable.
+  appendBlock(out, {.moon = rightAscensionOf(moon), .sun = sun.eq.phi, .planets = longitudes});
   out += "  ";
-  appendAngles(out, {moon.phi, sun.ec.phi, rightAscensions[0], rightAscensions[1],
-                     rightAscensions[2], rightAscensions[3]});
-  for (const PlanetPair& pair : planetPairs) {
+  appendBlock(out, {.moon = moon.phi, .sun = sun.ec.phi, .planets = rightAscensions});
+  for (const astro::PlanetPair& pair : astro::allPlanetPairs) {
     if (isConjunct(longitudes[indexOf(pair.first)], longitudes[indexOf(pair.second)])) {
-      out += pair.mark;
+      appendCode(out, pair);
+      out += ' ';
     }
   }
   out += '\n';

@@ -37,10 +37,6 @@ std::string fittedName(std::string_view name) {
   return fitted.append(nameWidth - std::min(characters, nameWidth), ' ');
 }
 
-std::string_view bodyTypeOf(astro::Planet planet) {
-  return planet < astro::Planet::galvi ? "Terrestrial" : "Gas Giant";
-}
-
 PositionRow rowOf(std::string_view name, std::string_view bodyType, const astro::Vec3D& equatorial,
                   double ecliptic, const astro::HorizonFrame& horizon) {
   const astro::Vec3D seen = horizon.toHorizon(equatorial);
@@ -54,22 +50,21 @@ PositionRow rowOf(std::string_view name, std::string_view bodyType, const astro:
 
 }  // namespace
 
-std::array<PositionRow, 6> positionRows(const astro::Observer& observer) {
+std::array<PositionRow, astro::bodyCount> positionRows(const astro::Observer& observer) {
   const double t = observer.baseTime;
   const astro::HorizonFrame horizon(observer);
   const astro::Sun sun(t);
   const astro::Moon moon(observer);
-  const auto planetRow = [&](astro::Planet planet) {
-    const astro::Vec3D ecliptic = planetEcliptic(planet, t, sun);
-    return rowOf(displayName(planet), bodyTypeOf(planet),
-                 rotated(ecliptic, astro::eclipticToEquatorial), ecliptic.phi, horizon);
-  };
-  return {rowOf("Thessil", "Sun", sun.eq, sun.ec.phi, horizon),
-          rowOf("Ivro", "Moon", moon.eq, moon.ec.phi, horizon),
-          planetRow(astro::Planet::bralo),
-          planetRow(astro::Planet::dunmor),
-          planetRow(astro::Planet::galvi),
-          planetRow(astro::Planet::pallox)};
+  std::array<PositionRow, astro::bodyCount> rows;
+  auto row = rows.begin();
+  *row++ = rowOf(astro::sunName, "Sun", sun.eq, sun.ec.phi, horizon);
+  *row++ = rowOf(astro::moonName, "Moon", moon.eq, moon.ec.phi, horizon);
+  for (const astro::PlanetFacts& facts : astro::planetFacts) {
+    const astro::Vec3D ecliptic = planetEcliptic(facts.planet, t, sun);
+    *row++ = rowOf(facts.name, facts.kind, rotated(ecliptic, astro::eclipticToEquatorial),
+                   ecliptic.phi, horizon);
+  }
+  return rows;
 }
 
 std::string positionsTableText(std::span<const PositionRow> rows) {

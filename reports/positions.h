@@ -5,6 +5,7 @@
 #include <string>
 
 #include "astro/observer.h"
+#include "astro/planet.h"
 
 namespace veyruna::reports {
 
@@ -18,8 +19,8 @@ struct PositionRow {
   std::string sign;      ///< zodiac sign of that longitude, 11 characters
 };
 
-/// The six bodies in their fixed order: sun, moon (seen from the observer's place) and the planets.
-std::array<PositionRow, 6> positionRows(const astro::Observer& observer);
+/// All bodies in their fixed order: sun, moon (seen from the observer's place) and the planets.
+std::array<PositionRow, astro::bodyCount> positionRows(const astro::Observer& observer);
 
 /// The rows as a table: two header lines, then one line a body. A name fills 13 characters.
 /// No rows give the header lines alone.

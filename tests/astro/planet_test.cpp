@@ -6,6 +6,7 @@
 #include <rapidcheck/gtest.h>
 #include <set>
 
+#include "astro/planet_pair.h"
 #include "tests/support/random_sky.h"
 
 namespace veyruna {
@@ -34,25 +35,61 @@ TEST(Planet, TheirOrderAndNamesAreThoseOfEveryTable) {
   }
 }
 
+TEST(Planet, ATableWithoutAPlanetIsFoundOut) {
+  struct Row {
+    Planet planet = Planet::count;
+  };
+  astro::PerPlanet<Row> rows = {{{Planet::bralo}, {Planet::dunmor}, {Planet::galvi}}};
+  EXPECT_FALSE(astro::hasEveryPlanet(rows));
+  rows.back().planet = Planet::pallox;
+  EXPECT_TRUE(astro::hasEveryPlanet(rows));
+  std::swap(rows[1], rows[2]);
+  EXPECT_FALSE(astro::hasEveryPlanet(rows));
+}
+
+TEST(PlanetPair, EveryTwoPlanetsAreOnePair) {
+  std::set<std::string> codes;
+  for (const astro::PlanetPair& pair : astro::allPlanetPairs) {
+    std::string code;
+    appendCode(code, pair);
+    codes.insert(code);
+  }
+  EXPECT_EQ(codes, (std::set<std::string>{"BR-DU", "BR-GA", "BR-PA", "DU-GA", "DU-PA", "GA-PA"}));
+}
+
+TEST(PlanetPair, ATableWithAPairTwiceOrNeverIsFoundOut) {
+  struct Row {
+    astro::PlanetPair pair;
+  };
+  astro::PerPlanetPair<Row> rows;
+  std::ranges::transform(astro::allPlanetPairs, rows.rbegin(),
+                         [](const astro::PlanetPair& pair) { return Row{pair}; });
+  EXPECT_TRUE(astro::hasEveryPair(rows)) << "in whatever order";
+  rows[0] = rows[1];
+  EXPECT_FALSE(astro::hasEveryPair(rows));
+  rows[0] = {};
+  EXPECT_FALSE(astro::hasEveryPair(rows));
+}
+
 TEST(Planet, OrbitsObeyTheThirdLaw) {
   for (const Planet planet : allPlanets) {
-    const std::size_t i = indexOf(planet);
-    const double radius = std::pow(std::abs(astro::orbitPeriod[i]) / 360.0, 2.0 / 3.0);
-    EXPECT_NEAR(astro::orbitRadius[i], radius, 1e-15 * radius) << displayName(planet);
+    const astro::PlanetFacts& facts = factsOf(planet);
+    const double radius = std::pow(std::abs(facts.orbitPeriod) / 360.0, 2.0 / 3.0);
+    EXPECT_NEAR(facts.orbitRadius, radius, 1e-15 * radius) << displayName(planet);
   }
 }
 
 TEST(Planet, PhasesAreTheRoundAnglesTheyWereTakenFrom) {
   const std::array<double, 4> partsOfPi = {1.6, 0.4, 0.8, 1.2};
   for (std::size_t i = 0; i < partsOfPi.size(); ++i) {
-    EXPECT_NEAR(astro::orbitPhase[i], partsOfPi[i] * astro::pi, 1e-15);
+    EXPECT_NEAR(astro::planetFacts.at(i).orbitPhase, partsOfPi[i] * astro::pi, 1e-15);
   }
 }
 
 /// The direction from the world to a planet at a heliocentric longitude, by plain addition.
 double seenFromWorld(Planet planet, double heliocentric, double t) {
   const double sun = astro::sunLongitude(t);
-  const double radius = astro::orbitRadius[indexOf(planet)];
+  const double radius = factsOf(planet).orbitRadius;
   return std::atan2(std::sin(sun) + radius * std::sin(heliocentric),
                     std::cos(sun) + radius * std::cos(heliocentric));
 }
@@ -64,7 +101,7 @@ TEST(Planet, PhasesCountTurnsNotRadians) {
 }
 
 TEST(Planet, BraloKeepsNearTheSun) {
-  const double most = std::asin(astro::orbitRadius[0]);
+  const double most = std::asin(factsOf(Planet::bralo).orbitRadius);
   EXPECT_NEAR(most * 180.0 / astro::pi, 42.2, 0.05);
   double widest = 0.0;
   for (double t = 0.0; t < 2000.0; t += 0.25) {
@@ -132,9 +169,9 @@ RC_GTEST_PROP(Planet, ASunAtHandGivesTheSameDirection, ()) {
 
 RC_GTEST_PROP(Planet, CirclesTheSunUniformly, ()) {
   const Planet planet = *planets();
-  const std::size_t i = indexOf(planet);
+  const astro::PlanetFacts& facts = factsOf(planet);
   const double t = *tests::momentsWithin(1e6);
-  const double heliocentric = (astro::orbitPhase[i] + t / astro::orbitPeriod[i]) * twoPi;
+  const double heliocentric = (facts.orbitPhase + t / facts.orbitPeriod) * twoPi;
   RC_ASSERT(std::abs(tests::apart(planetEcliptic(planet, t).phi,
                                   seenFromWorld(planet, heliocentric, t))) < 1e-9);
 }

@@ -22,26 +22,6 @@ using model::BodyPosition;
 
 constexpr int columnSpacing = 16;  // beside each text, where there is room for it
 
-QColor shadeOf(BodyColor color) {
-  switch (color) {
-    case BodyColor::yellow:
-      return {0xf1, 0xc5, 0x36};
-    case BodyColor::white:
-      return Qt::white;
-    case BodyColor::blue:
-      return {0x40, 0x7f, 0xf5};
-    case BodyColor::red:
-      return {0xe3, 0x46, 0x3e};
-    case BodyColor::orange:
-      return {0xe9, 0x87, 0x39};
-    case BodyColor::purple:
-      return {0xb1, 0x41, 0xd5};
-    case BodyColor::gray:
-      break;
-  }
-  return Qt::gray;
-}
-
 /// A disc in the body's colour with a grey edge, to be seen on light and on dark.
 QIcon markOf(BodyColor color) {
   constexpr int size = 32;
@@ -50,7 +30,8 @@ QIcon markOf(BodyColor color) {
   QPainter painter(&mark);
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(QPen(QColor(0x80, 0x80, 0x80), 2.0));
-  painter.setBrush(shadeOf(color));
+  const std::string_view shade = charts::shadeOf(color).shade;
+  painter.setBrush(QColor(QString::fromUtf8(shade.data(), static_cast<qsizetype>(shade.size()))));
   painter.drawEllipse(QRectF(5.0, 5.0, size - 10.0, size - 10.0));
   // The same where its row is selected, not tinted by the style.
   QIcon icon(mark);
