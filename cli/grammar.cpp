@@ -2,9 +2,9 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
-#include <set>
 
 #include "cli/errors.h"
+#include "cli/option_values.h"
 #include "cli/quoting.h"
 
 #include "documents/documents.h"
@@ -13,33 +13,10 @@ namespace veyruna::cli {
 
 namespace {
 
-const std::set<std::string> valueOptions = {"-o",     "--year",      "--month", "--day",
-                                            "--hour", "--base-time", "--lat",   "--long",
-                                            "--rows", "--step",      "--out",   "--location"};
-const std::set<std::string> flags = {"--local", "--bw", "--help", "--version"};
-
-/// "--lat -20" as "--lat=-20": what follows these options is theirs, even with a minus in front.
-std::vector<std::string> withValuesAttached(const std::vector<std::string>& arguments) {
-  std::vector<std::string> attached;
-  for (std::size_t i = 0; i < arguments.size(); ++i) {
-    const std::string name = arguments[i].substr(0, arguments[i].find('='));
-    const bool isAttached = name.size() < arguments[i].size();
-    if (flags.contains(name) && isAttached) {
-      throw UsageError(inQuotes(arguments[i]) + " is not accepted; " + name + " takes no value");
-    }
-    if (!valueOptions.contains(name)) {
-      attached.push_back(arguments[i]);
-      continue;
-    }
-    const std::string given = isAttached                 ? arguments[i].substr(name.size() + 1)
-                              : i + 1 < arguments.size() ? arguments[++i]
-                                                         : "";
-    if (given.empty()) {
-      throw UsageError(name + ": a value is missing; veyruna --help says which are accepted");
-    }
-    attached.push_back(name == "-o" ? name + given : name + "=" + given);
-  }
-  return attached;
+/// An option with a value, which is kept as it was typed.
+CLI::Option* addValue(CLI::App& command, const std::string& name, const std::string& type,
+                      std::string& typed, const std::string& description) {
+  return command.add_option(name, typed, description)->type_name(type);
 }
 
 }  // namespace
@@ -56,8 +33,8 @@ Grammar::Grammar()
   app_->footer("`veyruna help COMMAND` shows an example of each.");
   addMoment();
   addPlace();
-  app_->add_option("-o", typed_.file, "Write the document to FILE instead of standard output")
-      ->type_name("FILE");
+  addValue(*app_, "-o", "FILE", typed_.file,
+           "Write the document to FILE instead of standard output");
   for (const documents::Entry& document : documents::allDocuments) {
     if (!document.command.empty()) {
       addCommand(document.command, document.summary);
@@ -67,9 +44,8 @@ Grammar::Grammar()
   addTable("ephemeris", "Moon and sun at moments of your own", "--rows 24 --step 1/24");
   addTable("conjunctions", "All bodies at moments of your own", "--rows 720 --step 10");
   addCommand("base-time", "The moment as days since noon of the first day");
-  addCommand("all", "Every document, into one folder", " --out campaign")
-      ->add_option("--out", typed_.folder, "The folder; made where it is missing")
-      ->type_name("DIR");
+  CLI::App* const all = addCommand("all", "Every document, into one folder", " --out campaign");
+  addValue(*all, "--out", "DIR", typed_.folder, "The folder; made where it is missing");
   addCommand("locations", "The saved places with their coordinates");
   app_->add_subcommand("help", "Show what a command does, with an example")
       ->group("Commands")
@@ -79,7 +55,7 @@ Grammar::Grammar()
 Grammar::~Grammar() = default;
 
 const Typed& Grammar::parse(const std::vector<std::string>& arguments) {
-  std::vector<std::string> fromTheBack = withValuesAttached(arguments);
+  std::vector<std::string> fromTheBack = withValuesAttached(*app_, arguments);
   std::reverse(fromTheBack.begin(), fromTheBack.end());
   try {
     app_->parse(fromTheBack);
@@ -124,33 +100,26 @@ std::string Grammar::helpText(const std::string& topic) const {
 }
 
 void Grammar::addMoment() {
-  const std::string moment = "Moment";
-  app_->add_option("--base-time", typed_.baseTime,
-                   "Instead of a date: days since noon of the first day")
-      ->type_name("T")
-      ->group(moment);
-  const auto add = [&](const std::string& name, std::string& typed, const std::string& type,
-                       const std::string& description) {
-    app_->add_option(name, typed, description)->type_name(type)->group(moment);
+  const auto add = [this](const char* name, const char* type, std::string& typed,
+                          const char* description) {
+    addValue(*app_, name, type, typed, description)->group("Moment");
   };
-  add("--year", typed_.year, "Y", "Year, from 1 (720)");
-  add("--month", typed_.month, "M", "Month, 1 to 12 or its name (1)");
-  add("--day", typed_.day, "D", "Day, 1 to 30 (1)");
-  add("--hour", typed_.hour, "H", "Hour, 18.25 or 18:15 (12)");
-  app_->add_flag("--local", typed_.isLocal, "The hour is local solar time")->group(moment);
+  add("--base-time", "T", typed_.baseTime, "Instead of a date: days since noon of the first day");
+  add("--year", "Y", typed_.year, "Year, from 1 (720)");
+  add("--month", "M", typed_.month, "Month, 1 to 12 or its name (1)");
+  add("--day", "D", typed_.day, "Day, 1 to 30 (1)");
+  add("--hour", "H", typed_.hour, "Hour, 18.25 or 18:15 (12)");
+  app_->add_flag("--local", typed_.isLocal, "The hour is local solar time")->group("Moment");
 }
 
 void Grammar::addPlace() {
-  const std::string place = "Place";
-  app_->add_option("--lat", typed_.latitude, "Latitude, 40.5N or 40.5, south negative (40.5)")
-      ->type_name("DEG")
-      ->group(place);
-  app_->add_option("--long", typed_.longitude, "Longitude, 20.9W or -20.9, west negative (-20.9)")
-      ->type_name("DEG")
-      ->group(place);
-  app_->add_option("--location", typed_.location, "Instead of both: the name of a saved place")
-      ->type_name("NAME")
-      ->group(place);
+  const auto add = [this](const char* name, const char* type, std::string& typed,
+                          const char* description) {
+    addValue(*app_, name, type, typed, description)->group("Place");
+  };
+  add("--lat", "DEG", typed_.latitude, "Latitude, 40.5N or 40.5, south negative (40.5)");
+  add("--long", "DEG", typed_.longitude, "Longitude, 20.9W or -20.9, west negative (-20.9)");
+  add("--location", "NAME", typed_.location, "Instead of both: the name of a saved place");
 }
 
 void Grammar::refuseTwoOf(const char* whole, const std::string& typed,
@@ -177,9 +146,8 @@ CLI::App* Grammar::addCommand(std::string_view name, std::string_view summary,
 void Grammar::addTable(const std::string& name, const std::string& summary,
                        const std::string& example) {
   CLI::App* const command = addCommand(name, summary, " " + example);
-  command->add_option("--rows", typed_.rows, "How many rows")->type_name("N");
-  command->add_option("--step", typed_.step, "Days from row to row, 0.5 or 1/24")
-      ->type_name("DAYS");
+  addValue(*command, "--rows", "N", typed_.rows, "How many rows");
+  addValue(*command, "--step", "DAYS", typed_.step, "Days from row to row, 0.5 or 1/24");
 }
 
 std::string Grammar::commandNames() const {
@@ -197,10 +165,10 @@ std::string Grammar::chosenCommand() const {
 
 void Grammar::refuseExtra(const std::string& extra) const {
   if (extra.size() > 1 && extra.starts_with('-')) {
-    const std::string option = extra.substr(0, extra.find('='));
-    const std::string owners = commandsWith(option);
-    throw UsageError(owners.empty() ? inQuotes(option) + " is no option; veyruna --help lists them"
-                                    : inQuotes(option) + " belongs behind " + owners);
+    const std::string name = optionName(extra);
+    const std::string owners = commandsWith(name);
+    throw UsageError(owners.empty() ? inQuotes(name) + " is no option; veyruna --help lists them"
+                                    : inQuotes(name) + " belongs behind " + owners);
   }
   if (chosenCommand().empty()) {
     throw UsageError(inQuotes(extra) + " is not a command; give one of " + commandNames());

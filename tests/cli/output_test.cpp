@@ -68,6 +68,14 @@ TEST_F(Output, MakesAFile) {
   EXPECT_EQ(namesIn(scratch.path()), (Names{"document.txt", "−1 sky [a,b] °.txt"}));
 }
 
+TEST_F(Output, AFileMayBeCalledLikeAnOption) {
+  expectWritten({"base-time", "-o=--bw"});
+  expectWritten({"base-time", "-o-h"});
+  expectWritten({"base-time", "-o", "-5"});
+  expectWritten({"base-time", "-o", "--unknown"});
+  EXPECT_EQ(namesIn(scratch.path()), (Names{"--bw", "--unknown", "-5", "-h"}));
+}
+
 TEST_F(Output, ReplacesAFileWholeAndKeepsItsPermissions) {
   for (const unsigned mode : {0600U, 0640U, 0666U, 0755U}) {
     writeFile(file, std::string(100'000, 'x'));

@@ -113,6 +113,13 @@ TEST(Refusal, Words) {
       {{"all", "--out", "folder", "-o", "file"}, "-o", "--out DIR"},
       {{"moment", "-o"}, "-o", "missing"},
       {{"moment", "-o", ""}, "-o", "missing"},
+      {{"horoscope", "-o", "--bw"}, "\"--bw\"", "-o=--bw"},
+      {{"horoscope", "-o", "-h"}, "\"-h\"", "-o: a value is missing"},
+      {{"moment", "--out", "--rows=3"}, "\"--rows=3\"", "--out: a value is missing"},
+      {{"--lat", "--long", "5", "moment"}, "\"--long\"", "--lat: a value is missing"},
+      {{"moment", "--help=me"}, "\"--help=me\"", "takes no value"},
+      {{"moment", "-h=me"}, "\"-h=me\"", "takes no value"},
+      {{"moment", "-o", "--year=\n"}, "\"-o=--year=\\x0a\"", "missing"},
       {{"moment", "--local=perhaps"}, "\"--local=perhaps\"", "takes no value"},
   };
   std::for_each(refusals.begin(), refusals.end(), expectRefused);

@@ -1,0 +1,61 @@
+#include "cli/option_values.h"
+
+#include <CLI/CLI.hpp>
+
+#include "cli/errors.h"
+#include "cli/quoting.h"
+
+namespace veyruna::cli {
+
+namespace {
+
+/// The option of that name, of the whole or of any command; null where there is none.
+const CLI::Option* optionNamed(const CLI::App& app, const std::string& name) {
+  if (name.size() < 2 || name.front() != '-') {
+    return nullptr;
+  }
+  const CLI::Option* found = app.get_option_no_throw(name);
+  for (const CLI::App* const command : app.get_subcommands(nullptr)) {
+    found = found != nullptr ? found : command->get_option_no_throw(name);
+  }
+  return found;
+}
+
+}  // namespace
+
+std::string optionName(const std::string& argument) {
+  return argument.substr(0, argument.find('='));
+}
+
+std::vector<std::string> withValuesAttached(const CLI::App& app,
+                                            const std::vector<std::string>& arguments) {
+  std::vector<std::string> attached;
+  for (std::size_t i = 0; i < arguments.size(); ++i) {
+    const std::string name = optionName(arguments[i]);
+    const bool isAttached = name.size() < arguments[i].size();
+    const CLI::Option* const known = optionNamed(app, name);
+    const bool takesValue = known != nullptr && known->get_expected_max() > 0;
+    if (known != nullptr && !takesValue && isAttached) {
+      throw UsageError(inQuotes(arguments[i]) + " is not accepted; " + name + " takes no value");
+    }
+    if (!takesValue) {
+      attached.push_back(arguments[i]);
+      continue;
+    }
+    const std::string value = isAttached                 ? arguments[i].substr(name.size() + 1)
+                              : i + 1 < arguments.size() ? arguments[++i]
+                                                         : "";
+    if (value.empty()) {
+      throw UsageError(name + ": a value is missing; veyruna --help says which are accepted");
+    }
+    if (!isAttached && optionNamed(app, optionName(value)) != nullptr) {
+      throw UsageError(name + ": a value is missing in front of " + inQuotes(value) +
+                       ", which is an option; where it is meant, write " +
+                       inQuotes(name + "=" + value));
+    }
+    attached.push_back(name == "-o" ? name + value : name + "=" + value);
+  }
+  return attached;
+}
+
+}  // namespace veyruna::cli
