@@ -1,58 +1,85 @@
 #include "cli/quoting.h"
 
+#include <algorithm>
+
 namespace veyruna::cli {
 
 namespace {
 
-unsigned codeOf(char byte) {
-  return static_cast<unsigned char>(byte);
-}
-
-bool continuesCharacter(char byte) {
-  return (codeOf(byte) & 0xC0U) == 0x80U;
-}
-
-/// The first bytes of a UTF-8 text, never part of a character.
-std::string_view beginningOf(std::string_view text, std::size_t most) {
-  if (text.size() <= most) {
-    return text;
+/// The length of the UTF-8 character at the beginning of a text; 0 where there is none: a byte out
+/// of place, a piece of a character, a code point written longer than it is, a surrogate, or one
+/// beyond U+10FFFF.
+std::size_t characterLength(std::string_view text) {
+  const auto byteAt = [text](std::size_t i) {
+    return i < text.size() ? static_cast<unsigned char>(text[i]) : 0U;
+  };
+  const unsigned first = byteAt(0);
+  // The second byte alone tells whether a code point is one: its least and most after each first.
+  unsigned least = 0x80;
+  unsigned most = 0xBF;
+  std::size_t length = 0;
+  if (first < 0x80) {
+    return text.empty() ? 0 : 1;
   }
-  while (most > 0 && continuesCharacter(text[most])) {
-    --most;
+  if (first >= 0xC2 && first <= 0xDF) {
+    length = 2;
+  } else if (first >= 0xE0 && first <= 0xEF) {
+    length = 3;
+    least = first == 0xE0 ? 0xA0 : least;
+    most = first == 0xED ? 0x9F : most;
+  } else if (first >= 0xF0 && first <= 0xF4) {
+    length = 4;
+    least = first == 0xF0 ? 0x90 : least;
+    most = first == 0xF4 ? 0x8F : most;
   }
-  return text.substr(0, most);
+  if (byteAt(1) < least || byteAt(1) > most) {
+    return 0;
+  }
+  for (std::size_t i = 2; i < length; ++i) {
+    if (byteAt(i) < 0x80 || byteAt(i) > 0xBF) {
+      return 0;
+    }
+  }
+  return length;
 }
 
-void appendHexadecimal(std::string& out, char byte) {
+/// Whether a character moves the cursor or worse: U+0000 to U+001F and U+007F to U+009F.
+bool isControl(std::string_view character) {
+  const auto first = static_cast<unsigned char>(character.front());
+  return first < 0x20 || first == 0x7F ||
+         (first == 0xC2 && static_cast<unsigned char>(character[1]) < 0xA0);
+}
+
+void appendHexadecimal(std::string& out, std::string_view bytes) {
   constexpr std::string_view digits = "0123456789abcdef";
-  out += "\\x";
-  out += digits[codeOf(byte) / 16U];
-  out += digits[codeOf(byte) % 16U];
+  for (const char byte : bytes) {
+    out += "\\x";
+    out += digits[static_cast<unsigned char>(byte) / 16U];
+    out += digits[static_cast<unsigned char>(byte) % 16U];
+  }
 }
 
 }  // namespace
 
 std::string inQuotes(std::string_view text) {
   constexpr std::size_t longest = 120;
-  const std::string_view shown = beginningOf(text, longest);
   std::string out = "\"";
-  for (std::size_t i = 0; i < shown.size(); ++i) {
-    const unsigned code = codeOf(shown[i]);
-    // U+0080 to U+009F are control characters too; in UTF-8 they begin with C2.
-    const bool beginsControl = code == 0xC2 && i + 1 < shown.size() && codeOf(shown[i + 1]) < 0xA0;
-    const bool isControl =
-        code < 0x20 || code == 0x7F || (i > 0 && codeOf(shown[i - 1]) == 0xC2 && code < 0xA0);
-    if (isControl || beginsControl) {
-      appendHexadecimal(out, shown[i]);
-    } else {
-      if (shown[i] == '"' || shown[i] == '\\') {
-        out += '\\';
-      }
-      out += shown[i];
+  for (std::size_t done = 0; done < text.size();) {
+    const std::size_t length = characterLength(text.substr(done));
+    const std::string_view piece = text.substr(done, std::max<std::size_t>(length, 1));
+    done += piece.size();
+    if (done > longest) {
+      out += "…";
+      break;
     }
-  }
-  if (shown.size() < text.size()) {
-    out += "…";
+    if (length == 0 || isControl(piece)) {
+      appendHexadecimal(out, piece);
+      continue;
+    }
+    if (piece == "\"" || piece == "\\") {
+      out += '\\';
+    }
+    out += piece;
   }
   out += '"';
   return out;

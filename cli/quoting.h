@@ -5,8 +5,9 @@
 
 namespace veyruna::cli {
 
-/// `text` in double quotes on one line: control characters as \xNN, a quote or backslash behind a
-/// backslash, a long text cut between two characters.
+/// `text` in double quotes on one line, in UTF-8 whatever it holds: control characters and bytes
+/// that are no UTF-8 as \xNN, a quote or backslash behind a backslash, a long text cut between two
+/// characters.
 std::string inQuotes(std::string_view text);
 
 }  // namespace veyruna::cli
