@@ -64,14 +64,17 @@ std::string rightAligned(const std::string& text, qsizetype width) {
   return QString::fromStdString(text).rightJustified(width).toStdString();
 }
 
-}  // namespace
-
-Place savedPlace(const std::string& name) {
-  const QList<CityPreset> places = knownPlaces();
+/// "Manual" is found without the list of places, which may be unreadable.
+CityPreset placeNamed(const std::string& name) {
   const QString wanted = QString::fromStdString(name).trimmed();
-  const auto found = std::find_if(places.begin(), places.end(), [&wanted](const CityPreset& place) {
+  const auto isWanted = [&wanted](const CityPreset& place) {
     return model::isSameName(place.name, wanted);
-  });
+  };
+  if (isWanted(model::manualCity())) {
+    return manualPlace();
+  }
+  const QList<CityPreset> places = knownPlaces();
+  const auto found = std::find_if(places.begin(), places.end(), isWanted);
   if (found == places.end()) {
     std::string known;
     for (const CityPreset& place : places) {
@@ -79,11 +82,18 @@ Place savedPlace(const std::string& name) {
     }
     throw UsageError("--location: " + inQuotes(name) + " is not a saved place; known are " + known);
   }
-  if (!model::isOnGlobe(found->latitude, found->longitude)) {
+  return *found;
+}
+
+}  // namespace
+
+Place savedPlace(const std::string& name) {
+  const CityPreset place = placeNamed(name);
+  if (!model::isOnGlobe(place.latitude, place.longitude)) {
     throw UsageError("--location: " + inQuotes(name) +
                      " is not on the globe; its stored coordinates are beyond 1000 radians");
   }
-  return {found->latitude, found->longitude};
+  return {place.latitude, place.longitude};
 }
 
 std::string savedPlacesText() {

@@ -10,8 +10,9 @@ struct Place {
   double longitude;
 };
 
-/// The saved place of that name in any letter case; "Manual" is the stored manual fields. Reads the
-/// person's own files and writes nothing; without a file of places, those of a first start.
+/// The saved place of that name in any letter case; "Manual" is the stored manual fields, and needs
+/// no list. Reads the person's own files and writes nothing; without a file of places, those of a
+/// first start.
 /// Throws UsageError that lists the known names, or std::runtime_error where the file is no list.
 Place savedPlace(const std::string& name);
 

@@ -164,6 +164,19 @@ TEST_F(CommandPlaces, AFileThatIsNoListIsAnErrorAndStays) {
   EXPECT_EQ(run({"moment"}).status, 0);
 }
 
+/// "Manual" stands in the preferences, not in the list of places.
+TEST_F(CommandPlaces, ManualNeedsNoList) {
+  writeBytes(preferences, "[General]\nAstronomyModel.manualLatDeg=33.25\n");
+  for (const char* const bytes : {"garbage", "", "{}"}) {
+    writeBytes(places, bytes);
+    for (const char* const name : {"Manual", " mANUAL "}) {
+      expectSame({"--location", name, "positions"},
+                 {"--lat", "33.25N", "--long", "20.9W", "positions"});
+    }
+    EXPECT_EQ(bytesIn(places), QByteArray(bytes));
+  }
+}
+
 TEST_F(CommandPlaces, AFileThatMayNotBeReadIsAnErrorAndStays) {
   keepTwo();
   const QByteArray bytes = bytesIn(places);
