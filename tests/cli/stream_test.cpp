@@ -1,8 +1,17 @@
 // The command among others: pipes, terminals, locales and memory.
+#include <array>
+#include <chrono>
 #include <csignal>
+#include <cstdio>
 #include <cstdlib>
 #include <gtest/gtest.h>
+#include <pty.h>
+#include <stdexcept>
+#include <sys/wait.h>
+#include <thread>
+#include <unistd.h>
 
+#include "cli/progress.h"
 #include "reports/conjunctions.h"
 #include "tests/cli/process.h"
 #include "tests/cli/scratch_folder.h"
@@ -65,6 +74,52 @@ TEST(Progress, AShortTableShowsNone) {
       run({.arguments = words("conjunctions --rows 300 --step 1"), .errorsOnTerminal = true});
   EXPECT_EQ(outcome.status, 0);
   EXPECT_EQ(outcome.err, "");
+}
+
+/// What progress shows on a terminal when its rows come a while after it began, and the document
+/// goes to standard output: the same terminal, or a pipe.
+std::string progressShown(bool isOutOnTerminal, bool showsDocument) {
+  int mine = -1;
+  int theirs = -1;
+  if (openpty(&mine, &theirs, nullptr, nullptr, nullptr) != 0) {
+    throw std::runtime_error("no terminal for the test");
+  }
+  const pid_t child = fork();
+  if (child == 0) {
+    std::array<int, 2> pipeEnds{};
+    const int out = isOutOnTerminal ? theirs : (pipe(pipeEnds.data()) == 0 ? pipeEnds[1] : -1);
+    if (dup2(out, STDOUT_FILENO) < 0 || dup2(theirs, STDERR_FILENO) < 0) {
+      _exit(1);
+    }
+    {
+      cli::Progress progress(1000, showsDocument);
+      std::this_thread::sleep_for(std::chrono::milliseconds(1100));
+      for (int row = 0; row < 256; ++row) {
+        progress.advance();
+      }
+    }
+    std::fflush(stderr);
+    _exit(0);
+  }
+  close(theirs);
+  std::string shown;
+  std::array<char, 256> piece{};
+  for (ssize_t count = 1; count > 0;) {
+    count = read(mine, piece.data(), piece.size());
+    shown.append(piece.data(), count > 0 ? static_cast<std::size_t>(count) : 0);
+  }
+  close(mine);
+  int status = -1;
+  waitpid(child, &status, 0);
+  EXPECT_EQ(status, 0);
+  return shown;
+}
+
+TEST(Progress, StaysOutOfATableOnTheSameTerminal) {
+  const std::string line = "\r256 of 1000 rows, 25 %\x1b[K\r\x1b[K";
+  EXPECT_EQ(progressShown(true, true), "");
+  EXPECT_EQ(progressShown(true, false), line);  // the table goes to a file
+  EXPECT_EQ(progressShown(false, true), line);
 }
 
 TEST(Locale, ADecimalCommaChangesNothing) {
