@@ -1,6 +1,7 @@
 #include "ui/map/map_marks.h"
 
 #include <QPainter>
+#include <QPainterPath>
 #include <algorithm>
 #include <cmath>
 
@@ -23,28 +24,38 @@ QImage stampOf(double radius, double pixelsPerPoint) {
   return stamp;
 }
 
-QImage drawnDot(double pixelsPerPoint) {
-  QImage stamp = stampOf(dotRadius + 1.0, pixelsPerPoint);
-  QPainter painter(&stamp);
+/// A circle's line. Filled between two circles: a stroked one is a polygon that can be seen.
+void fillRing(QPainter& painter, double radius, double width, QRgb color) {
+  QPainterPath ring;
+  ring.addEllipse(QPointF(), radius + width * 0.5, radius + width * 0.5);
+  ring.addEllipse(QPointF(), radius - width * 0.5, radius - width * 0.5);
+  painter.fillPath(ring, QColor(color));
+}
+
+/// Counts in points from the stamp's middle.
+void prepareFor(QPainter& painter, const QImage& stamp, double pixelsPerPoint) {
   painter.setRenderHint(QPainter::Antialiasing);
   painter.translate(stamp.width() * 0.5, stamp.height() * 0.5);
   painter.scale(pixelsPerPoint, pixelsPerPoint);
-  painter.setPen(QPen(QColor(outline), 1.5));
+}
+
+QImage drawnDot(double pixelsPerPoint) {
+  QImage stamp = stampOf(dotRadius + 1.0, pixelsPerPoint);
+  QPainter painter(&stamp);
+  prepareFor(painter, stamp, pixelsPerPoint);
+  painter.setPen(Qt::NoPen);
   painter.setBrush(QColor(ink));
   painter.drawEllipse(QPointF(), dotRadius, dotRadius);
+  fillRing(painter, dotRadius, 1.5, outline);
   return stamp;
 }
 
 QImage drawnRing(double pixelsPerPoint) {
   QImage stamp = stampOf(ringRadius + 3.0, pixelsPerPoint);
   QPainter painter(&stamp);
-  painter.setRenderHint(QPainter::Antialiasing);
-  painter.translate(stamp.width() * 0.5, stamp.height() * 0.5);
-  painter.scale(pixelsPerPoint, pixelsPerPoint);
-  painter.setPen(QPen(QColor(outline), 4.5));
-  painter.drawEllipse(QPointF(), ringRadius, ringRadius);
-  painter.setPen(QPen(QColor(ink), 2.5));
-  painter.drawEllipse(QPointF(), ringRadius, ringRadius);
+  prepareFor(painter, stamp, pixelsPerPoint);
+  fillRing(painter, ringRadius, 4.5, outline);
+  fillRing(painter, ringRadius, 2.5, ink);
   return stamp;
 }
 
