@@ -1,4 +1,6 @@
 // The wheel: with Alt it zooms and goes no further, without it is none of the map's business.
+#include <QPointingDevice>
+
 #include "tests/ui/map/shown_picker.h"
 
 namespace veyruna::tests {
@@ -25,6 +27,32 @@ TEST_F(ShownPicker, ATrackpadsPixelsAreTheDelta) {
   EXPECT_DOUBLE_EQ(view->zoom(), 1.2);
   turnWheel(area, Qt::AltModifier, {}, {5, 1});
   EXPECT_DOUBLE_EQ(view->zoom(), 1.44);
+}
+
+TEST_F(ShownPicker, ADiagonalWheelCountsDownwards) {
+  turnWheel(area, Qt::AltModifier, {-120, 120});
+  EXPECT_EQ(view->zoom(), 1.4);
+  turnWheel(area, Qt::AltModifier, {120, -120});
+  EXPECT_EQ(view->zoom(), 1.0);
+  turnWheel(area, Qt::AltModifier, {}, {-5, 5});
+  EXPECT_EQ(view->zoom(), 1.2);
+  turnWheel(area, Qt::AltModifier, {-121, 120});  // more across than down
+  EXPECT_EQ(view->zoom(), 1.0);
+}
+
+TEST_F(ShownPicker, ATrackpadsPixelsAreTheDeltaAlsoWhereItCountsNotches) {
+  const QPointingDevice trackpad(QStringLiteral("trackpad"), 7, QInputDevice::DeviceType::TouchPad,
+                                 QPointingDevice::PointerType::Finger,
+                                 QInputDevice::Capability::Scroll, 1, 0);
+  const auto scroll = [&](QPoint pixels, QPoint angle) {
+    QWheelEvent wheel(QPointF(5, 5), QPointF(5, 5), pixels, angle, Qt::NoButton, Qt::AltModifier,
+                      Qt::NoScrollPhase, false, Qt::MouseEventNotSynthesized, &trackpad);
+    QCoreApplication::sendEvent(area, &wheel);
+  };
+  scroll({0, 5}, {0, 120});
+  EXPECT_EQ(view->zoom(), 1.2);
+  scroll({}, {0, 120});
+  EXPECT_DOUBLE_EQ(view->zoom(), 1.68);
 }
 
 TEST_F(ShownPicker, AMousesNotchIsOneAlsoWhereItsDriverGivesPixels) {
@@ -98,6 +126,9 @@ TEST_F(ShownPicker, AnotherWindowKeepsItsWheel) {
   other.show();
   EXPECT_TRUE(turnWheel(&other, Qt::AltModifier, notch));
   EXPECT_EQ(other.wheels, 1);
+  turnWheel(other.windowHandle(), Qt::AltModifier, notch);
+  QObject nobody;
+  turnWheel(&nobody, Qt::AltModifier, notch);
   EXPECT_EQ(zoomText(), QStringLiteral("100%"));
 }
 
