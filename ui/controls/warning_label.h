@@ -2,24 +2,20 @@
 
 #include <QEvent>
 #include <QGuiApplication>
-#include <QLabel>
 
 #include "ui/controls/shades.h"
+#include "ui/controls/wrapped_label.h"
 
 namespace veyruna::ui {
 
 /// Says what went wrong, in a colour that warns on light and on dark alike.
-class WarningLabel final : public QLabel {
+class WarningLabel : public WrappedLabel {
  public:
-  WarningLabel() {
-    setWordWrap(true);
-    setTextFormat(Qt::PlainText);
-    follow();
-  }
+  WarningLabel() { follow(); }
 
  protected:
   void changeEvent(QEvent* event) override {
-    QLabel::changeEvent(event);
+    WrappedLabel::changeEvent(event);
     if (event->type() == QEvent::PaletteChange && !isFollowing_) {
       follow();
     }

@@ -5,12 +5,14 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QTextBoundaryFinder>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <variant>
 
+#include "ui/controls/destructive_button.h"
 #include "ui/controls/named.h"
 #include "ui/controls/warning_label.h"
+#include "ui/controls/wrapped_label.h"
 
 namespace veyruna::ui {
 
@@ -38,27 +40,6 @@ QHBoxLayout* sheetButtons(QPushButton* cancel, QPushButton* act) {
   row->addStretch();
   row->addWidget(act);
   return row;
-}
-
-/// The text with places where a very long word may be broken, so that no sheet outgrows the screen.
-QString breakable(const QString& text) {
-  constexpr int longestWord = 30;  // characters as a person counts them
-  constexpr QChar zeroWidthSpace(0x200b);
-  QTextBoundaryFinder characters(QTextBoundaryFinder::Grapheme, text);
-  QString broken;
-  int length = 0;
-  qsizetype begin = 0;
-  while (characters.toNextBoundary() >= 0) {
-    const QString character = text.mid(begin, characters.position() - begin);
-    begin = characters.position();
-    length = character.at(0).isSpace() ? 0 : length + 1;
-    if (length > longestWord) {
-      broken += zeroWidthSpace;
-      length = 1;
-    }
-    broken += character;
-  }
-  return broken;
 }
 
 bool isReturn(const QKeyEvent& event) {
@@ -97,8 +78,10 @@ SaveLocationSheet::SaveLocationSheet(model::AstronomyModel& model, QWidget* pare
 void SaveLocationSheet::save() {
   const auto outcome = model_.addCity(name_->text());
   if (const auto* const refusal = std::get_if<model::LocationError>(&outcome)) {
-    error_->setText(breakable(refusal->description()));
+    error_->setText(refusal->description());
     error_->show();
+    // A window does not grow by itself for a text in many lines.
+    resize(width(), std::max(height(), layout()->totalHeightForWidth(width())));
     name_->setFocus();
     return;
   }
@@ -117,13 +100,11 @@ DeleteLocationSheet::DeleteLocationSheet(model::AstronomyModel& model, QWidget* 
     }
   }
   QVBoxLayout* const column = sheetLayout(this);
-  auto* const prompt = named(new QLabel(breakable(tr("Delete location ") + QLatin1Char('"') + name +
-                                                  QStringLiteral("\"?"))),
-                             "deletePrompt", tr("Question"));
-  prompt->setTextFormat(Qt::PlainText);
-  prompt->setWordWrap(true);
+  auto* const prompt = named(
+      new WrappedLabel(tr("Delete location ") + QLatin1Char('"') + name + QStringLiteral("\"?")),
+      "deletePrompt", tr("Question"));
   auto* const cancel = named(new QPushButton(tr("&Cancel")), "cancelButton", tr("Cancel"));
-  auto* const remove = named(new QPushButton(tr("&Delete")), "confirmButton", tr("Delete"));
+  auto* const remove = named(new DestructiveButton(tr("&Delete")), "confirmButton", tr("Delete"));
   column->addWidget(prompt);
   column->addLayout(sheetButtons(cancel, remove));
 

@@ -3,9 +3,12 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QTest>
+#include <cstdlib>
 #include <gtest/gtest.h>
+#include <variant>
 
 #include "tests/model/fakes.h"
+#include "ui/controls/wrapped_label.h"
 #include "ui/sidebar/location_sheets.h"
 
 namespace veyruna::ui {
@@ -66,6 +69,56 @@ TEST_F(Sheets, EscapeDeletesNothing) {
   sheet->open();
   QTest::keyClick(sheet, Qt::Key_Escape);
   EXPECT_EQ(model.cities().size(), 14);
+}
+
+/// Every letter of the label's text is drawn inside of it: nothing is inserted, nothing cut.
+void expectWholeText(const QLabel& label, const QString& text) {
+  EXPECT_EQ(label.text(), text);
+  EXPECT_EQ(label.textFormat(), Qt::PlainText);
+  EXPECT_GE(label.height(), label.heightForWidth(label.width()));
+  // As much ink as the text has when it stands in one line.
+  const auto ink = [](const QImage& picture) {
+    const QRgb ground = picture.pixel(picture.width() - 1, picture.height() - 1);
+    qint64 sum = 0;
+    for (int y = 0; y < picture.height(); ++y) {
+      for (int x = 0; x < picture.width(); ++x) {
+        sum += std::abs(qGray(picture.pixel(x, y)) - qGray(ground));
+      }
+    }
+    return static_cast<double>(sum);
+  };
+  WrappedLabel wide(text);
+  wide.setPalette(label.palette());
+  wide.setFont(label.font());
+  wide.resize(wide.fontMetrics().horizontalAdvance(text) + 20, wide.fontMetrics().height());
+  const double whole = ink(wide.grab().toImage());
+  EXPECT_NEAR(ink(const_cast<QLabel&>(label).grab().toImage()), whole, 0.1 * whole);
+}
+
+TEST_F(Sheets, NamesAreShownAsTheyAreHoweverLong) {
+  for (const QString& name :
+       {QString(300, QLatin1Char('W')), QStringLiteral("<b>Bold</b> & <i>name</i>"),
+        QStringLiteral("a name of many words ").repeated(12).trimmed()}) {
+    model.setSelectedCityID(model::manualCityID());
+    model.setSelectedCityID(std::get<QUuid>(model.addCity(name)));
+    auto* const sheet = new DeleteLocationSheet(model, &window);
+    sheet->open();
+    tests::turnEventLoop();
+    EXPECT_LT(sheet->width(), 400);
+    expectWholeText(*sheet->findChild<QLabel*>(QStringLiteral("deletePrompt")),
+                    QStringLiteral("Delete location \"%1\"?").arg(name));
+    sheet->reject();
+
+    SaveLocationSheet* const save = openSave();
+    auto* const field = save->findChild<QLineEdit*>(QStringLiteral("nameField"));
+    field->setText(name);
+    QTest::keyClick(field, Qt::Key_Return);
+    tests::turnEventLoop();
+    EXPECT_LT(save->width(), 400);
+    expectWholeText(*save->findChild<QLabel*>(QStringLiteral("saveError")),
+                    QStringLiteral("\"%1\" already exists.").arg(name));
+    save->reject();
+  }
 }
 
 }  // namespace
