@@ -1,45 +1,29 @@
 #include "ui/sidebar/calculate_area.h"
 
 #include <QEvent>
-#include <QHBoxLayout>
 #include <QLabel>
-#include <QProgressBar>
-#include <QPushButton>
 #include <QShortcut>
 #include <QVBoxLayout>
 
-#include "ui/controls/icons.h"
 #include "ui/controls/named.h"
+#include "ui/controls/small_type.h"
 #include "ui/controls/warning_label.h"
+#include "ui/sidebar/calculate_button.h"
 
 namespace veyruna::ui {
 
-namespace {
-
 using model::AstronomyModel;
 
-}  // namespace
-
 CalculateArea::CalculateArea(AstronomyModel& model, QWidget* parent)
-    : QWidget(parent), model_(model) {
-  auto* const button = named(new QPushButton(icon("", "calculate"), tr("&Calculate")),
-                             "calculateButton", tr("Calculate"));
-  button->setDefault(true);
+    : QWidget(parent),
+      model_(model),
+      button_(named(new CalculateButton, "calculateButton", tr("Calculate"))) {
   // Beside the mnemonic, which is a button's one shortcut.
   for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
     auto* const shortcut = new QShortcut(QKeySequence(Qt::CTRL | key), this);
-    connect(shortcut, &QShortcut::activated, button, &QPushButton::click);
+    connect(shortcut, &QShortcut::activated, button_, &QPushButton::click);
   }
-  button->setToolTip(QKeySequence(Qt::CTRL | Qt::Key_Return).toString(QKeySequence::NativeText));
-  progress_ = named(new QProgressBar, "progress", tr("Calculating"));
-  progress_->setRange(0, 0);
-  progress_->setTextVisible(false);
-  progress_->setFixedSize(button->sizeHint().height() * 2, button->sizeHint().height() / 2);
-  progress_->setAttribute(Qt::WA_TransparentForMouseEvents);
-  // In the button, beside the word, where nothing else stands.
-  auto* const besideTheWord = new QHBoxLayout(button);
-  besideTheWord->addStretch();
-  besideTheWord->addWidget(progress_);
+  button_->setToolTip(QKeySequence(Qt::CTRL | Qt::Key_Return).toString(QKeySequence::NativeText));
   error_ = named(new WarningLabel, "errorMessage", tr("Error"));
   difference_ = named(new QLabel, "difference", tr("State of what is shown"));
   difference_->setAlignment(Qt::AlignTop);
@@ -48,11 +32,11 @@ CalculateArea::CalculateArea(AstronomyModel& model, QWidget* parent)
 
   auto* const column = new QVBoxLayout(this);
   column->setContentsMargins({});
-  column->addWidget(button);
+  column->addWidget(button_);
   column->addWidget(error_);
   column->addWidget(difference_);
 
-  connect(button, &QPushButton::clicked, this, &CalculateArea::calculateRequested);
+  connect(button_, &QPushButton::clicked, this, &CalculateArea::calculateRequested);
   connect(&model_, &AstronomyModel::isCalculatingChanged, this, &CalculateArea::showProgress);
   connect(&model_, &AstronomyModel::errorMessageChanged, this, &CalculateArea::showError);
   for (const auto signal :
@@ -77,13 +61,7 @@ void CalculateArea::changeEvent(QEvent* event) {
 }
 
 void CalculateArea::fitSmallType() {
-  constexpr double smallType = 0.85;
-  QFont type = font();
-  if (type.pointSizeF() > 0.0) {
-    type.setPointSizeF(type.pointSizeF() * smallType);
-  } else {
-    type.setPixelSize(qRound(type.pixelSize() * smallType));
-  }
+  const QFont type = smallType(font());
   error_->setFont(type);
   difference_->setFont(type);
   // Room for two lines, at all times.
@@ -91,7 +69,7 @@ void CalculateArea::fitSmallType() {
 }
 
 void CalculateArea::showProgress() {
-  progress_->setVisible(model_.isCalculating());
+  button_->showProgress(model_.isCalculating());
 }
 
 void CalculateArea::showError() {

@@ -5,9 +5,10 @@
 #include "model/astronomy_model.h"
 
 class QLabel;
-class QProgressBar;
 
 namespace veyruna::ui {
+
+class CalculateButton;
 
 /// The button that starts the calculation, its progress, what went wrong, and whether the inputs
 /// have moved on from what is shown.
@@ -30,7 +31,7 @@ class CalculateArea final : public QWidget {
   void showDifference();
 
   model::AstronomyModel& model_;
-  QProgressBar* progress_;
+  CalculateButton* button_;
   QLabel* error_;
   QLabel* difference_;
 };
