@@ -1,66 +1,118 @@
 #include "ui/controls/angle_field.h"
 
-#include <QFocusEvent>
+#include <QKeyEvent>
 #include <QLocale>
-#include <QToolTip>
-#include <QValidator>
+#include <algorithm>
+
+#include "ui/controls/typed_entry.h"
 
 namespace veyruna::ui {
 
 namespace {
 
 constexpr int mostDecimals = 3;
-
-/// Refuses while it is typed what can become no number of the range.
-class DegreesValidator final : public QValidator {
- public:
-  DegreesValidator(double most, QObject* parent) : QValidator(parent), most_(most) {}
-
-  State validate(QString& text, int& /*position*/) const override {
-    // Either decimal sign is meant as one, whatever the locale's is.
-    const QString point = locale().decimalPoint();
-    text.replace(QLatin1Char('.'), point).replace(QLatin1Char(','), point);
-    const QString trimmed = text.trimmed();
-    if (trimmed.isEmpty()) {
-      return Intermediate;
-    }
-    const qsizetype at = trimmed.indexOf(point);
-    if (at >= 0 && trimmed.size() - at - point.size() > mostDecimals) {
-      return Invalid;
-    }
-    if (trimmed == point) {
-      return Intermediate;
-    }
-    bool isNumber = false;
-    const double degrees = locale().toDouble(trimmed, &isNumber);
-    const bool isPlain = !trimmed.contains(QLatin1Char('e'), Qt::CaseInsensitive) &&
-                         !trimmed.startsWith(QLatin1Char('-')) &&
-                         !trimmed.startsWith(QLatin1Char('+'));
-    return isNumber && isPlain && degrees >= 0.0 && degrees <= most_ ? Acceptable : Invalid;
-  }
-
- private:
-  double most_;
-};
+constexpr QChar minusSign(0x2212);  // the typographic one
+constexpr QChar degreeSign(0x00b0);
 
 }  // namespace
 
-AngleField::AngleField(double most, QWidget* parent) : QLineEdit(parent), most_(most) {
-  auto* const validator = new DegreesValidator(most, this);
-  QLocale plain = locale();
-  plain.setNumberOptions(QLocale::OmitGroupSeparator | QLocale::RejectGroupSeparator);
-  validator->setLocale(plain);
-  setValidator(validator);
-  connect(this, &QLineEdit::editingFinished, this, &AngleField::commit);
-  setToolTip(
-      tr("Degrees from 0 to %1, with up to three decimals; the letters beside it say which way.")
-          .arg(most));
-  connect(this, &QLineEdit::inputRejected, this,
-          [this] { QToolTip::showText(mapToGlobal(QPoint(0, height())), toolTip(), this); });
+AngleField::AngleField(const QString& word, double most, Directions directions, QWidget* parent)
+    : QLineEdit(parent), word_(word), most_(most), directions_(directions) {
+  connect(this, &QLineEdit::textEdited, this, &AngleField::takeOutDirection);
+  entry_ = new TypedEntry(*this, *this,
+                          {[this](const QString& text) { return read(text); },
+                           [this](const QString& text) { return accepted(text); },
+                           [this](const QString& text) { take(text); }});
+  connect(entry_, &TypedEntry::noted, this, &AngleField::noted);
+  setToolTip(tr("Degrees from 0 to %1, with up to three decimals; %2 and %3 say which way.")
+                 .arg(most)
+                 .arg(directions_.positive)
+                 .arg(directions_.negative));
+  entry_->show(textOf(degrees_));
 }
 
 void AngleField::show(double degrees) {
-  degrees_ = degrees;
+  if (degrees != degrees_) {
+    degrees_ = degrees;
+    entry_->show(textOf(degrees));
+  }
+}
+
+void AngleField::commit() {
+  entry_->finish();
+}
+
+void AngleField::keyPressEvent(QKeyEvent* event) {
+  const bool isPlain = (event->modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier)) == 0;
+  if (const std::optional<bool> direction = directionOf(event->text()); isPlain && direction) {
+    Q_EMIT turned(*direction);
+  } else {
+    QLineEdit::keyPressEvent(event);
+  }
+}
+
+std::optional<bool> AngleField::directionOf(const QString& sign) const {
+  const QString upper = sign.toUpper();
+  if (upper == directions_.positive) {
+    return true;
+  }
+  if (upper == directions_.negative || sign == QLatin1Char('-') || sign == minusSign) {
+    return false;
+  }
+  return std::nullopt;
+}
+
+/// Of what was pasted: "20.9° W" or "−20.9".
+void AngleField::takeOutDirection() {
+  QString number = text().trimmed();
+  std::optional<bool> direction = directionOf(number.left(1));
+  if (direction) {
+    number = number.mid(1).trimmed();
+  } else if (direction = directionOf(number.right(1)); direction && number.back().isLetter()) {
+    number = number.chopped(1).trimmed();
+  } else {
+    return;
+  }
+  setText(number);
+  Q_EMIT turned(*direction);
+}
+
+QString AngleField::plain(const QString& text) const {
+  // Either decimal sign is meant as one, whatever the locale's is.
+  const QString point = locale().decimalPoint();
+  QString number = text.trimmed();
+  if (number.endsWith(degreeSign)) {
+    number = number.chopped(1).trimmed();
+  }
+  return number.replace(QLatin1Char('.'), point).replace(QLatin1Char(','), point);
+}
+
+Reading AngleField::read(const QString& text) const {
+  const QString number = plain(text);
+  const QString point = locale().decimalPoint();
+  if (number.isEmpty() || number == point) {
+    return Reading::unfinished;
+  }
+  const bool isPlain = std::all_of(number.begin(), number.end(), [&point](QChar character) {
+    return character.isDigit() || point.contains(character);
+  });
+  const qsizetype pointAt = number.indexOf(point);
+  const qsizetype decimals = pointAt < 0 ? 0 : number.size() - pointAt - point.size();
+  bool isNumber = false;
+  const double degrees = locale().toDouble(number, &isNumber);
+  return isNumber && isPlain && decimals <= mostDecimals && degrees <= most_ ? Reading::accepted
+                                                                             : Reading::refused;
+}
+
+QString AngleField::accepted(const QString& text) const {
+  const QString number = plain(text);
+  const qsizetype point = number.indexOf(locale().decimalPoint());
+  const bool isTooFine =
+      point >= 0 && read(number.left(point + 1 + mostDecimals)) == Reading::accepted;
+  return isTooFine ? tr("At most three decimals") : tr("%1 0 to %2").arg(word_).arg(most_);
+}
+
+QString AngleField::textOf(double degrees) const {
   QLocale plain = locale();
   plain.setNumberOptions(QLocale::OmitGroupSeparator);
   QString text = plain.toString(degrees, 'f', mostDecimals);
@@ -70,32 +122,17 @@ void AngleField::show(double degrees) {
   if (text.endsWith(plain.decimalPoint())) {
     text.chop(plain.decimalPoint().size());
   }
-  setText(text);
-  setCursorPosition(0);
-  setModified(false);
+  return text;
 }
 
-void AngleField::commit() {
-  if (!isModified()) {
-    return;
-  }
-  const std::optional<double> typed = numberIn(text());
-  const bool changes = typed && *typed != degrees_;
-  show(typed.value_or(degrees_));
+void AngleField::take(const QString& text) {
+  const double typed = locale().toDouble(plain(text));
+  const bool changes = typed != degrees_;
+  degrees_ = typed;
+  entry_->show(textOf(typed));
   if (changes) {
-    Q_EMIT edited(*typed);
+    Q_EMIT edited(typed);
   }
-}
-
-void AngleField::focusOutEvent(QFocusEvent* event) {
-  commit();
-  QLineEdit::focusOutEvent(event);
-}
-
-std::optional<double> AngleField::numberIn(const QString& text) const {
-  bool isNumber = false;
-  const double degrees = validator()->locale().toDouble(text.trimmed(), &isNumber);
-  return isNumber && degrees >= 0.0 && degrees <= most_ ? std::optional(degrees) : std::nullopt;
 }
 
 }  // namespace veyruna::ui

@@ -5,33 +5,56 @@
 
 namespace veyruna::ui {
 
+enum class Reading;
+class TypedEntry;
+
+/// The two directions of a coordinate by their letters: 'N' and 'S', 'E' and 'W'.
+struct Directions {
+  QChar positive;
+  QChar negative;
+};
+
 /// A number of degrees, typed in the person's own notation. Shows up to three decimals; showing
-/// never changes the number, and only what the person types is reported.
+/// never changes the number, and only what the person types is reported. The direction stands
+/// beside the field; its letter typed here, or a minus, is reported and not kept in the text.
 class AngleField final : public QLineEdit {
   Q_OBJECT
 
  public:
-  /// Degrees from 0 to `most`.
-  explicit AngleField(double most, QWidget* parent = nullptr);
+  /// Degrees from 0 to `most`, both included; `word` names them: "Latitude".
+  AngleField(const QString& word, double most, Directions directions, QWidget* parent = nullptr);
 
-  /// Shows a number of degrees, also one outside the range; reports nothing.
+  /// Shows a number of degrees, also one outside the range; reports nothing. What is being typed
+  /// stays while the number is the same.
   void show(double degrees);
 
   /// Takes over what is being typed, where it is a number of the range.
   void commit();
 
- protected:
-  /// Also where what was typed is no number, which the field alone would leave standing.
-  void focusOutEvent(QFocusEvent* event) override;
-
  Q_SIGNALS:
   /// The person typed another number.
   void edited(double degrees);
+  /// The person typed a direction's letter, or a minus for the negative one.
+  void turned(bool isPositive);
+  /// What the person is to know about what they typed; empty when there is nothing any more.
+  void noted(const QString& note);
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
 
  private:
-  [[nodiscard]] std::optional<double> numberIn(const QString& text) const;
+  [[nodiscard]] std::optional<bool> directionOf(const QString& sign) const;
+  void takeOutDirection();
+  [[nodiscard]] QString plain(const QString& text) const;
+  [[nodiscard]] Reading read(const QString& text) const;
+  [[nodiscard]] QString accepted(const QString& text) const;
+  [[nodiscard]] QString textOf(double degrees) const;
+  void take(const QString& text);
 
+  QString word_;
   double most_;
+  Directions directions_;
+  TypedEntry* entry_;
   double degrees_ = 0.0;
 };
 

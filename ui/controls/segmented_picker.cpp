@@ -33,8 +33,4 @@ void SegmentedPicker::setChosen(int segment) {
   segments_->button(segment)->setChecked(true);
 }
 
-int SegmentedPicker::chosen() const {
-  return segments_->checkedId();
-}
-
 }  // namespace veyruna::ui

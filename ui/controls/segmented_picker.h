@@ -20,7 +20,6 @@ class SegmentedPicker final : public QWidget {
 
   /// Shows a choice, counted from 0; reports nothing.
   void setChosen(int segment);
-  [[nodiscard]] int chosen() const;
 
  Q_SIGNALS:
   /// The person chose a segment.

@@ -2,11 +2,11 @@
 
 #include <QFontMetrics>
 #include <QLineEdit>
-#include <QRegularExpression>
 #include <QStyleOptionSpinBox>
 #include <QWheelEvent>
 #include <algorithm>
-#include <optional>
+
+#include "ui/controls/typed_entry.h"
 
 namespace veyruna::ui {
 
@@ -14,49 +14,37 @@ StepperField::StepperField(const QString& word, qint64 least, qint64 most, qint6
                            QWidget* parent)
     : QAbstractSpinBox(parent), word_(word), least_(least), most_(most), offset_(offset) {
   setFocusPolicy(Qt::StrongFocus);  // a wheel turned over it only scrolls
-  connect(this, &QAbstractSpinBox::editingFinished, this, &StepperField::commit);
-  show(least);
+  const QString accepted = tr("%1 %2 to %3").arg(word, textOf(least), textOf(most));
+  entry_ = new TypedEntry(*this, *lineEdit(),
+                          {[this](const QString& text) { return read(text); },
+                           [accepted](const QString& /*text*/) { return accepted; },
+                           [this](const QString& text) { choose(numberIn(text).value()); }});
+  connect(entry_, &TypedEntry::noted, this, &StepperField::noted);
+  number_ = least;
+  entry_->show(textOf(least));
 }
 
 void StepperField::show(qint64 number) {
-  number_ = number;
-  const QSignalBlocker quiet(lineEdit());
-  lineEdit()->setText(textOf(number));
-  lineEdit()->setModified(false);
-  update();
+  if (number != number_) {
+    number_ = number;
+    entry_->show(textOf(number));
+    update();  // which way it can be stepped
+  }
 }
 
 void StepperField::commit() {
-  if (!lineEdit()->isModified()) {
-    return;
-  }
-  const std::optional<qint64> typed = numberIn(lineEdit()->text());
-  if (typed && *typed >= least_ && *typed <= most_) {
-    choose(*typed);
-  } else {
-    show(number_);
-  }
+  entry_->finish();
 }
 
 void StepperField::stepBy(int steps) {
   commit();
-  choose(std::clamp(std::clamp(number_, least_, most_) + steps, least_, most_));
+  const qint64 border = std::clamp(number_, least_, most_);
+  choose(border != number_ ? border : std::clamp(number_ + steps, least_, most_));
   selectAll();
 }
 
-QValidator::State StepperField::validate(QString& text, int& /*position*/) const {
-  const std::optional<qint64> typed = numberIn(text);
-  if (typed && *typed >= least_ && *typed <= most_) {
-    return QValidator::Acceptable;
-  }
-  // What may still become a number: the word alone, part of it, or fewer digits.
-  static const QRegularExpression begun(QStringLiteral("^\\s*\\p{L}*\\s*\\d*\\s*$"));
-  const bool tooLarge = typed && *typed > most_;
-  return begun.match(text).hasMatch() && !tooLarge ? QValidator::Intermediate : QValidator::Invalid;
-}
-
-void StepperField::fixup(QString& text) const {
-  text = textOf(number_);
+QValidator::State StepperField::validate(QString& /*text*/, int& /*position*/) const {
+  return QValidator::Acceptable;  // what is typed is seen to by the entry
 }
 
 QSize StepperField::sizeHint() const {
@@ -83,7 +71,7 @@ void StepperField::wheelEvent(QWheelEvent* event) {
 QString StepperField::textOf(qint64 number) const {
   // Summed unsigned: a stored number may be the largest there is.
   const auto shown = static_cast<quint64>(number) + static_cast<quint64>(offset_);
-  return word_ + QLatin1Char(' ') + QString::number(static_cast<qint64>(shown));
+  return QString::number(static_cast<qint64>(shown));
 }
 
 std::optional<qint64> StepperField::numberIn(const QString& text) const {
@@ -96,9 +84,20 @@ std::optional<qint64> StepperField::numberIn(const QString& text) const {
   return isNumber && shown >= 0 ? std::optional(shown - offset_) : std::nullopt;
 }
 
+Reading StepperField::read(const QString& text) const {
+  if (const std::optional<qint64> number = numberIn(text)) {
+    return *number >= least_ && *number <= most_ ? Reading::accepted : Reading::refused;
+  }
+  // Nothing yet, or the word or its beginning, which may be typed in front of the number.
+  return word_.startsWith(text.trimmed(), Qt::CaseInsensitive) ? Reading::unfinished
+                                                               : Reading::refused;
+}
+
 void StepperField::choose(qint64 number) {
   const bool changes = number != number_;
-  show(number);
+  number_ = number;
+  entry_->show(textOf(number));
+  update();
   if (changes) {
     Q_EMIT edited(number);
   }

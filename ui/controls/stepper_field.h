@@ -1,10 +1,14 @@
 #pragma once
 
 #include <QAbstractSpinBox>
+#include <optional>
 
 namespace veyruna::ui {
 
-/// A whole number that is stepped or typed, with its word in front: "Day 30", "Year 720".
+enum class Reading;
+class TypedEntry;
+
+/// A whole number that is stepped or typed; its word stands beside it: "Day" 30, "Year" 720.
 /// Shows any number it is given, also one outside its range, and never changes it by showing it;
 /// only what the person steps or types is kept in the range and reported.
 class StepperField final : public QAbstractSpinBox {
@@ -16,20 +20,22 @@ class StepperField final : public QAbstractSpinBox {
   StepperField(const QString& word, qint64 least, qint64 most, qint64 offset,
                QWidget* parent = nullptr);
 
-  /// Shows a number; reports nothing.
+  /// Shows a number; reports nothing. What is being typed stays while the number is the same.
   void show(qint64 number);
 
   /// Takes over what is being typed, where it is a number of the range.
   void commit();
 
+  /// From a number outside the range a step leads to the border, however far it goes.
   void stepBy(int steps) override;
   QValidator::State validate(QString& text, int& position) const override;
-  void fixup(QString& text) const override;
   [[nodiscard]] QSize sizeHint() const override;
 
  Q_SIGNALS:
   /// The person chose another number.
   void edited(qint64 number);
+  /// What the person is to know about what they typed; empty when there is nothing any more.
+  void noted(const QString& note);
 
  protected:
   [[nodiscard]] StepEnabled stepEnabled() const override;
@@ -38,12 +44,14 @@ class StepperField final : public QAbstractSpinBox {
  private:
   [[nodiscard]] QString textOf(qint64 number) const;
   [[nodiscard]] std::optional<qint64> numberIn(const QString& text) const;
+  [[nodiscard]] Reading read(const QString& text) const;
   void choose(qint64 number);
 
   QString word_;
   qint64 least_;
   qint64 most_;
   qint64 offset_;
+  TypedEntry* entry_;
   qint64 number_ = 0;
 };
 

@@ -9,7 +9,7 @@ namespace veyruna::ui {
 /// A control that a wheel turned over it does not change unless it has the focus: the sidebar
 /// scrolls instead.
 template <class Control>
-class Still final : public Control {
+class Still : public Control {
  public:
   explicit Still(QWidget* parent = nullptr) : Control(parent) {
     this->setFocusPolicy(Qt::StrongFocus);

@@ -9,10 +9,11 @@
 
 #include "ui/controls/angle_field.h"
 #include "ui/controls/coordinates_text.h"
+#include "ui/controls/field_note.h"
 #include "ui/controls/icons.h"
 #include "ui/controls/named.h"
 #include "ui/controls/segmented_picker.h"
-#include "ui/controls/still_controls.h"
+#include "ui/sidebar/location_picker.h"
 
 namespace veyruna::ui {
 
@@ -26,7 +27,7 @@ LocationSection::LocationSection(model::AstronomyModel& model, QWidget* parent)
     : QGroupBox(tr("Location"), parent), model_(model) {
   auto* const column = new QVBoxLayout(this);
   auto* const label = new QLabel(tr("&Location"));
-  picker_ = named(new StillComboBox, "locationPicker", tr("Location"));
+  picker_ = named(new LocationPicker(model_), "locationPicker", tr("Location"));
   picker_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
   // As wide as the sidebar, not as the longest name.
   picker_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
@@ -44,9 +45,13 @@ LocationSection::LocationSection(model::AstronomyModel& model, QWidget* parent)
   place_->addWidget(manualFields_);
   column->addLayout(place_);
   column->addWidget(makeButtons());
+  auto* const note = named(new FieldNote, "locationNote", tr("What the coordinates accept"));
+  addAtFoot(*column, note);
 
   connect(picker_, &QComboBox::activated, this,
           [this](int index) { model_.setSelectedCityID(picker_->itemData(index).toUuid()); });
+  connect(latitude_, &AngleField::noted, note, &FieldNote::say);
+  connect(longitude_, &AngleField::noted, note, &FieldNote::say);
   connect(&model_, &model::AstronomyModel::citiesChanged, this, &LocationSection::showCities);
   connect(&model_, &model::AstronomyModel::selectedCityIDChanged, this,
           &LocationSection::showPlace);
@@ -78,9 +83,11 @@ QWidget* LocationSection::makeSavedPlace() {
 
 QWidget* LocationSection::makeManualFields() {
   auto* const fields = new QWidget;
-  latitude_ = named(new AngleField(90.0), "latitudeField", tr("Latitude in degrees"));
+  latitude_ = named(new AngleField(tr("Latitude"), 90.0, {u'N', u'S'}), "latitudeField",
+                    tr("Latitude in degrees"));
   northSouth_ = new SegmentedPicker("northSouth", {tr("N"), tr("S")}, {tr("North"), tr("South")});
-  longitude_ = named(new AngleField(180.0), "longitudeField", tr("Longitude in degrees"));
+  longitude_ = named(new AngleField(tr("Longitude"), 180.0, {u'E', u'W'}), "longitudeField",
+                     tr("Longitude in degrees"));
   eastWest_ = new SegmentedPicker("eastWest", {tr("E"), tr("W")}, {tr("East"), tr("West")});
   latitude_->setMinimumWidth(fieldWidth);
   longitude_->setMinimumWidth(fieldWidth);
@@ -108,26 +115,29 @@ QWidget* LocationSection::makeManualFields() {
           [this](int segment) { model_.setLatNorth(segment == 0); });
   connect(eastWest_, &SegmentedPicker::picked, &model_,
           [this](int segment) { model_.setLongWest(segment == 1); });
+  connect(latitude_, &AngleField::turned, &model_, &model::AstronomyModel::setLatNorth);
+  connect(longitude_, &AngleField::turned, &model_,
+          [this](bool isEast) { model_.setLongWest(!isEast); });
   connect(save, &QPushButton::clicked, this, &LocationSection::saveRequested);
   return fields;
 }
 
 QWidget* LocationSection::makeButtons() {
   auto* const buttons = new QWidget;
-  auto* const map = named(new QPushButton(icon("mark-location", "location"), tr("Pic&k from map…")),
-                          "mapButton", tr("Pick the location from the map"));
+  map_ = named(new QPushButton(icon("mark-location", "location"), tr("Pic&k from map…")),
+               "mapButton", tr("Pick the location from the map"));
   colorMode_ = named(new QPushButton, "colorModeButton", tr("Colour mode of the horoscope"));
   colorMode_->hide();
   auto* const row = new QHBoxLayout(buttons);
   row->setContentsMargins({});
-  row->addWidget(map, 1);
+  row->addWidget(map_, 1);
   row->addWidget(colorMode_);
 
   const auto showMode = [this] {
     colorMode_->setText(model_.horoscopeBlackAndWhite() ? tr("&B&&W") : tr("C&olor"));
   };
   showMode();
-  connect(map, &QPushButton::clicked, this, &LocationSection::mapRequested);
+  connect(map_, &QPushButton::clicked, this, &LocationSection::mapRequested);
   connect(colorMode_, &QPushButton::clicked, &model_, [this] {
     model_.setHoroscopeBlackAndWhite(!model_.horoscopeBlackAndWhite());
     model_.regenerateHoroscope();
@@ -141,7 +151,14 @@ void LocationSection::commit() {
   longitude_->commit();
 }
 
+void LocationSection::focusPicker() {
+  picker_->setFocus(Qt::OtherFocusReason);
+}
+
 void LocationSection::showColorMode(bool isShown) {
+  if (!isShown && colorMode_->hasFocus()) {
+    map_->setFocus(Qt::OtherFocusReason);  // or it would fall on the month, which keys change
+  }
   colorMode_->setVisible(isShown);
 }
 

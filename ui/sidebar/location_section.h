@@ -5,7 +5,6 @@
 #include "model/astronomy_model.h"
 
 class QAbstractButton;
-class QComboBox;
 class QLabel;
 class QPushButton;
 class QStackedLayout;
@@ -14,6 +13,7 @@ class QWidget;
 namespace veyruna::ui {
 
 class AngleField;
+class LocationPicker;
 class SegmentedPicker;
 
 /// Where the observer stands: a saved place, or the manual fields.
@@ -25,6 +25,9 @@ class LocationSection final : public QGroupBox {
 
   /// Takes over what is being typed.
   void commit();
+
+  /// Where the focus goes when a place has come or gone.
+  void focusPicker();
 
   /// The colour button is there for the horoscope alone.
   void showColorMode(bool isShown);
@@ -43,7 +46,7 @@ class LocationSection final : public QGroupBox {
   void showManualFields();
 
   model::AstronomyModel& model_;
-  QComboBox* picker_ = nullptr;
+  LocationPicker* picker_ = nullptr;
   QStackedLayout* place_ = nullptr;
   QWidget* savedPlace_ = nullptr;
   QLabel* coordinates_ = nullptr;
@@ -52,6 +55,7 @@ class LocationSection final : public QGroupBox {
   AngleField* longitude_ = nullptr;
   SegmentedPicker* northSouth_ = nullptr;
   SegmentedPicker* eastWest_ = nullptr;
+  QPushButton* map_ = nullptr;
   QPushButton* colorMode_ = nullptr;
 };
 

@@ -1,5 +1,6 @@
 #include "ui/sidebar/sidebar_view.h"
 
+#include <QDialog>
 #include <QEvent>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -39,14 +40,15 @@ SidebarView::SidebarView(model::AstronomyModel& model, QWidget* parent)
     : QScrollArea(parent),
       model_(model),
       location_(new LocationSection(model)),
-      date_(new DateSection(model)) {
+      date_(new DateSection(model)),
+      time_(new TimeSection(model)) {
   setObjectName(QStringLiteral("sidebar"));
   auto* const content = new QWidget;
   auto* const calculate = new CalculateArea(model);
   auto* const column = new QVBoxLayout(content);
   column->addWidget(location_);
   column->addWidget(date_);
-  column->addWidget(new TimeSection(model));
+  column->addWidget(time_);
   column->addWidget(calculate);
   column->addStretch();
   column->addWidget(makeExportArea());
@@ -58,16 +60,23 @@ SidebarView::SidebarView(model::AstronomyModel& model, QWidget* parent)
   connect(location_, &LocationSection::mapRequested, this, &SidebarView::mapRequested);
   connect(location_, &LocationSection::saveRequested, this, [this] {
     commit();
-    (new SaveLocationSheet(model_, window()))->open();
+    open(new SaveLocationSheet(model_, window()));
   });
   connect(location_, &LocationSection::deleteRequested, this, [this] {
     commit();
-    (new DeleteLocationSheet(model_, window()))->open();
+    open(new DeleteLocationSheet(model_, window()));
   });
   connect(calculate, &CalculateArea::calculateRequested, this, [this] {
     commit();
     model_.recalculate();
   });
+}
+
+void SidebarView::open(QDialog* sheet) {
+  // What the sheet was opened with is gone when it has done its work, and the focus would fall on
+  // whatever stands in its place: Delete, for a place just saved.
+  connect(sheet, &QDialog::accepted, location_, &LocationSection::focusPicker);
+  sheet->open();
 }
 
 QWidget* SidebarView::makeExportArea() {
@@ -82,8 +91,11 @@ QWidget* SidebarView::makeExportArea() {
   auto* const column = new QVBoxLayout(area);
   column->setContentsMargins(exportPadding, exportPadding, exportPadding, exportPadding);
   column->addLayout(row);
-  column->addWidget(footerLabel(tr("Version ") + programVersion(), "versionLabel"));
-  column->addWidget(footerLabel(tr("Build ") + programBuild(), "buildLabel"));
+  auto* const footer = new QHBoxLayout;
+  footer->addWidget(footerLabel(tr("Version ") + programVersion(), "versionLabel"));
+  footer->addWidget(footerLabel(tr("Build ") + programBuild(), "buildLabel"));
+  footer->addStretch();
+  column->addLayout(footer);
   connect(nativeExport_, &QPushButton::clicked, this, [this] {
     commit();
     Q_EMIT nativeExportRequested();
@@ -116,6 +128,7 @@ bool SidebarView::eventFilter(QObject* watched, QEvent* event) {
 void SidebarView::commit() {
   location_->commit();
   date_->commit();
+  time_->commit();
 }
 
 }  // namespace veyruna::ui

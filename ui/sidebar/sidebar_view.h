@@ -5,12 +5,14 @@
 #include "export/output_tab.h"
 #include "model/astronomy_model.h"
 
+class QDialog;
 class QPushButton;
 
 namespace veyruna::ui {
 
 class DateSection;
 class LocationSection;
+class TimeSection;
 
 /// The inputs, top to bottom: place, date, time, the calculation and the exports.
 class SidebarView final : public QScrollArea {
@@ -38,10 +40,12 @@ class SidebarView final : public QScrollArea {
 
  private:
   QWidget* makeExportArea();
+  void open(QDialog* sheet);
 
   model::AstronomyModel& model_;
   LocationSection* location_;
   DateSection* date_;
+  TimeSection* time_;
   QPushButton* nativeExport_ = nullptr;
 };
 

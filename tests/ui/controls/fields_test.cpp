@@ -1,4 +1,6 @@
 // Showing a value never changes it; only what a person steps or types does.
+#include <QApplication>
+#include <QClipboard>
 #include <QLineEdit>
 #include <QLocale>
 #include <QSignalSpy>
@@ -6,6 +8,7 @@
 #include <QWheelEvent>
 #include <gtest/gtest.h>
 #include <limits>
+#include <tuple>
 
 #include "ui/controls/angle_field.h"
 #include "ui/controls/stepper_field.h"
@@ -13,9 +16,15 @@
 namespace veyruna::ui {
 namespace {
 
+/// Whether the field wears the edge of what is refused.
+bool isMarked(const QWidget& field) {
+  return field.findChild<QWidget*>(QStringLiteral("refusedEdge"))->isVisibleTo(&field);
+}
+
 struct YearField : testing::Test {
   StepperField field{QStringLiteral("Year"), 1, 2000, 0};
   QSignalSpy edits{&field, &StepperField::edited};
+  QSignalSpy notes{&field, &StepperField::noted};
 
   void type(const QString& text) {
     field.selectAll();
@@ -29,7 +38,7 @@ TEST_F(YearField, ShowsWhatIsOutsideItsRangeAndReportsNothing) {
   for (const qint64 year : {qint64{3000}, qint64{-5}, std::numeric_limits<qint64>::max()}) {
     field.show(year);
     field.commit();
-    EXPECT_EQ(shown(), QStringLiteral("Year %1").arg(year));
+    EXPECT_EQ(shown(), QString::number(year));
   }
   EXPECT_EQ(edits.count(), 0);
 }
@@ -46,29 +55,96 @@ TEST_F(YearField, StopsAtItsFirstAndLastYear) {
   EXPECT_EQ(edits.at(0).at(0).toLongLong(), 2);
 }
 
-TEST_F(YearField, StepsFromOutsideIntoItsRange) {
-  field.show(3000);
-  field.stepDown();
-  ASSERT_EQ(edits.count(), 1);
-  EXPECT_EQ(edits.at(0).at(0).toLongLong(), 1999);
+TEST_F(YearField, AStepFromOutsideItsRangeLandsOnTheBorder) {
+  for (const auto& [stored, key, border] :
+       {std::tuple(qint64{3000}, Qt::Key_Down, 2000),
+        std::tuple(qint64{3000}, Qt::Key_PageDown, 2000), std::tuple(qint64{-5}, Qt::Key_Up, 1),
+        std::tuple(qint64{0}, Qt::Key_PageUp, 1)}) {
+    field.show(stored);
+    edits.clear();
+    QTest::keyClick(&field, key);
+    ASSERT_EQ(edits.count(), 1) << stored;
+    EXPECT_EQ(edits.at(0).at(0).toLongLong(), border);
+  }
 }
 
 TEST_F(YearField, IsTypedWithAndWithoutItsWord) {
   field.show(720);
   type(QStringLiteral("Year 1243"));
-  EXPECT_EQ(shown(), QStringLiteral("Year 1243"));
+  EXPECT_EQ(shown(), QStringLiteral("1243"));
   type(QStringLiteral("7"));
-  EXPECT_EQ(shown(), QStringLiteral("Year 7"));
+  EXPECT_EQ(shown(), QStringLiteral("7"));
   ASSERT_EQ(edits.count(), 2);
   EXPECT_EQ(edits.at(1).at(0).toLongLong(), 7);
 }
 
-TEST_F(YearField, RefusesWhatIsNoYearWhileItIsTyped) {
+TEST_F(YearField, WhatIsNoYearIsMarkedAndNeverAnotherYear) {
   field.show(720);
-  type(QStringLiteral("20001"));
-  EXPECT_EQ(shown(), QStringLiteral("Year 2000"));
-  type(QStringLiteral("0"));
-  EXPECT_EQ(shown(), QStringLiteral("Year 2000"));
+  for (const char* const text : {"20001", "2001", "0", "-5", "7a", "1 2", "99999999999999999999"}) {
+    field.selectAll();
+    QTest::keyClicks(&field, QString::fromLatin1(text));
+    EXPECT_EQ(shown(), QString::fromLatin1(text));
+    EXPECT_EQ(notes.last().at(0).toString(), QStringLiteral("Year 1 to 2000")) << text;
+    EXPECT_EQ(field.accessibleDescription(), QStringLiteral("Year 1 to 2000")) << text;
+    EXPECT_TRUE(isMarked(field)) << text;
+    QTest::keyClick(&field, Qt::Key_Return);
+    EXPECT_EQ(shown(), QString::fromLatin1(text)) << "Return leaves it to be mended";
+    EXPECT_TRUE(isMarked(field)) << text;
+    field.commit();
+    EXPECT_EQ(shown(), QStringLiteral("720"));
+    EXPECT_EQ(notes.last().at(0).toString(), QStringLiteral("Year 1 to 2000; still 720")) << text;
+    EXPECT_FALSE(isMarked(field)) << text;
+  }
+  EXPECT_EQ(edits.count(), 0);
+}
+
+TEST_F(YearField, WhatIsMendedIsNoLongerMarked) {
+  field.show(720);
+  field.selectAll();
+  QTest::keyClicks(&field, QStringLiteral("20001"));
+  QTest::keyClick(&field, Qt::Key_Backspace);
+  EXPECT_FALSE(isMarked(field));
+  EXPECT_TRUE(notes.last().at(0).toString().isEmpty());
+  EXPECT_TRUE(field.accessibleDescription().isEmpty());
+  QTest::keyClick(&field, Qt::Key_Return);
+  ASSERT_EQ(edits.count(), 1);
+  EXPECT_EQ(edits.at(0).at(0).toLongLong(), 2000);
+}
+
+TEST_F(YearField, WhatMayBecomeAYearIsNotMarkedYet) {
+  field.show(720);
+  for (const char* const text : {"", "Y", "year", "Year "}) {
+    field.selectAll();
+    QTest::keyClick(&field, Qt::Key_Delete);
+    QTest::keyClicks(&field, QString::fromLatin1(text));
+    EXPECT_FALSE(isMarked(field)) << text;
+    field.commit();
+    EXPECT_EQ(shown(), QStringLiteral("720"));
+  }
+  EXPECT_EQ(edits.count(), 0);
+}
+
+TEST_F(YearField, EscapeGivesUpWhatIsTyped) {
+  field.show(720);
+  for (const char* const text : {"900", "20001"}) {
+    field.selectAll();
+    QTest::keyClicks(&field, QString::fromLatin1(text));
+    QTest::keyClick(&field, Qt::Key_Escape);
+    EXPECT_EQ(shown(), QStringLiteral("720"));
+    EXPECT_FALSE(isMarked(field));
+    field.commit();
+  }
+  EXPECT_EQ(edits.count(), 0);
+}
+
+TEST_F(YearField, WhatIsTypedStaysWhileTheSameYearIsShownAgain) {
+  field.show(720);
+  field.selectAll();
+  QTest::keyClicks(&field, QStringLiteral("90"));
+  field.show(720);
+  EXPECT_EQ(shown(), QStringLiteral("90"));
+  field.show(721);
+  EXPECT_EQ(shown(), QStringLiteral("721"));
 }
 
 TEST_F(YearField, AWheelWithoutTheFocusChangesNothing) {
@@ -83,19 +159,21 @@ TEST_F(YearField, AWheelWithoutTheFocusChangesNothing) {
 TEST(DayField, CountsFromOne) {
   StepperField field(QStringLiteral("Day"), 0, 29, 1);
   field.show(29);
-  EXPECT_EQ(field.text(), QStringLiteral("Day 30"));
+  EXPECT_EQ(field.text(), QStringLiteral("30"));
   const QSignalSpy edits(&field, &StepperField::edited);
   field.stepUp();
   EXPECT_EQ(edits.count(), 0);
   field.show(0);
-  EXPECT_EQ(field.text(), QStringLiteral("Day 1"));
+  EXPECT_EQ(field.text(), QStringLiteral("1"));
   field.stepDown();
   EXPECT_EQ(edits.count(), 0);
 }
 
 struct LatitudeField : testing::Test {
-  AngleField field{90.0};
+  AngleField field{QStringLiteral("Latitude"), 90.0, {u'N', u'S'}};
   QSignalSpy edits{&field, &AngleField::edited};
+  QSignalSpy turns{&field, &AngleField::turned};
+  QSignalSpy notes{&field, &AngleField::noted};
 
   void type(const QString& text) {
     field.selectAll();
@@ -139,16 +217,87 @@ TEST_F(LatitudeField, TakesACommaAndAPointForTheSame) {
   EXPECT_EQ(field.text(), local("0.5"));
 }
 
-TEST_F(LatitudeField, RefusesTheRestWhileItIsTyped) {
+TEST_F(LatitudeField, TakesBothEndsOfItsRange) {
+  type(QStringLiteral("90"));
+  type(QStringLiteral("0"));
+  ASSERT_EQ(edits.count(), 2);
+  EXPECT_EQ(edits.at(0).at(0).toDouble(), 90.0);
+  EXPECT_EQ(edits.at(1).at(0).toDouble(), 0.0);
+  AngleField longitude(QStringLiteral("Longitude"), 180.0, {u'E', u'W'});
+  const QSignalSpy longitudes(&longitude, &AngleField::edited);
+  longitude.selectAll();
+  QTest::keyClicks(&longitude, QStringLiteral("180"));
+  longitude.commit();
+  ASSERT_EQ(longitudes.count(), 1);
+  EXPECT_EQ(longitudes.at(0).at(0).toDouble(), 180.0);
+}
+
+TEST_F(LatitudeField, WhatIsNoLatitudeIsMarkedAndNeverAnotherOne) {
   field.show(1.0);
-  type(QStringLiteral("-"));
-  EXPECT_EQ(field.text(), QStringLiteral("1"));
-  type(QStringLiteral("91"));
-  EXPECT_EQ(field.text(), QStringLiteral("9"));
-  type(local("1.23456"));
-  EXPECT_EQ(field.text(), local("1.234"));
-  type(QStringLiteral("1e1"));
-  EXPECT_EQ(field.text(), QStringLiteral("11"));
+  const QString range = QStringLiteral("Latitude 0 to 90");
+  const QString fine = QStringLiteral("At most three decimals");
+  for (const auto& [text, note] :
+       {std::pair("91", range), std::pair("90.001", range), std::pair("1e1", range),
+        std::pair("1.2.3", range), std::pair("1 2", range), std::pair("+5", range),
+        std::pair("x", range), std::pair("abc", range), std::pair("1.2345", fine),
+        std::pair("0.0001", fine), std::pair("91.2345", range)}) {
+    field.selectAll();
+    QTest::keyClicks(&field, QString::fromLatin1(text));
+    EXPECT_EQ(field.text(), QString::fromLatin1(text));
+    EXPECT_TRUE(isMarked(field)) << text;
+    EXPECT_EQ(notes.last().at(0).toString(), note) << text;
+    EXPECT_EQ(field.accessibleDescription(), note) << text;
+    field.commit();
+    EXPECT_EQ(notes.last().at(0).toString(), note + QStringLiteral("; still 1")) << text;
+    EXPECT_EQ(field.text(), QStringLiteral("1")) << text;
+  }
+  EXPECT_EQ(edits.count(), 0);
+}
+
+TEST_F(LatitudeField, ALetterOrAMinusTurnsItAndIsNotKept) {
+  field.show(1.0);
+  for (const auto& [text, isNorth] : {std::pair("s12", false), std::pair("12n", true),
+                                      std::pair("-12", false), std::pair("12S", false)}) {
+    turns.clear();
+    field.selectAll();
+    QTest::keyClicks(&field, QString::fromLatin1(text));
+    ASSERT_EQ(turns.count(), 1) << text;
+    EXPECT_EQ(turns.at(0).at(0).toBool(), isNorth) << text;
+    EXPECT_EQ(field.text(), QStringLiteral("12")) << text;
+    EXPECT_FALSE(isMarked(field)) << text;
+  }
+  field.commit();
+  ASSERT_EQ(edits.count(), 1);
+  EXPECT_EQ(edits.at(0).at(0).toDouble(), 12.0);
+}
+
+TEST_F(LatitudeField, ALetterAloneLeavesTheNumber) {
+  field.show(40.123456);
+  field.selectAll();
+  QTest::keyClicks(&field, QStringLiteral("S"));
+  field.commit();
+  EXPECT_EQ(turns.count(), 1);
+  EXPECT_EQ(edits.count(), 0);
+  EXPECT_EQ(field.text(), local("40.123"));
+}
+
+TEST_F(LatitudeField, APastedPlaceBringsItsDirection) {
+  for (const auto& [text, isNorth] :
+       {std::pair(" 20.5° S", false), std::pair("−20.5", false), std::pair("-20.5", false),
+        std::pair("N 20,5", true), std::pair("20.5°n ", true)}) {
+    turns.clear();
+    edits.clear();
+    field.show(1.0);
+    QApplication::clipboard()->setText(QString::fromUtf8(text));
+    field.selectAll();
+    QTest::keyClick(&field, Qt::Key_V, Qt::ControlModifier);
+    EXPECT_FALSE(isMarked(field)) << text;
+    QTest::keyClick(&field, Qt::Key_Return);
+    ASSERT_EQ(turns.count(), 1) << text;
+    EXPECT_EQ(turns.at(0).at(0).toBool(), isNorth) << text;
+    ASSERT_EQ(edits.count(), 1) << text;
+    EXPECT_EQ(edits.at(0).at(0).toDouble(), 20.5) << text;
+  }
 }
 
 }  // namespace

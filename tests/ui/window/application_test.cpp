@@ -41,7 +41,7 @@ TEST_F(Application, AnotherWindowStandsBesideTheFirstOnTheSameModel) {
   program.model().setYear(901);
   for (const MainView* const window : windows()) {
     EXPECT_EQ(window->findChild<QAbstractSpinBox*>(QStringLiteral("yearStepper"))->text(),
-              QStringLiteral("Year 901"));
+              QStringLiteral("901"));
   }
   // Each has its own tab.
   first->selectTab(exports::OutputTab::positions);

@@ -114,6 +114,85 @@ TEST_F(Controls, DeletingAPlaceFallsBackToManual) {
   EXPECT_TRUE(find<QWidget>("latitudeField")->isVisible());
 }
 
+/// The name of what has the focus; the window must have it back from its sheet.
+QString focused() {
+  EXPECT_TRUE(QTest::qWaitFor([] { return QApplication::focusWidget() != nullptr; }));
+  const QWidget* const widget = QApplication::focusWidget();
+  return widget == nullptr ? QString() : widget->objectName();
+}
+
+TEST_F(Controls, AfterAPlaceWasSavedTheFocusIsOnThePicker) {
+  find<QWidget>("saveButton")->setFocus();
+  QTest::keyClick(find<QWidget>("saveButton"), Qt::Key_Space);
+  QTest::keyClicks(find<QLineEdit>("nameField"), QStringLiteral("Harbour"));
+  QTest::keyClick(find<QLineEdit>("nameField"), Qt::Key_Return);
+  comeBack();
+  EXPECT_EQ(focused(), QStringLiteral("locationPicker"));
+  // A hasty second Return or Space deletes nothing.
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+  EXPECT_EQ(window.findChild<QDialog*>(QStringLiteral("deleteSheet")), nullptr);
+  EXPECT_EQ(model.cities().size(), 15);
+}
+
+TEST_F(Controls, AfterAPlaceWasDeletedTheFocusIsOnThePicker) {
+  model.setSelectedCityID(model.cities().at(2).id);
+  find<QWidget>("deleteButton")->setFocus();
+  QTest::keyClick(find<QWidget>("deleteButton"), Qt::Key_Space);
+  QTest::keyClick(find<QDialog>("deleteSheet"), Qt::Key_Return);
+  comeBack();
+  EXPECT_EQ(focused(), QStringLiteral("locationPicker"));
+}
+
+TEST_F(Controls, AfterASheetThatWasCancelledTheFocusIsWhereItWas) {
+  find<QWidget>("saveButton")->setFocus();
+  QTest::keyClick(find<QWidget>("saveButton"), Qt::Key_Space);
+  QTest::keyClick(find<QDialog>("saveSheet"), Qt::Key_Escape);
+  comeBack();
+  EXPECT_EQ(focused(), QStringLiteral("saveButton"));
+}
+
+TEST_F(Controls, ALetterTypedIntoACoordinateSwitchesItsSegment) {
+  type("latitudeField", QStringLiteral("-12"));
+  EXPECT_FALSE(model.latNorth());
+  EXPECT_TRUE(find<QAbstractButton>("northSouthS")->isChecked());
+  EXPECT_EQ(find<QLineEdit>("latitudeField")->text(), QStringLiteral("12"));
+  type("longitudeField", QStringLiteral("34e"));
+  EXPECT_EQ(model.manualLatDeg(), 12.0);
+  EXPECT_FALSE(model.longWest());
+  EXPECT_TRUE(find<QAbstractButton>("eastWestE")->isChecked());
+  EXPECT_EQ(find<QLineEdit>("longitudeField")->text(), QStringLiteral("34"))
+      << "what is being typed stays";
+  QTest::keyClicks(find<QWidget>("longitudeField"), QStringLiteral("W"));
+  EXPECT_TRUE(model.longWest());
+  QTest::keyClick(find<QWidget>("longitudeField"), Qt::Key_Return);
+  EXPECT_EQ(model.manualLongDeg(), 34.0);
+  QTest::keyClicks(find<QWidget>("latitudeField"), QStringLiteral("n"));
+  EXPECT_TRUE(model.latNorth());
+}
+
+TEST_F(Controls, TheColourButtonThatGoesHandsItsFocusToTheMapButton) {
+  press("tab2");
+  find<QWidget>("colorModeButton")->setFocus();
+  QTest::keyClick(&window, Qt::Key_1, Qt::ControlModifier);
+  EXPECT_EQ(focused(), QStringLiteral("mapButton"));
+}
+
+TEST_F(Controls, EveryInputHasAKeyOfItsOwn) {
+  for (const auto& [letter, name] :
+       {std::pair(Qt::Key_L, "locationPicker"), std::pair(Qt::Key_A, "latitudeField"),
+        std::pair(Qt::Key_N, "longitudeField"), std::pair(Qt::Key_M, "monthPicker"),
+        std::pair(Qt::Key_Y, "dayStepper"), std::pair(Qt::Key_R, "yearStepper"),
+        std::pair(Qt::Key_U, "hourSlider"), std::pair(Qt::Key_E, "laterButton")}) {
+    QTest::keyClick(&window, letter, Qt::AltModifier);
+    EXPECT_EQ(focused(), QString::fromLatin1(name));
+  }
+  // What is typed then replaces what stands there.
+  QTest::keyClick(&window, Qt::Key_Y, Qt::AltModifier);
+  QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("17"));
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+  EXPECT_EQ(model.dayIndex(), 16);
+}
+
 TEST_F(Controls, CalculateCalculatesOnceHoweverOftenItIsPressed) {
   press("calculateButton");
   press("calculateButton");
@@ -227,7 +306,7 @@ TEST_F(Controls, AWheelOverAControlWithoutFocusChangesNothing) {
   EXPECT_TRUE(stored().isEmpty());
 }
 
-TEST_F(Controls, AreCalledWhatTheyAreCalled) {
+TEST_F(Controls, EveryTextOfTheWindowAndItsSheetsIsThere) {
   window.selectTab(OutputTab::horoscope);
   QStringList texts;
   const auto read = [&texts](const QWidget& widgets) {
@@ -269,6 +348,8 @@ TEST_F(Controls, AreCalledWhatTheyAreCalled) {
                                  "Color",
                                  "Date",
                                  "Month",
+                                 "Day",
+                                 "Year",
                                  "Time",
                                  "Hour",
                                  "Step (15 min)",

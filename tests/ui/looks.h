@@ -1,0 +1,57 @@
+#pragma once
+
+#include <QApplication>
+#include <QPalette>
+#include <QStyle>
+#include <QStyleFactory>
+#include <cmath>
+
+/// The looks a desktop may have.
+namespace veyruna::tests {
+
+inline QPalette lightPalette() {
+  return {QColor(0xef, 0xef, 0xef)};
+}
+
+inline QPalette darkPalette() {
+  QPalette dark(QColor(0x35, 0x35, 0x39), QColor(0x2b, 0x2b, 0x2e));
+  dark.setColor(QPalette::Base, QColor(0x1f, 0x1f, 0x22));
+  for (const QPalette::ColorRole role :
+       {QPalette::Text, QPalette::WindowText, QPalette::ButtonText}) {
+    dark.setColor(role, QColor(0xee, 0xee, 0xee));
+    dark.setColor(QPalette::Disabled, role, QColor(0x90, 0x90, 0x94));
+  }
+  dark.setColor(QPalette::Highlight, QColor(0x3d, 0x7a, 0xc8));
+  dark.setColor(QPalette::HighlightedText, Qt::white);
+  return dark;
+}
+
+/// The program in Fusion with this palette, while it lives.
+class Look {
+ public:
+  explicit Look(const QPalette& palette) {
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setPalette(palette);
+  }
+  ~Look() { QApplication::setPalette(QPalette()); }
+  Look(const Look&) = delete;
+  Look& operator=(const Look&) = delete;
+};
+
+/// How much light a colour gives, from 0 to 1, as contrast is reckoned (WCAG 2).
+inline double luminance(const QColor& color) {
+  const auto linear = [](double share) {
+    return share <= 0.04045 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
+  };
+  return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) +
+         0.0722 * linear(color.blueF());
+}
+
+/// From 1 to 21; 4.5 is the least at which text is easily read.
+inline double contrast(const QColor& a, const QColor& b) {
+  const double lighter = std::max(luminance(a), luminance(b));
+  const double darker = std::min(luminance(a), luminance(b));
+  return (lighter + 0.05) / (darker + 0.05);
+}
+
+}  // namespace veyruna::tests
