@@ -26,12 +26,12 @@ QSize WrappedLabel::sizeHint() const {
 }
 
 QSize WrappedLabel::minimumSizeHint() const {
-  return {leastCharacters * fontMetrics().averageCharWidth(), fontMetrics().height()};
+  return {leastCharacters * fontMetrics().averageCharWidth(), heightForWidth(QWIDGETSIZE_MAX)};
 }
 
 int WrappedLabel::heightForWidth(int width) const {
   QTextLayout lines;
-  return std::max(layOut(lines, width), fontMetrics().height());
+  return layOut(lines, width);  // of no text, one line
 }
 
 int WrappedLabel::layOut(QTextLayout& lines, int width) const {

@@ -42,6 +42,12 @@ QHBoxLayout* sheetButtons(QPushButton* cancel, QPushButton* act) {
   return row;
 }
 
+/// As high as its texts ask at this width; a window does not see to that for a text in many lines.
+void fitHeight(QDialog& sheet) {
+  const int width = std::max(sheet.width(), sheet.minimumWidth());
+  sheet.resize(width, std::max(sheet.height(), sheet.layout()->totalHeightForWidth(width)));
+}
+
 bool isReturn(const QKeyEvent& event) {
   return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
 }
@@ -80,8 +86,7 @@ void SaveLocationSheet::save() {
   if (const auto* const refusal = std::get_if<model::LocationError>(&outcome)) {
     error_->setText(refusal->description());
     error_->show();
-    // A window does not grow by itself for a text in many lines.
-    resize(width(), std::max(height(), layout()->totalHeightForWidth(width())));
+    fitHeight(*this);
     name_->setFocus();
     return;
   }
@@ -110,6 +115,8 @@ DeleteLocationSheet::DeleteLocationSheet(model::AstronomyModel& model, QWidget* 
 
   connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
   connect(remove, &QPushButton::clicked, this, &DeleteLocationSheet::remove);
+  resize(sheetWidth, 0);
+  fitHeight(*this);
   cancel->installEventFilter(this);
   remove->setFocus();
 }

@@ -8,8 +8,8 @@
 #include <QPushButton>
 #include <QScrollArea>
 #include <algorithm>
+#include <array>
 #include <map>
-#include <memory>
 
 #include "tests/ui/shown_window.h"
 
@@ -144,13 +144,21 @@ TEST_P(Looks, WhatIsRefusedHasARedEdgeAndAReadableLine) {
     shown.type(name, QStringLiteral("99999"));
     auto* const field = shown.find<QWidget>(name);
     const QImage picture = pictureOf(*field);
-    for (const QPoint edge : {QPoint(picture.width() / 2, 0), QPoint(0, picture.height() / 2),
-                              QPoint(picture.width() / 2, picture.height() - 1),
-                              QPoint(picture.width() - 1, picture.height() / 2)}) {
-      const QColor color = picture.pixelColor(edge);
-      EXPECT_GT(color.red(), color.green() + 60) << name << edge.x() << ' ' << edge.y();
-      EXPECT_GT(color.red(), color.blue() + 60) << name;
+    const auto redness = [&picture](QPoint point) {
+      const QColor color = picture.pixelColor(point);
+      return color.red() - std::max(color.green(), color.blue());
+    };
+    // On each side, within the first three pixels.
+    const QPoint middle(picture.width() / 2, picture.height() / 2);
+    const QPoint last(picture.width() - 1, picture.height() - 1);
+    std::array<int, 4> reddest{};
+    for (int in = 0; in < 3; ++in) {
+      reddest[0] = std::max(reddest[0], redness({in, middle.y()}));
+      reddest[1] = std::max(reddest[1], redness({last.x() - in, middle.y()}));
+      reddest[2] = std::max(reddest[2], redness({middle.x(), in}));
+      reddest[3] = std::max(reddest[3], redness({middle.x(), last.y() - in}));
     }
+    EXPECT_GT(*std::min_element(reddest.begin(), reddest.end()), 60) << name;
   }
   auto* const note = shown.find<QLabel>("dateNote");
   const QImage line = pictureOf(*note);
@@ -166,16 +174,21 @@ TEST_P(Looks, TheProgressStandsBesideTheWordAndIsSeen) {
   shown.find<QWidget>("calculateButton")->clearFocus();
   auto* const progress = shown.find<QWidget>("progress");
   ASSERT_TRUE(progress->isVisible());
-  const QRect room = progress->geometry();
+  const double pixels = button->devicePixelRatioF();  // of the pictures
+  const QRect place = progress->geometry();
+  const auto inPixels = [pixels](const QRect& part) {
+    return QRectF(QPointF(part.topLeft()) * pixels, QSizeF(part.size()) * pixels).toRect();
+  };
+  const QRect room = inPixels(place);
   const QImage during = pictureOf(*button);
   EXPECT_GE(visibleDifferences(before.copy(room), during.copy(room)), 10);
   // Beside the word: nothing of the button's own was drawn there, and the word ends close by.
   const QColor ground = before.pixelColor(room.center());
   EXPECT_LT(bestContrast(before.copy(room), ground), 1.3) << "over the word";
-  const QRect close(room.left() - 12, room.top(), 12, room.height());
+  const QRect close = inPixels({place.left() - 12, place.top(), 12, place.height()});
   EXPECT_GT(bestContrast(before.copy(close), ground), 3.0) << "far from the word";
-  EXPECT_LE(room.height(), button->fontMetrics().height());
-  EXPECT_TRUE(button->rect().contains(room));
+  EXPECT_LE(place.height(), button->fontMetrics().height());
+  EXPECT_TRUE(button->rect().contains(place));
 }
 
 TEST_P(Looks, EveryTextOfTheSidebarCanBeRead) {
