@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QPointer>
 #include <algorithm>
+#include <array>
 #include <limits>
 #include <utility>
 
@@ -36,6 +37,7 @@ AstronomyModel::AstronomyModel(Surroundings surroundings, QObject* parent)
       date_(readDateSettings(*settings_)),
       locations_(std::move(surroundings.locationsPath), newId_) {
   locations_.loadCities();
+  textIn(texts_, Document::positions) = QString::fromStdString(reports::positionsTableText({}));
 }
 
 AstronomyModel::~AstronomyModel() {
@@ -235,26 +237,55 @@ void AstronomyModel::recalculate() {
   });
 }
 
+AstronomyModel::Signal AstronomyModel::namedSignalOf(Document document) {
+  using Named = std::pair<Document, Signal>;
+  static constexpr std::array<Named, 9> named = {{
+      {Document::starMap, &AstronomyModel::starMapSVGChanged},
+      {Document::horoscope, &AstronomyModel::horoscopeSVGChanged},
+      {Document::hourly, &AstronomyModel::basicTableHourlyChanged},
+      {Document::monthly, &AstronomyModel::basicTableMonthlyChanged},
+      {Document::daily, &AstronomyModel::conjunctionDailyChanged},
+      {Document::yearly, &AstronomyModel::conjunctionYearlyChanged},
+      {Document::date, &AstronomyModel::dateLabelChanged},
+      {Document::nextFullMoon, &AstronomyModel::nextFullMoonLabelChanged},
+      {Document::nextNewMoon, &AstronomyModel::nextNewMoonLabelChanged},
+  }};
+  const auto* const found = std::ranges::find(named, document, &Named::first);
+  return found == named.end() ? nullptr : found->second;
+}
+
+void AstronomyModel::publishText(Document document, const QString& text) {
+  QString& held = textIn(texts_, document);
+  if (held == text) {
+    return;
+  }
+  held = text;
+  if (const Signal changed = namedSignalOf(document)) {
+    Q_EMIT(this->*changed)();
+  }
+  Q_EMIT textChanged(document);
+}
+
 void AstronomyModel::publish(const CalculationResult& result) {
   const auto& [observer, blackAndWhite] = result.input;
-  assign(starMapSVG_, result.starMapSVG, &AstronomyModel::starMapSVGChanged);
-  assign(horoscopeSVG_, result.horoscopeSVG, &AstronomyModel::horoscopeSVGChanged);
-  assign(lastHoroscopeBasetime_, std::optional(observer.baseTime),
-         &AstronomyModel::lastHoroscopeBasetimeChanged);
-  assign(lastHoroscopeLatitude_, observer.latitude, &AstronomyModel::lastHoroscopeLatitudeChanged);
-  assign(lastHoroscopeLongitude_, observer.longitude,
-         &AstronomyModel::lastHoroscopeLongitudeChanged);
-  assign(basicTableHourly_, result.basicTableHourly, &AstronomyModel::basicTableHourlyChanged);
-  assign(basicTableMonthly_, result.basicTableMonthly, &AstronomyModel::basicTableMonthlyChanged);
-  assign(conjunctionDaily_, result.conjunctionDaily, &AstronomyModel::conjunctionDailyChanged);
-  assign(conjunctionYearly_, result.conjunctionYearly, &AstronomyModel::conjunctionYearlyChanged);
-  positions_ = bodyPositions(result.positions, newId_);
-  Q_EMIT positionsChanged();
-  assign(dateLabel_, result.dateLabel, &AstronomyModel::dateLabelChanged);
-  nextFullMoonBaseTime_ = result.nextFullMoonBaseTime;
-  nextNewMoonBaseTime_ = result.nextNewMoonBaseTime;
-  assign(nextFullMoonLabel_, result.nextFullMoonLabel, &AstronomyModel::nextFullMoonLabelChanged);
-  assign(nextNewMoonLabel_, result.nextNewMoonLabel, &AstronomyModel::nextNewMoonLabelChanged);
+  for (const documents::Entry& entry : documents::allDocuments) {
+    if (entry.document == Document::positions) {
+      positions_ = bodyPositions(result.positions, newId_);
+      Q_EMIT positionsChanged();
+    } else if (entry.document == Document::nextFullMoon) {
+      nextFullMoonBaseTime_ = result.nextFullMoonBaseTime;
+      nextNewMoonBaseTime_ = result.nextNewMoonBaseTime;
+    }
+    publishText(entry.document, textIn(result.texts, entry.document));
+    if (entry.document == Document::horoscope) {
+      assign(lastHoroscopeBasetime_, std::optional(observer.baseTime),
+             &AstronomyModel::lastHoroscopeBasetimeChanged);
+      assign(lastHoroscopeLatitude_, observer.latitude,
+             &AstronomyModel::lastHoroscopeLatitudeChanged);
+      assign(lastHoroscopeLongitude_, observer.longitude,
+             &AstronomyModel::lastHoroscopeLongitudeChanged);
+    }
+  }
   const QPointer<AstronomyModel> self(this);  // whoever waited for the end may delete the model
   assign(isCalculating_, false, &AstronomyModel::isCalculatingChanged);
   if (self && horoscopeBlackAndWhite_ != blackAndWhite) {
@@ -269,8 +300,7 @@ void AstronomyModel::regenerateHoroscope() {
   const astro::Observer last{.baseTime = *lastHoroscopeBasetime_,
                              .latitude = lastHoroscopeLatitude_,
                              .longitude = lastHoroscopeLongitude_};
-  assign(horoscopeSVG_, calculateHoroscope({last, horoscopeBlackAndWhite_}),
-         &AstronomyModel::horoscopeSVGChanged);
+  publishText(Document::horoscope, calculateHoroscope({last, horoscopeBlackAndWhite_}));
 }
 
 }  // namespace veyruna::model

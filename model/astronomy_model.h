@@ -126,17 +126,24 @@ class AstronomyModel : public QObject {
   /// Deletes a saved place; where it was selected, "Manual" is.
   void deleteCity(QUuid id);
 
-  // The outputs of the last calculation; empty before the first.
-  [[nodiscard]] const QString& starMapSVG() const { return starMapSVG_; }
-  [[nodiscard]] const QString& horoscopeSVG() const { return horoscopeSVG_; }
-  [[nodiscard]] const QString& basicTableHourly() const { return basicTableHourly_; }
-  [[nodiscard]] const QString& basicTableMonthly() const { return basicTableMonthly_; }
-  [[nodiscard]] const QString& conjunctionDaily() const { return conjunctionDaily_; }
-  [[nodiscard]] const QString& conjunctionYearly() const { return conjunctionYearly_; }
+  using Document = documents::Document;
+
+  /// The document as it was last calculated; empty before the first time, but for the positions,
+  /// which are their header alone. The horoscope is in colour or black on white as the flag says;
+  /// what is not held (isHeld) stays empty.
+  [[nodiscard]] const QString& text(Document document) const { return textIn(texts_, document); }
+
+  // The outputs of the last calculation by their names.
+  [[nodiscard]] const QString& starMapSVG() const { return text(Document::starMap); }
+  [[nodiscard]] const QString& horoscopeSVG() const { return text(Document::horoscope); }
+  [[nodiscard]] const QString& basicTableHourly() const { return text(Document::hourly); }
+  [[nodiscard]] const QString& basicTableMonthly() const { return text(Document::monthly); }
+  [[nodiscard]] const QString& conjunctionDaily() const { return text(Document::daily); }
+  [[nodiscard]] const QString& conjunctionYearly() const { return text(Document::yearly); }
   [[nodiscard]] const QList<BodyPosition>& positions() const { return positions_; }
-  [[nodiscard]] const QString& dateLabel() const { return dateLabel_; }
-  [[nodiscard]] const QString& nextFullMoonLabel() const { return nextFullMoonLabel_; }
-  [[nodiscard]] const QString& nextNewMoonLabel() const { return nextNewMoonLabel_; }
+  [[nodiscard]] const QString& dateLabel() const { return text(Document::date); }
+  [[nodiscard]] const QString& nextFullMoonLabel() const { return text(Document::nextFullMoon); }
+  [[nodiscard]] const QString& nextNewMoonLabel() const { return text(Document::nextNewMoon); }
   /// The moments that the two labels read, in days; signalled with them. Nothing before the first
   /// calculation.
   [[nodiscard]] std::optional<double> nextFullMoonBaseTime() const { return nextFullMoonBaseTime_; }
@@ -173,6 +180,8 @@ class AstronomyModel : public QObject {
   void yearChanged();
   void hourChanged();
   void useLocalTimeChanged();
+  /// Any text has changed. The named signal of the same text, where it has one, comes before.
+  void textChanged(veyruna::documents::Document document);
   void starMapSVGChanged();
   void horoscopeSVGChanged();
   void basicTableHourlyChanged();
@@ -200,6 +209,8 @@ class AstronomyModel : public QObject {
   template <class Group, class Value>
   void setInput(Group& group, Value Group::*field, const Value& value, Signal changed);
   void publish(const CalculationResult& result);
+  void publishText(Document document, const QString& text);
+  static Signal namedSignalOf(Document document);
 
   std::shared_ptr<SettingsStore> settings_;
   IdSource newId_;
@@ -209,16 +220,8 @@ class AstronomyModel : public QObject {
   DateSettings date_;
   SavedLocations locations_;
 
-  QString starMapSVG_;
-  QString horoscopeSVG_;
-  QString basicTableHourly_;
-  QString basicTableMonthly_;
-  QString conjunctionDaily_;
-  QString conjunctionYearly_;
+  Texts texts_;
   QList<BodyPosition> positions_;
-  QString dateLabel_;
-  QString nextFullMoonLabel_;
-  QString nextNewMoonLabel_;
   std::optional<double> nextFullMoonBaseTime_;
   std::optional<double> nextNewMoonBaseTime_;
   bool isCalculating_ = false;

@@ -3,44 +3,43 @@
 #include <cmath>
 
 #include "astro/angle.h"
-#include "astro/calendar.h"
-#include "astro/local_time.h"
 #include "astro/lunar_phases.h"
-#include "charts/horoscope.h"
-#include "charts/star_map.h"
-#include "reports/conjunctions.h"
-#include "reports/ephemeris.h"
 
 namespace veyruna::model {
 
+namespace {
+
+using documents::Document;
+
+QString textOf(Document document, const CalculationInput& input) {
+  const bool isOnPaper = document == Document::horoscope && input.blackAndWhite;
+  return QString::fromStdString(
+      documents::textOf(isOnPaper ? Document::horoscopeOnPaper : document, input.observer));
+}
+
+}  // namespace
+
+bool isHeld(Document document) {
+  return document != Document::horoscopeOnPaper && document != Document::moment;
+}
+
 CalculationResult calculate(const CalculationInput& input) {
-  const astro::Observer& observer = input.observer;
-  const double t = observer.baseTime;
-  const double fullMoon = astro::nextPhase(t, astro::fullMoonElongation);
-  const double newMoon = astro::nextPhase(t, astro::newMoonElongation);
-  const auto moonLabel = [&observer](double moon) {
-    return QString::fromStdString(astro::calendarLabelWithLocalClock(observer.at(moon)));
-  };
-  return {
-      input,
-      QString::fromStdString(charts::starMap(observer, charts::builtInCatalogue())),
-      calculateHoroscope(input),
-      QString::fromStdString(reports::ephemerisTable(observer, {24, 1.0 / 24.0})),
-      QString::fromStdString(reports::ephemerisTable(observer, {30, 1.0})),
-      QString::fromStdString(reports::conjunctionTable(t, {144, 1.0 / 144.0})),
-      QString::fromStdString(reports::conjunctionTable(t, {360, 1.0})),
-      reports::positionRows(observer),
-      QString::fromStdString(astro::calendarLabel(t)),
-      moonLabel(fullMoon),
-      moonLabel(newMoon),
-      fullMoon,
-      newMoon,
-  };
+  const double baseTime = input.observer.baseTime;
+  CalculationResult result{input,
+                           {},
+                           reports::positionRows(input.observer),
+                           astro::nextPhase(baseTime, astro::fullMoonElongation),
+                           astro::nextPhase(baseTime, astro::newMoonElongation)};
+  for (const documents::Entry& entry : documents::allDocuments) {
+    if (isHeld(entry.document)) {
+      textIn(result.texts, entry.document) = textOf(entry.document, input);
+    }
+  }
+  return result;
 }
 
 QString calculateHoroscope(const CalculationInput& input) {
-  return QString::fromStdString(
-      charts::horoscope(input.blackAndWhite, input.observer, charts::builtInCatalogue()));
+  return textOf(Document::horoscope, input);
 }
 
 bool isWithinReach(double baseTime) {

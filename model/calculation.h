@@ -6,6 +6,8 @@
 #include "astro/observer.h"
 #include "reports/positions.h"
 
+#include "documents/documents.h"
+
 namespace veyruna::model {
 
 /// All that a calculation sees.
@@ -14,19 +16,26 @@ struct CalculationInput {
   bool blackAndWhite = false;  ///< of the horoscope
 };
 
+/// A text for each document.
+using Texts = std::array<QString, documents::documentCount>;
+
+/// The document's text among them. `Document::count` stands for none and has no text.
+inline QString& textIn(Texts& texts, documents::Document document) {
+  return texts.at(static_cast<std::size_t>(document));
+}
+inline const QString& textIn(const Texts& texts, documents::Document document) {
+  return texts.at(static_cast<std::size_t>(document));
+}
+
+/// Whether the model holds a text of its own for the document. Of the horoscope's two forms it
+/// holds the one that is shown, as the horoscope; the moment is the labels it holds.
+bool isHeld(documents::Document document);
+
 /// Every output of one moment and place.
 struct CalculationResult {
   CalculationInput input;
-  QString starMapSVG;
-  QString horoscopeSVG;
-  QString basicTableHourly;   ///< 24 rows, one an hour
-  QString basicTableMonthly;  ///< 30 rows, one a day
-  QString conjunctionDaily;   ///< 144 rows, one every ten minutes
-  QString conjunctionYearly;  ///< 360 rows, one a day
+  Texts texts;  ///< of the documents that are held
   std::array<reports::PositionRow, astro::bodyCount> positions;
-  QString dateLabel;
-  QString nextFullMoonLabel;
-  QString nextNewMoonLabel;
   double nextFullMoonBaseTime;  ///< days
   double nextNewMoonBaseTime;   ///< days
 };
