@@ -1,7 +1,10 @@
 #include "export/export_content.h"
 
+#include <QStringList>
+
+#include "export/chart_page.h"
 #include "export/file_names.h"
-#include "export/report_html.h"
+#include "export/report_page.h"
 
 namespace veyruna::exports {
 
@@ -9,86 +12,74 @@ namespace {
 
 using model::AstronomyModel;
 
-constexpr QSizeF starMapPoints(720, 720);
-constexpr QSizeF horoscopePoints(1440, 760);
-constexpr QSizeF letterPoints(612, 792);
+/// A kind of file.
+struct FileType {
+  QStringView extension;
+  QStringView message;
+};
+constexpr FileType pdfFile{u"pdf", u"Choose where to save the PDF file"};
+constexpr FileType svgFile{u"svg", u"Choose where to save the SVG file"};
+constexpr FileType textFile{u"txt", u"Choose where to save the text file"};
 
-/// What the tab's files are called; its title says something else for one of them.
-QString namePrefix(OutputTab tab) {
-  return tab == OutputTab::planets ? QStringLiteral("Planets") : title(tab);
+QString headingOf(documents::Document document) {
+  const std::string_view heading = documents::entryOf(document).heading;
+  return QString::fromUtf8(heading.data(), static_cast<qsizetype>(heading.size()));
 }
 
-QString chartSvg(const AstronomyModel& model, OutputTab tab) {
-  return tab == OutputTab::starMap ? model.starMapSVG() : model.horoscopeSVG();
+/// The chart of a tab that has one.
+QString chartSvg(const AstronomyModel& model, const TabEntry& tab) {
+  return model.text(tab.sections.front().document);
 }
 
-QString planetsReport(const AstronomyModel& model) {
-  return reportDocument(QStringLiteral("Planet Positions"), metaText(model),
-                        {{QStringLiteral("Positions"), positionsTableText(model.positions())}});
-}
-
-QString sunMoonReport(const AstronomyModel& model) {
-  return reportDocument(QStringLiteral("Sun & Moon"), metaText(model),
-                        {{QStringLiteral("Hourly"), model.basicTableHourly()},
-                         {QStringLiteral("Monthly"), model.basicTableMonthly()}});
-}
-
-/// The files are named after the tab, the report after what it holds.
-QString conjunctionReport(const AstronomyModel& model) {
-  return reportDocument(QStringLiteral("Conjunctions"), metaText(model),
-                        {{QStringLiteral("Daily"), model.conjunctionDaily()},
-                         {QStringLiteral("Yearly"), model.conjunctionYearly()}});
-}
-
-QString tablesText(const AstronomyModel& model, OutputTab tab) {
-  switch (tab) {
-    case OutputTab::sunMoon:
-      return joinedTables({QStringLiteral("Hourly"), model.basicTableHourly()},
-                          {QStringLiteral("Monthly"), model.basicTableMonthly()});
-    case OutputTab::positions:
-      return joinedTables({QStringLiteral("Daily Conjunctions"), model.conjunctionDaily()},
-                          {QStringLiteral("Yearly Conjunctions"), model.conjunctionYearly()});
-    default:
-      return positionsTableText(model.positions());
+QString reportHtml(const AstronomyModel& model, const TabEntry& tab) {
+  QList<ReportSection> sections;
+  for (const TabSection& section : tab.sections) {
+    sections.append({headingOf(section.document), model.text(section.document)});
   }
+  return reportDocument(tab.reportTitle.toString(), metaText(model), sections);
+}
+
+/// One table as it is; several under their headings between em dashes.
+QString tablesText(const AstronomyModel& model, const TabEntry& tab) {
+  if (tab.sections.size() == 1) {
+    return model.text(tab.sections.front().document);
+  }
+  QStringList tables;
+  for (const auto& [document, ownHeading] : tab.sections) {
+    const QString heading = ownHeading.isEmpty() ? headingOf(document) : ownHeading.toString();
+    tables.append(QStringLiteral("— ") + heading + QStringLiteral(" —\n\n") + model.text(document));
+  }
+  return tables.join(QStringLiteral("\n\n"));
 }
 
 }  // namespace
 
+QString metaText(const AstronomyModel& model) {
+  return model.dateLabel() + QStringLiteral("   ") + inputPlaceText(model, u"  ");
+}
+
 std::optional<PdfExport> pdfExport(const AstronomyModel& model, OutputTab tab) {
-  const auto exported = [&](const QString& html, QSizeF pageSizePoints) {
-    return PdfExport{html, pageSizePoints, proposedFileName(model, namePrefix(tab), u"pdf"),
-                     QStringLiteral("Choose where to save the PDF file")};
-  };
-  switch (tab) {
-    case OutputTab::starMap:
-      return exported(chartPage(chartSvg(model, tab)), starMapPoints);
-    case OutputTab::horoscope:
-      return exported(chartPage(chartSvg(model, tab)), horoscopePoints);
-    case OutputTab::planets:
-      return exported(planetsReport(model), letterPoints);
-    case OutputTab::sunMoon:
-      return exported(sunMoonReport(model), letterPoints);
-    case OutputTab::positions:
-      return exported(conjunctionReport(model), letterPoints);
-    case OutputTab::location:
-      return std::nullopt;
+  const TabEntry& entry = entryOf(tab);
+  if (entry.sections.empty()) {
+    return std::nullopt;
   }
-  return std::nullopt;
+  return PdfExport{isChart(tab) ? chartPage(chartSvg(model, entry)) : reportHtml(model, entry),
+                   entry.pageSizePoints,
+                   proposedFileName(model, entry.filePrefix, pdfFile.extension),
+                   pdfFile.message.toString()};
 }
 
 std::optional<NativeExport> nativeExport(const AstronomyModel& model, OutputTab tab) {
-  if (tab == OutputTab::location) {
+  const TabEntry& entry = entryOf(tab);
+  if (entry.sections.empty()) {
     return std::nullopt;
   }
-  if (isChart(tab)) {
-    return NativeExport{chartSvg(model, tab), NativeFormat::svg, QStringLiteral("svg"),
-                        proposedFileName(model, namePrefix(tab), u"svg"),
-                        QStringLiteral("Choose where to save the SVG file")};
-  }
-  return NativeExport{tablesText(model, tab), NativeFormat::text, QStringLiteral("txt"),
-                      proposedFileName(model, namePrefix(tab), u"txt"),
-                      QStringLiteral("Choose where to save the text file")};
+  const bool isSvg = isChart(tab);
+  const FileType& type = isSvg ? svgFile : textFile;
+  return NativeExport{isSvg ? chartSvg(model, entry) : tablesText(model, entry),
+                      isSvg ? NativeFormat::svg : NativeFormat::text, type.extension.toString(),
+                      proposedFileName(model, entry.filePrefix, type.extension),
+                      type.message.toString()};
 }
 
 }  // namespace veyruna::exports

@@ -31,6 +31,10 @@ struct NativeExport {
   QString message;  ///< what the save dialog asks
 };
 
+/// The small line of a report: the moment of the last calculation, three blanks, and the place of
+/// the inputs.
+QString metaText(const model::AstronomyModel& model);
+
 /// What the tab saves as PDF; nothing for the location. Before the first calculation the documents
 /// are empty.
 std::optional<PdfExport> pdfExport(const model::AstronomyModel& model, OutputTab tab);

@@ -84,7 +84,7 @@ QString fitted(const QString& text, qsizetype bytes) {
 
 }  // namespace
 
-QString placeText(const AstronomyModel& model, QStringView between) {
+QString inputPlaceText(const AstronomyModel& model, QStringView between) {
   if (model.selectedCityID() == model::manualCityID()) {
     return coordinateText(model.manualLatDeg(), model.latNorth() ? u'N' : u'S') +
            between.toString() +
@@ -102,7 +102,7 @@ QString proposedFileName(const AstronomyModel& model, QStringView prefix, QStrin
   const QString after =
       QStringLiteral(" - ") + momentText(model) + QChar(u'.') + extension.toString();
   const qsizetype bytesLeft = longestNameBytes - before.toUtf8().size() - after.toUtf8().size();
-  return before + fitted(withoutSeparators(placeText(model, u" ")), bytesLeft) + after;
+  return before + fitted(withoutSeparators(inputPlaceText(model, u" ")), bytesLeft) + after;
 }
 
 }  // namespace veyruna::exports

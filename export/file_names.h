@@ -13,7 +13,7 @@ inline constexpr qsizetype longestNameBytes = 255;
 /// The place of the model's inputs: the selected place's name as it was saved, or the manual fields
 /// as "45.00°N", `between`, "12.50°W". A selected place that is gone counts as the fixed entry
 /// "Manual", as it does where it is calculated.
-QString placeText(const model::AstronomyModel& model, QStringView between);
+QString inputPlaceText(const model::AstronomyModel& model, QStringView between);
 
 /// The name a file is first offered under: prefix, place, date and time of the model's inputs, as
 /// in "Sun & Moon - 45.00°N 12.50°W - 720-03-15 06-30.pdf". Minutes are cut, not rounded. In the

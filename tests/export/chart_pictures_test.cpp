@@ -4,7 +4,7 @@
 #include <cmath>
 #include <gtest/gtest.h>
 
-#include "export/report_html.h"
+#include "export/chart_page.h"
 #include "tests/export/pdf_reader.h"
 #include "tests/support/reference_case.h"
 #include "tests/support/source_path.h"

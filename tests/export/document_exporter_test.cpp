@@ -9,7 +9,8 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
-#include "export/report_html.h"
+#include "export/chart_page.h"
+#include "export/report_page.h"
 #include "tests/model/disk.h"
 #include "tests/model/observed.h"
 
@@ -21,6 +22,17 @@ using exports::DocumentExporter;
 using exports::OutputTab;
 using exports::RenderFailure;
 using tests::bytesIn;
+
+/// The positions list as reports write it.
+QString positionsTable(const QList<model::BodyPosition>& positions) {
+  std::vector<reports::PositionRow> rows;
+  for (const model::BodyPosition& body : positions) {
+    rows.push_back({body.name.toStdString(), body.bodyType.toStdString(),
+                    body.azimuth.toStdString(), body.altitude.toStdString(),
+                    body.ecLong.toStdString(), body.sign.toStdString()});
+  }
+  return QString::fromStdString(reports::positionsTableText(rows));
+}
 
 /// An exporter over the first reference whose renderer answers when it is told to.
 class Exporting : public testing::Test {
@@ -79,7 +91,7 @@ TEST_F(Exporting, PdfsOfTheTabs) {
       {OutputTab::horoscope, exports::chartPage(model.horoscopeSVG()), {1440, 760}, u"Horoscope"_s},
       {OutputTab::planets,
        exports::reportDocument(u"Planet Positions"_s, meta,
-                               {{u"Positions"_s, exports::positionsTableText(model.positions())}}),
+                               {{u"Positions"_s, positionsTable(model.positions())}}),
        {612, 792},
        u"Planets"_s},
       {OutputTab::sunMoon,
@@ -121,8 +133,8 @@ TEST_F(Exporting, TextsOfTheTabs) {
   const std::vector<Expected> all = {
       {OutputTab::starMap, model.starMapSVG(), u"Star Map"_s + at + u"svg"_s, svgMessage},
       {OutputTab::horoscope, model.horoscopeSVG(), u"Horoscope"_s + at + u"svg"_s, svgMessage},
-      {OutputTab::planets, exports::positionsTableText(model.positions()),
-       u"Planets"_s + at + u"txt"_s, textMessage},
+      {OutputTab::planets, positionsTable(model.positions()), u"Planets"_s + at + u"txt"_s,
+       textMessage},
       {OutputTab::sunMoon,
        u"— Hourly —\n\n"_s + model.basicTableHourly() + u"\n\n— Monthly —\n\n"_s +
            model.basicTableMonthly(),
@@ -176,6 +188,9 @@ TEST(ExportingEarly, GivesEmptyDocuments) {
   EXPECT_EQ(exports::nativeExport(world.model, OutputTab::horoscope)->text, QString());
   EXPECT_EQ(exports::nativeExport(world.model, OutputTab::sunMoon)->text,
             u"— Hourly —\n\n\n\n— Monthly —\n\n"_s);
+  EXPECT_EQ(exports::nativeExport(world.model, OutputTab::planets)->text,
+            u"Body           Azimuth    Altitude   Ec. Long.   Sign\n"
+            u"----           -------    --------   ---------   ----\n"_s);
 }
 
 TEST_F(Exporting, SavesWhatWasShownWhenItWasChosen) {

@@ -10,7 +10,7 @@ namespace veyruna {
 namespace {
 
 using namespace Qt::StringLiterals;
-using exports::placeText;
+using exports::inputPlaceText;
 using exports::proposedFileName;
 using tests::FakeModel;
 
@@ -60,16 +60,16 @@ TEST_F(FileNames, CutMinutes) {
 TEST_F(FileNames, TakeLettersFromTheFlagsAlone) {
   world.model.setManualLatDeg(0.0);
   world.model.setManualLongDeg(0.0);
-  EXPECT_EQ(placeText(world.model, u"  "), u"0.00°N  0.00°W"_s);
+  EXPECT_EQ(inputPlaceText(world.model, u"  "), u"0.00°N  0.00°W"_s);
   world.model.setLatNorth(false);
   world.model.setLongWest(false);
-  EXPECT_EQ(placeText(world.model, u"  "), u"0.00°S  0.00°E"_s);
+  EXPECT_EQ(inputPlaceText(world.model, u"  "), u"0.00°S  0.00°E"_s);
 }
 
 TEST_F(FileNames, RoundDegreesToTwoDecimals) {
   world.model.setManualLatDeg(40.123456);
   world.model.setManualLongDeg(179.996);
-  EXPECT_EQ(placeText(world.model, u" "), u"40.12°N 180.00°W"_s);
+  EXPECT_EQ(inputPlaceText(world.model, u" "), u"40.12°N 180.00°W"_s);
 }
 
 TEST_F(FileNames, HoldTheNameOfASavedPlace) {
@@ -85,7 +85,7 @@ TEST_F(FileNames, CallAPlaceThatIsGoneManual) {
 TEST_F(FileNames, HoldNoSeparatorsOrControlCharacters) {
   selectPlaceCalled(u"North/South\u0001\nEast\u007fWest\u0085\\:."_s);
   EXPECT_EQ(name(), u"Sun & Moon - North-South--East-West-\\:. - 720-03-15 06-30.pdf"_s);
-  EXPECT_EQ(placeText(world.model, u" "), u"North/South\u0001\nEast\u007fWest\u0085\\:."_s);
+  EXPECT_EQ(inputPlaceText(world.model, u" "), u"North/South\u0001\nEast\u007fWest\u0085\\:."_s);
 }
 
 TEST_F(FileNames, ShortenThePlaceToWhatAFileSystemTakes) {

@@ -5,8 +5,9 @@
 #include <QTimer>
 #include <gtest/gtest.h>
 
+#include "export/chart_page.h"
 #include "export/document_exporter.h"
-#include "export/report_html.h"
+#include "export/report_page.h"
 #include "tests/export/pdf_reader.h"
 #include "tests/model/observed.h"
 

@@ -9,9 +9,10 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
+#include "export/chart_page.h"
 #include "export/document_exporter.h"
 #include "export/pdf_exporter.h"
-#include "export/report_html.h"
+#include "export/report_page.h"
 #include "tests/export/pdf_reader.h"
 #include "tests/model/observed.h"
 

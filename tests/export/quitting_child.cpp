@@ -5,7 +5,7 @@
 #include <cstdio>
 
 #include "export/pdf_exporter.h"
-#include "export/report_html.h"
+#include "export/report_page.h"
 
 #include "files/file_writer.h"
 

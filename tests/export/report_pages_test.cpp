@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "export/export_content.h"
-#include "export/report_html.h"
+#include "export/report_page.h"
 #include "tests/export/pdf_reader.h"
 #include "tests/model/observed.h"
 
@@ -60,7 +60,7 @@ class ReportPages : public testing::TestWithParam<tests::ReferenceCase> {
 TEST_P(ReportPages, HoldThePositions) {
   const PdfReader pdf = report(OutputTab::planets);
   expectLines(pdf, {u"Planet Positions"_s, meta, u"Positions"_s,
-                    exports::positionsTableText(world.model.positions())});
+                    world.model.text(documents::Document::positions)});
   EXPECT_EQ(pdf.pages().size(), 1U);
 }
 

@@ -11,12 +11,6 @@ class QStackedWidget;
 
 namespace veyruna::ui {
 
-class HoroscopeView;
-class PlanetsView;
-class PositionsView;
-class StarMapView;
-class TablesView;
-
 /// The outputs of the last calculation, one tab at a time, under the moment and place they belong
 /// to.
 class DetailedView final : public QWidget {
@@ -28,18 +22,8 @@ class DetailedView final : public QWidget {
   void setTab(exports::OutputTab tab);
 
  private:
-  void addTabs();
-  void followModel();
-  void showCaption();
-
-  model::AstronomyModel& model_;
   QLabel* caption_;
   QStackedWidget* tabs_;
-  StarMapView* starMap_;
-  HoroscopeView* horoscope_;
-  PlanetsView* planets_;
-  TablesView* sunMoon_;
-  PositionsView* positions_;
 };
 
 }  // namespace veyruna::ui

@@ -5,7 +5,7 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
-#include "export/report_html.h"
+#include "export/chart_page.h"
 #include "ui/controls/named.h"
 #include "ui/controls/shades.h"
 

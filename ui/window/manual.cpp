@@ -3,6 +3,8 @@
 #include <QCoreApplication>
 #include <QFileInfo>
 
+#include "ui/outputs/tab_views.h"
+
 namespace veyruna::ui {
 
 namespace {
@@ -19,24 +21,6 @@ QUrl page(const char* name) {
   return {};
 }
 
-/// Whole pages: not every desktop opens a file at an anchor.
-const char* chapterOf(exports::OutputTab tab) {
-  using exports::OutputTab;
-  switch (tab) {
-    case OutputTab::starMap:
-      return "star-map.html";
-    case OutputTab::horoscope:
-      return "horoscope.html";
-    case OutputTab::planets:
-    case OutputTab::sunMoon:
-    case OutputTab::positions:
-      return "tables.html";
-    case OutputTab::location:
-      return "map.html";
-  }
-  return "index.html";
-}
-
 }  // namespace
 
 QUrl manual() {
@@ -44,7 +28,7 @@ QUrl manual() {
 }
 
 QUrl manualChapter(exports::OutputTab tab) {
-  return page(chapterOf(tab));
+  return page(viewOf(tab).manualPage);
 }
 
 }  // namespace veyruna::ui

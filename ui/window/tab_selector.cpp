@@ -2,11 +2,11 @@
 
 #include <QActionGroup>
 #include <QHBoxLayout>
-#include <array>
 
 #include "ui/controls/highlighted_buttons.h"
 #include "ui/controls/icons.h"
 #include "ui/controls/named.h"
+#include "ui/outputs/tab_views.h"
 
 namespace veyruna::ui {
 
@@ -24,14 +24,12 @@ TabSelector::TabSelector(QWidget* parent)
   auto* const row = new QHBoxLayout(buttons);
   row->setContentsMargins({});
   row->addStretch();
-  constexpr std::array<const char*, exports::outputTabs.size()> icons = {
-      "star_map", "horoscope", "planets", "sun_moon", "positions", "location"};
   int number = 1;
-  for (const exports::OutputTab tab : exports::outputTabs) {
+  for (const auto& [tab, iconName, manualPage, make] : tabViews) {
     const QString title = exports::title(tab);
     auto* const action = new QAction(QString(title).replace(QLatin1Char('&'), QLatin1String("&&")));
     action->setParent(this);
-    action->setIcon(icon("", icons.at(static_cast<std::size_t>(number - 1))));
+    action->setIcon(icon("", iconName));
     action->setCheckable(true);
     action->setShortcut(QKeySequence(QStringLiteral("Ctrl+%1").arg(number)));
     action->setToolTip(
@@ -43,7 +41,8 @@ TabSelector::TabSelector(QWidget* parent)
     button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     button->setFocusPolicy(Qt::StrongFocus);
     row->addWidget(button);
-    connect(action, &QAction::triggered, this, [this, tab] { Q_EMIT chosen(tab); });
+    connect(action, &QAction::triggered, this,
+            [this, chosenTab = tab] { Q_EMIT chosen(chosenTab); });
     ++number;
   }
   row->addStretch();

@@ -1,8 +1,9 @@
-// The documents PDFs are rendered from, to the character, and the texts of the tables.
-#include "export/report_html.h"
-
+// The pages PDFs are rendered from, to the character.
 #include <gtest/gtest.h>
 
+#include "export/chart_page.h"
+#include "export/export_content.h"
+#include "export/report_page.h"
 #include "tests/model/observed.h"
 
 namespace veyruna {
@@ -83,39 +84,6 @@ TEST(Meta, HoldsTheNameOfASavedPlaceWhole) {
   tests::FakeModel world;
   world.model.setSelectedCityID(std::get<QUuid>(world.model.addCity(u"A/B & <C>"_s)));
   EXPECT_EQ(metaText(world.model), u"   A/B & <C>"_s);
-}
-
-TEST(PositionsTable, HasItsHeaderAlone) {
-  EXPECT_EQ(exports::positionsTableText({}),
-            u"Body           Azimuth    Altitude   Ec. Long.   Sign\n"
-            u"----           -------    --------   ---------   ----\n"_s);
-}
-
-TEST(PositionsTable, FitsNamesIntoThirteenCharacters) {
-  const auto row = [](const QString& name) {
-    const model::BodyPosition body = {{},          name,        u"Moon"_s,  model::BodyColor::gray,
-                                      u"001:02"_s, u"-03:04"_s, u"005:6"_s, u"Voni"_s};
-    return exports::positionsTableText({body}).section(u'\n', 2);
-  };
-  EXPECT_EQ(row(u"Ivro"_s), u"Ivro          001:02    -03:04    005:6      Voni\n"_s);
-  EXPECT_EQ(row(u"Thirteen char"_s), u"Thirteen char 001:02    -03:04    005:6      Voni\n"_s);
-  EXPECT_EQ(row(u"Thirteen chars"_s), u"Thirteen char 001:02    -03:04    005:6      Voni\n"_s);
-  EXPECT_EQ(row(u"Ëärëndil-Ëärë!"_s), u"Ëärëndil-Ëärë 001:02    -03:04    005:6      Voni\n"_s);
-}
-
-TEST(PositionsTable, HasSixRowsAfterACalculation) {
-  tests::FakeModel world;
-  world.calculate();
-  const QStringList lines = exports::positionsTableText(world.model.positions()).split(u'\n');
-  ASSERT_EQ(lines.size(), 9);
-  EXPECT_EQ(lines.at(2), u"Thessil        330:20     044:60     358:43      Voni       "_s);
-  EXPECT_TRUE(lines.at(7).startsWith(u"Pallox "_s));
-  EXPECT_EQ(lines.at(8), QString());
-}
-
-TEST(JoinedTables, StandUnderTheirHeadings) {
-  EXPECT_EQ(exports::joinedTables({u"Hourly"_s, u"a\n"_s}, {u"Monthly"_s, u"b\n"_s}),
-            u"\u2014 Hourly \u2014\n\na\n\n\n\u2014 Monthly \u2014\n\nb\n"_s);
 }
 
 }  // namespace

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QWidget>
+#include <array>
+
+#include "export/output_tab.h"
+#include "model/astronomy_model.h"
+#include "ui/outputs/page_engine.h"
+
+namespace veyruna::ui {
+
+/// How a tab looks and where it is explained. Its view follows the model, which outlives it, and
+/// has an object name of its own.
+struct TabView {
+  exports::OutputTab tab = exports::OutputTab::count;
+  const char* icon = nullptr;        ///< of the program's own set
+  const char* manualPage = nullptr;  ///< a whole page: not every desktop opens a file at an anchor
+  QWidget* (*make)(model::AstronomyModel& model, const PageEngine& engine) = nullptr;
+};
+
+/// One for every tab, in their order.
+extern const std::array<TabView, exports::outputTabCount> tabViews;
+
+const TabView& viewOf(exports::OutputTab tab);
+
+}  // namespace veyruna::ui
