@@ -18,10 +18,9 @@
 #include "cli/places.h"
 #include "cli/progress.h"
 #include "cli/quoting.h"
+#include "documents/documents.h"
 #include "reports/conjunctions.h"
 #include "reports/ephemeris.h"
-
-#include "documents/documents.h"
 
 namespace veyruna::cli {
 

@@ -6,7 +6,6 @@
 #include "cli/errors.h"
 #include "cli/option_values.h"
 #include "cli/quoting.h"
-
 #include "documents/documents.h"
 
 namespace veyruna::cli {

@@ -3,9 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
-#include "model/locations_text.h"
-
 #include "fuzz/target.h"
+#include "model/locations_text.h"
 
 using namespace veyruna;
 using fuzz::promise;

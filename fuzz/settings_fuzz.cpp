@@ -6,11 +6,10 @@
 #include <QTemporaryDir>
 #include <cmath>
 
+#include "fuzz/target.h"
 #include "model/astronomy_model.h"
 #include "model/qt_settings_store.h"
 #include "model/stored_value.h"
-
-#include "fuzz/target.h"
 
 using namespace veyruna;
 using fuzz::promise;

@@ -4,9 +4,8 @@
 #include <array>
 
 #include "astro/observer.h"
-#include "reports/positions.h"
-
 #include "documents/documents.h"
+#include "reports/positions.h"
 
 namespace veyruna::model {
 

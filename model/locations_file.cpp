@@ -6,10 +6,9 @@
 #include <QLockFile>
 #include <QStandardPaths>
 
+#include "files/file_writer.h"
 #include "model/keep_aside.h"
 #include "model/locations_text.h"
-
-#include "files/file_writer.h"
 
 namespace veyruna::model {
 

@@ -6,7 +6,6 @@
 
 #include "export/pdf_exporter.h"
 #include "export/report_page.h"
-
 #include "files/file_writer.h"
 
 using namespace Qt::StringLiterals;

@@ -2,10 +2,9 @@
 #include <cerrno>
 #include <cstdlib>
 
+#include "files/file_writer.h"
 #include "tests/files/faulty_system.h"
 #include "tests/files/files_fixture.h"
-
-#include "files/file_writer.h"
 
 namespace veyruna {
 namespace {

@@ -2,9 +2,8 @@
 #include <cerrno>
 #include <sys/stat.h>
 
-#include "tests/files/files_fixture.h"
-
 #include "files/file_writer.h"
+#include "tests/files/files_fixture.h"
 
 namespace veyruna {
 namespace {
