@@ -1,6 +1,7 @@
 // H hour angle, α right ascension, δ declination.
 #include "astro/horizon.h"
 
+#include "astro/rotation.h"
 #include "astro/sun.h"
 
 namespace veyruna::astro {

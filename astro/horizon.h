@@ -1,7 +1,7 @@
 #pragma once
 
 #include "astro/observer.h"
-#include "astro/vec3d.h"
+#include "astro/rotation.h"
 
 namespace veyruna::astro {
 

@@ -3,6 +3,8 @@
 
 #include <cmath>
 
+#include "astro/rotation.h"
+
 namespace veyruna::astro {
 
 namespace {

@@ -1,5 +1,7 @@
 #include "astro/sun.h"
 
+#include "astro/rotation.h"
+
 namespace veyruna::astro {
 
 double sunLongitude(double t) {

@@ -9,6 +9,7 @@
 #include "astro/horizon.h"
 #include "astro/moon.h"
 #include "astro/number_text.h"
+#include "astro/rotation.h"
 #include "astro/sun.h"
 #include "charts/body_marker.h"
 #include "charts/body_style.h"

@@ -1,6 +1,10 @@
 #include "charts/star_catalogue.h"
 
 #include <algorithm>
+#include <map>
+#include <string_view>
+
+#include "astro/rotation.h"
 
 namespace veyruna::charts {
 

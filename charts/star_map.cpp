@@ -10,6 +10,7 @@
 #include "astro/horizon.h"
 #include "astro/moon.h"
 #include "astro/planet.h"
+#include "astro/rotation.h"
 #include "astro/sun.h"
 #include "charts/body_marker.h"
 #include "charts/body_style.h"

@@ -8,6 +8,7 @@
 #include "astro/calendar.h"
 #include "astro/moon.h"
 #include "astro/planet_pair.h"
+#include "astro/rotation.h"
 #include "astro/sun.h"
 #include "reports/table_rows.h"
 

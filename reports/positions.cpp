@@ -7,6 +7,7 @@
 #include "astro/horizon.h"
 #include "astro/moon.h"
 #include "astro/planet.h"
+#include "astro/rotation.h"
 #include "astro/sun.h"
 #include "reports/zodiac.h"
 

@@ -8,6 +8,7 @@
 #include "astro/horizon.h"
 #include "astro/moon.h"
 #include "astro/number_text.h"
+#include "astro/rotation.h"
 #include "astro/sun.h"
 
 namespace veyruna::reports {

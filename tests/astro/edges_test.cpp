@@ -16,6 +16,7 @@
 #include "astro/moon.h"
 #include "astro/number_text.h"
 #include "astro/planet.h"
+#include "astro/rotation.h"
 #include "astro/sun.h"
 
 namespace veyruna {

@@ -8,6 +8,7 @@
 #include "astro/calendar.h"
 #include "astro/clock.h"
 #include "astro/horizon.h"
+#include "astro/rotation.h"
 #include "astro/sun.h"
 #include "tests/support/random_sky.h"
 

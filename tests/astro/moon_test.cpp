@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
 
+#include "astro/rotation.h"
 #include "astro/sun.h"
 #include "tests/support/random_sky.h"
 

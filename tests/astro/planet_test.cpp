@@ -7,6 +7,7 @@
 #include <set>
 
 #include "astro/planet_pair.h"
+#include "astro/rotation.h"
 #include "tests/support/random_sky.h"
 
 namespace veyruna {

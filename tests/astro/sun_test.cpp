@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
 
+#include "astro/rotation.h"
 #include "tests/support/random_sky.h"
 
 namespace veyruna {

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 #include <limits>
 
+#include "astro/rotation.h"
 #include "charts/horoscope.h"
 #include "charts/interpretation.h"
 #include "charts/star_map.h"

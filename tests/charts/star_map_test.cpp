@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include "astro/rotation.h"
 #include "tests/charts/sphere.h"
 #include "tests/charts/xml_check.h"
 

@@ -10,6 +10,7 @@
 #include "astro/calendar.h"
 #include "astro/moon.h"
 #include "astro/planet.h"
+#include "astro/rotation.h"
 #include "astro/sun.h"
 #include "tests/reports/table_lines.h"
 #include "tests/support/random_sky.h"
