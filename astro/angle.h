@@ -11,6 +11,22 @@ inline constexpr double twoPi = 2.0 * pi;
 inline constexpr double halfPi = 1.5707963267948966;
 inline constexpr double degreesPerRadian = 57.29577951308232;
 
+/// A person's degrees in radians.
+inline constexpr double radiansOf(double degrees) {
+  return degrees * pi / 180.0;
+}
+
+/// Radians in degrees, as the documents have them.
+inline constexpr double degreesOf(double radians) {
+  return radians * degreesPerRadian;
+}
+
+/// Radians in degrees, as a person types them: by radiansOf's own steps backwards. The last bit may
+/// be another than degreesOf's, and decides where typed degrees end on half a printed unit.
+inline constexpr double typedDegreesOf(double radians) {
+  return radians * 180.0 / pi;
+}
+
 /// The largest distance from the epoch, in days, for which the calculations of this room hold.
 inline constexpr double baseTimeLimitDays = 1'000'000'000.0;
 

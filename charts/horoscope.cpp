@@ -230,9 +230,9 @@ class Horoscope {
   void drawHourAngle() {
     const double hourAngle = astro::wrappedToHalfOpenHalfTurns(siderealAngle_ - sun_.eq.phi);
     std::string text = "Sun HA: ";
-    astro::appendSignedFixed(text, hourAngle * astro::degreesPerRadian, 1);
+    astro::appendSignedFixed(text, astro::degreesOf(hourAngle), 1);
     text += "°   MC: ";
-    astro::appendFixed(text, midheavenOf(siderealAngle_) * astro::degreesPerRadian, 1);
+    astro::appendFixed(text, astro::degreesOf(midheavenOf(siderealAngle_)), 1);
     text += "°";
     beginText(svg_, 0, 28, "6").endWithText(text);
   }

@@ -40,7 +40,7 @@ std::string litOutline(const MoonGlyph& moon) {
 std::string rotationTowardSun(const MoonGlyph& moon) {
   const double angle = std::atan2(moon.sun.y - moon.at.y, moon.sun.x - moon.at.x);
   std::string transform = "rotate(";
-  astro::appendFixed(transform, angle * astro::degreesPerRadian, 2);
+  astro::appendFixed(transform, astro::degreesOf(angle), 2);
   transform += ", ";
   astro::appendFixed(transform, moon.at.x, 2);
   transform += ", ";

@@ -81,7 +81,7 @@ double readAngle(std::string_view what, std::string_view text, double most, Hemi
   if (!degrees || std::abs(*degrees) > most || (hasLetter && std::signbit(*degrees))) {
     refuse(what, text, accepted);
   }
-  const double radians = *degrees * astro::pi / 180.0;
+  const double radians = astro::radiansOf(*degrees);
   return hasLetter && letter == letters.negative ? -radians : radians;
 }
 

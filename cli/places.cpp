@@ -55,7 +55,7 @@ QList<CityPreset> knownPlaces() {
 /// "40.50°N", which --lat reads again.
 std::string coordinate(double radians, char positive, char negative) {
   std::string text;
-  astro::appendFixed(text, std::abs(radians) * 180.0 / astro::pi, 2);
+  astro::appendFixed(text, astro::typedDegreesOf(std::abs(radians)), 2);
   return text + "°" + (radians >= 0.0 ? positive : negative);
 }
 

@@ -33,10 +33,6 @@ constexpr std::array<Place, 13> firstPlaces = {{
     {"Kessa", 21.0, 5.1},
 }};
 
-double radians(double degrees) {
-  return degrees * astro::pi / 180.0;
-}
-
 /// What names are ordered by: code points, not the 16-bit units a QString compares.
 QList<uint> sortingForm(const QString& name) {
   return QLocale().toLower(name).normalized(QString::NormalizationForm_C).toUcs4();
@@ -59,8 +55,8 @@ const CityPreset& manualCity() {
 QList<CityPreset> initialCities(const IdSource& newId) {
   QList<CityPreset> cities;
   for (const Place& place : firstPlaces) {
-    cities.append({newId(), QString::fromLatin1(place.name), radians(place.latitude),
-                   radians(place.longitude)});
+    cities.append({newId(), QString::fromLatin1(place.name), astro::radiansOf(place.latitude),
+                   astro::radiansOf(place.longitude)});
   }
   return cities;
 }

@@ -83,12 +83,12 @@ void storeGroup(SettingsStore& store, const Settings& settings) {
 }  // namespace
 
 double manualLatitude(const LocationSettings& location) {
-  const double magnitude = location.manualLatDeg * astro::pi / 180.0;
+  const double magnitude = astro::radiansOf(location.manualLatDeg);
   return location.latNorth ? magnitude : -magnitude;
 }
 
 double manualLongitude(const LocationSettings& location) {
-  const double magnitude = location.manualLongDeg * astro::pi / 180.0;
+  const double magnitude = astro::radiansOf(location.manualLongDeg);
   return location.longWest ? -magnitude : magnitude;
 }
 

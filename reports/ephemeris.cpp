@@ -22,7 +22,7 @@ constexpr int intervalsPerDay = 4;
 
 /// " 012.50", "-005.25": seven characters, the sign in a column of its own.
 void appendAngleField(std::string& out, double radians) {
-  const double degrees = radians * astro::degreesPerRadian;
+  const double degrees = astro::degreesOf(radians);
   if (degrees >= 0.0) {
     out += ' ';
     astro::appendPaddedFixed(out, degrees, 6, 2);
@@ -34,7 +34,7 @@ void appendAngleField(std::string& out, double radians) {
 
 /// 0 where the longitudes coincide, 1 where they are opposite.
 double phaseOf(double moonLongitude, double sunLongitude) {
-  const double apart = std::abs(moonLongitude - sunLongitude) * astro::degreesPerRadian;
+  const double apart = astro::degreesOf(std::abs(moonLongitude - sunLongitude));
   return (apart > 180.0 ? 360.0 - apart : apart) / 180.0;
 }
 

@@ -19,6 +19,18 @@ TEST(Angle, ConstantsFitTogether) {
   EXPECT_EQ(astro::degreesPerRadian, 180.0 / pi);
 }
 
+TEST(Angle, TypedDegreesComeBackFromRadiansAsTheyWere) {
+  EXPECT_EQ(astro::radiansOf(180.0), pi);
+  EXPECT_EQ(astro::radiansOf(-90.0), -astro::halfPi);
+  EXPECT_EQ(astro::degreesOf(pi), 180.0);
+  for (int thousandths = -180'000; thousandths <= 180'000; ++thousandths) {
+    const double degrees = thousandths / 1000.0;
+    const double radians = astro::radiansOf(degrees);
+    ASSERT_EQ(std::round(astro::typedDegreesOf(radians) * 1000.0), thousandths);
+    ASSERT_NEAR(astro::degreesOf(radians), degrees, 1e-13);
+  }
+}
+
 TEST(Angle, FractionsOfTurnsCountFromBelow) {
   EXPECT_EQ(astro::fractionOfTurn(2.25), 0.25);
   EXPECT_EQ(astro::fractionOfTurn(-2.25), 0.75);

@@ -12,14 +12,6 @@
 
 namespace veyruna::tests {
 
-namespace {
-
-double radians(double degrees) {
-  return degrees * astro::pi / 180.0;
-}
-
-}  // namespace
-
 std::string fileContent(const std::string& path) {
   std::ifstream file(path, std::ios::binary);
   if (!file) {
@@ -49,10 +41,10 @@ std::string ReferenceCase::expected(const std::string& file) const {
 
 const std::vector<ReferenceCase>& referenceCases() {
   static const std::vector<ReferenceCase> cases = {
-      {"first-start", 720, 0, 0, 12.0, false, radians(40.5), -radians(20.9)},
-      {"evening-local", 1243, 6, 18, 18.25, true, radians(11.5), radians(25.3)},
-      {"polar-night", 3, 11, 29, 23.75, false, radians(78.5), -radians(120.25)},
-      {"south", 2000, 4, 5, 0.25, true, -radians(33.125), radians(179.5)},
+      {"first-start", 720, 0, 0, 12.0, false, astro::radiansOf(40.5), -astro::radiansOf(20.9)},
+      {"evening-local", 1243, 6, 18, 18.25, true, astro::radiansOf(11.5), astro::radiansOf(25.3)},
+      {"polar-night", 3, 11, 29, 23.75, false, astro::radiansOf(78.5), -astro::radiansOf(120.25)},
+      {"south", 2000, 4, 5, 0.25, true, -astro::radiansOf(33.125), astro::radiansOf(179.5)},
   };
   return cases;
 }

@@ -11,7 +11,7 @@ namespace veyruna::ui {
 namespace {
 
 QString degreesText(double radians, int decimals, const char* positive, const char* negative) {
-  const double degrees = std::abs(radians) * 180.0 / astro::pi;
+  const double degrees = astro::typedDegreesOf(std::abs(radians));
   if (!std::isfinite(degrees)) {
     return QStringLiteral("–");
   }

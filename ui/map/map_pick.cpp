@@ -2,13 +2,11 @@
 
 #include <cmath>
 
+#include "astro/angle.h"
+
 namespace veyruna::ui {
 
 namespace {
-
-double degreesOf(double radians) {
-  return radians * 180.0 / astro::pi;
-}
 
 double roundedToThousandths(double degrees) {
   return std::round(std::abs(degrees) * 1000.0) / 1000.0;
@@ -17,8 +15,8 @@ double roundedToThousandths(double degrees) {
 }  // namespace
 
 void pick(const MapPlace& place, model::AstronomyModel& model) {
-  const double latitude = degreesOf(place.latitude);
-  const double longitude = degreesOf(place.longitude);
+  const double latitude = astro::typedDegreesOf(place.latitude);
+  const double longitude = astro::typedDegreesOf(place.longitude);
   model.setManualLatDeg(roundedToThousandths(latitude));
   model.setManualLongDeg(roundedToThousandths(longitude));
   model.setLatNorth(latitude >= 0.0);
