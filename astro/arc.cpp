@@ -27,8 +27,8 @@ double restInSixtieths(double amount, std::int64_t whole) {
 
 }  // namespace
 
-Arc::Arc(double radians) : negative(radians < 0.0), raw(radians) {
-  const double degrees = std::abs(radians) * degreesPerRadian;
+Arc::Arc(double radians) : negative(radians < 0.0) {
+  const double degrees = degreesOf(std::abs(radians));
   d = wholePart(degrees);
   const double minutes = restInSixtieths(degrees, d);
   m = wholePart(minutes);

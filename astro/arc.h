@@ -12,7 +12,6 @@ struct Arc {
   std::int64_t m = 0;     ///< whole minutes, 0 to 59
   double s = 0.0;         ///< seconds, 0 ≤ s < 60
   bool negative = false;  ///< the angle given was below zero
-  double raw = 0.0;       ///< the angle given, radians
 
   Arc() = default;
 

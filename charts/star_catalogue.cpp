@@ -42,21 +42,17 @@ FixedStar makeStar(std::string name, bool isEquatorial, std::string color, doubl
 
 StarCatalogue::StarCatalogue(std::vector<FixedStar> stars, const std::vector<LineNames>& lineNames)
     : stars_(std::move(stars)) {
+  std::map<std::string_view, std::size_t> indexByName;
   for (std::size_t i = 0; i < stars_.size(); ++i) {
-    indexByName_.try_emplace(stars_[i].name, i);
+    indexByName.try_emplace(stars_[i].name, i);
   }
   for (const auto& [fromName, toName] : lineNames) {
-    const auto from = indexByName_.find(fromName);
-    const auto to = indexByName_.find(toName);
-    if (from != indexByName_.end() && to != indexByName_.end()) {
+    const auto from = indexByName.find(fromName);
+    const auto to = indexByName.find(toName);
+    if (from != indexByName.end() && to != indexByName.end()) {
       lines_.push_back({from->second, to->second});
     }
   }
-}
-
-const FixedStar* StarCatalogue::find(std::string_view name) const {
-  const auto found = indexByName_.find(name);
-  return found == indexByName_.end() ? nullptr : &stars_[found->second];
 }
 
 }  // namespace veyruna::charts

@@ -1,8 +1,6 @@
 #pragma once
 
 #include <cstddef>
-#include <functional>
-#include <map>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -40,7 +38,7 @@ FixedStar makeStar(std::string name, bool isEquatorial, std::string color, doubl
 /// The names of the two stars a constellation's line joins.
 using LineNames = std::pair<std::string, std::string>;
 
-/// The fixed sky: entries in drawing order, found by name, and the lines between them.
+/// The fixed sky: entries in drawing order, and the lines between them.
 class StarCatalogue {
  public:
   /// The positions, in stars(), of the two ends of a line.
@@ -49,19 +47,15 @@ class StarCatalogue {
     std::size_t to;
   };
 
-  /// Of two entries with one name the first is found. A line with a name that no entry has is left
-  /// out.
+  /// Of two entries with one name the lines meet the first. A line with a name that no entry has is
+  /// left out.
   StarCatalogue(std::vector<FixedStar> stars, const std::vector<LineNames>& lineNames);
 
   [[nodiscard]] const std::vector<FixedStar>& stars() const { return stars_; }
   [[nodiscard]] const std::vector<Line>& lines() const { return lines_; }
 
-  /// The entry of that name, or nullptr.
-  [[nodiscard]] const FixedStar* find(std::string_view name) const;
-
  private:
   std::vector<FixedStar> stars_;
-  std::map<std::string, std::size_t, std::less<>> indexByName_;
   std::vector<Line> lines_;
 };
 

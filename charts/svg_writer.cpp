@@ -34,12 +34,6 @@ void appendEscaped(std::string& out, std::string_view text) {
 
 }  // namespace
 
-std::string escapedXml(std::string_view text) {
-  std::string escaped;
-  appendEscaped(escaped, text);
-  return escaped;
-}
-
 SvgWriter& SvgWriter::element(std::string_view name) {
   name_ = name;
   document_ += '<';

@@ -12,14 +12,11 @@ struct Fixed {
   int decimals;
 };
 
-/// `text` with the characters escaped that mean something in XML: & < > ".
-std::string escapedXml(std::string_view text);
-
 /// Writes SVG elements at the end of a document, one chain of calls an element:
 ///
 ///     svg.element("circle").attribute("cx", 180).attribute("r", Fixed{1.5, 2}).endEmpty();
 ///
-/// Attribute values and text content are escaped here and nowhere else.
+/// In attribute values and text content & < > " are escaped, here and nowhere else.
 class SvgWriter {
  public:
   explicit SvgWriter(std::string& document) : document_(document) {}

@@ -23,16 +23,14 @@ TEST(Arc, IsAllZeroBeforeAnAngleIsSplit) {
   EXPECT_EQ(arc.m, 0);
   EXPECT_EQ(arc.s, 0.0);
   EXPECT_FALSE(arc.negative);
-  EXPECT_EQ(arc.raw, 0.0);
 }
 
-TEST(Arc, HoldsTheMagnitudeUnsignedAndTheAngleAsGiven) {
+TEST(Arc, HoldsTheMagnitudeUnsignedAndTheSignBeside) {
   const Arc arc(-inRadians(12.5));
   EXPECT_TRUE(arc.negative);
   EXPECT_EQ(arc.d, 12);
   EXPECT_EQ(arc.m, 30);
   EXPECT_NEAR(arc.s, 0.0, 1e-6);
-  EXPECT_EQ(arc.raw, -inRadians(12.5));
 }
 
 TEST(Arc, NegativeZeroIsNotNegative) {

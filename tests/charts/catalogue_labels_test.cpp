@@ -99,7 +99,8 @@ TEST_P(NamesOnTheWheel, EveryNameIsDrawnOnce) {
 
 TEST_P(NamesOnTheWheel, RimNamesBeginAtTheirLongitude) {
   for (const RimName& label : rim) {
-    const double longitude = builtInCatalogue().find(label.name)->ec.phi;
+    const double longitude =
+        std::ranges::find(builtInCatalogue().stars(), label.name, &FixedStar::name)->ec.phi;
     // Offsets are written to a tenth of a per cent of the turn.
     EXPECT_LE(tests::degrees(std::abs(tests::nearZero(label.begin / label.radius - longitude))),
               0.18 + 1e-9)

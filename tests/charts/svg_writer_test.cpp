@@ -5,15 +5,27 @@
 namespace veyruna::charts {
 namespace {
 
+/// What becomes of a text in an element and in an attribute alike.
+std::string escaped(const std::string& text) {
+  std::string document;
+  SvgWriter svg(document);
+  svg.element("g").attribute("id", text).endInside(text);
+  const std::string::size_type length =
+      (document.size() - std::string("<g id=\"\"></g>").size()) / 2;
+  const std::string inAttribute = document.substr(std::string("<g id=\"").size(), length);
+  EXPECT_EQ(document, "<g id=\"" + inAttribute + "\">" + inAttribute + "</g>");
+  return inAttribute;
+}
+
 TEST(EscapedXml, OnlyWhatMeansSomethingInXmlChanges) {
-  EXPECT_EQ(escapedXml("Thunder & <Rain> \"now\""), "Thunder &amp; &lt;Rain&gt; &quot;now&quot;");
-  EXPECT_EQ(escapedXml("Ostrel's key, 21°"), "Ostrel's key, 21°");
-  EXPECT_EQ(escapedXml(""), "");
+  EXPECT_EQ(escaped("Thunder & <Rain> \"now\""), "Thunder &amp; &lt;Rain&gt; &quot;now&quot;");
+  EXPECT_EQ(escaped("Ostrel's key, 21°"), "Ostrel's key, 21°");
+  EXPECT_EQ(escaped(""), "");
 }
 
 TEST(EscapedXml, AnEscapeIsNotEscapedTwiceInOnePass) {
-  EXPECT_EQ(escapedXml("&&"), "&amp;&amp;");
-  EXPECT_EQ(escapedXml("&amp;"), "&amp;amp;");
+  EXPECT_EQ(escaped("&&"), "&amp;&amp;");
+  EXPECT_EQ(escaped("&amp;"), "&amp;amp;");
 }
 
 TEST(SvgWriter, AnEmptyElementEndsItsLine) {
