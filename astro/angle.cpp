@@ -10,7 +10,7 @@ namespace {
 constexpr double manyTurns = 1000.0 * twoPi;
 
 double withoutManyTurns(double angle) {
-  requireInvariant(std::isfinite(angle), "an angle is finite");
+  requireInvariant(std::isfinite(angle), "an angle is finite", angle);
   return std::abs(angle) > manyTurns ? std::fmod(angle, twoPi) : angle;
 }
 

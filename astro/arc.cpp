@@ -16,7 +16,8 @@ constexpr double wholeTolerance = 1e-7;
 /// The floor of an amount that is never negative, so that the conversion's truncation is the floor.
 std::int64_t wholePart(double amount) {
   constexpr double beyondInt64 = 9.2e18;
-  requireInvariant(amount < beyondInt64, "the degrees of an angle are a finite 64-bit number");
+  requireInvariant(amount < beyondInt64, "the degrees of an angle are a finite 64-bit number",
+                   amount);
   return static_cast<std::int64_t>(amount + wholeTolerance);
 }
 

@@ -71,7 +71,7 @@ std::optional<CalendarReading> calendarReading(double baseTime) {
 
 void appendCalendarLabel(std::string& out, double baseTime) {
   const std::optional<CalendarFields> fields = fieldsAt(baseTime);
-  requireInvariant(fields.has_value(), "a base time is a 64-bit number of seconds");
+  requireInvariant(fields.has_value(), "a base time is a 64-bit number of seconds", baseTime);
   appendPaddedInteger(out, fields->year, 3);
   out += '-';
   appendPaddedInteger(out, fields->monthIndex + 1, 2);

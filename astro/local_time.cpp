@@ -23,7 +23,8 @@ constexpr double minutesPerDay = 1440.0;
 /// Whole minutes after local midnight, 0 to 1439.
 std::int64_t localMinutes(const Observer& observer) {
   const double reading = std::round((sunHourAngle(observer) * 12.0 / pi + 12.0) * 60.0);
-  requireInvariant(std::isfinite(reading), "a local clock reading is finite");
+  requireInvariant(std::isfinite(reading), "a local clock reading is finite", observer.baseTime,
+                   observer.longitude);
   auto minutes = static_cast<std::int64_t>(std::fmod(reading, minutesPerDay));
   if (minutes < 0) {
     minutes += static_cast<std::int64_t>(minutesPerDay);

@@ -9,6 +9,7 @@
 #include "astro/arc.h"
 #include "astro/bisection.h"
 #include "astro/calendar.h"
+#include "astro/invariant.h"
 #include "astro/lunar_phases.h"
 #include "astro/moon.h"
 #include "astro/sun.h"
@@ -75,6 +76,7 @@ std::string lunarEventText(double t) {
 }
 
 std::string nodeEclipseEvent(double start, double step) {
+  requireInvariant(std::isfinite(step), "an interval ends at some time", step);
   if (!alignmentIsPossible(start, step)) {
     return {};
   }

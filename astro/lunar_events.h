@@ -6,11 +6,12 @@ namespace veyruna::astro {
 
 /// The near-alignment of sun, world and moon at base time `t` (days), or the empty text:
 /// code ("  TS ", "  PS ", " FUL ", " FPL ", " PPL "), calendar label, blank, elongation with
-/// seconds (signed), blank.
+/// seconds (signed), blank. A moment that is not finite is a broken invariant, here and below.
 std::string lunarEventText(double t);
 
 /// lunarEventText of the moment in [start, start + step] (days) at which the moon crosses the
 /// ecliptic; empty where it does not, or where sun and moon are not aligned then.
+/// A step that is not finite is a broken invariant too.
 std::string nodeEclipseEvent(double start, double step);
 
 }  // namespace veyruna::astro

@@ -8,7 +8,8 @@ namespace veyruna::astro {
 inline constexpr double fullMoonElongation = pi;
 inline constexpr double newMoonElongation = 0.0;
 
-/// Longitude of the moon less that of the sun less `target` at base time `t` (days), in [−π, π].
+/// Longitude of the moon less that of the sun less `target` at base time `t` (days), in [−π, π]. A
+/// moment or target that is not finite is a broken invariant, here and below.
 double elongation(double t, double target);
 
 /// The first moment after base time `start` (days) at which the elongation passes `target`

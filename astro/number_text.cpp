@@ -79,8 +79,9 @@ void appendPadded(std::string& out, char* begin, char* end, char sign, int width
 }
 
 void appendFixedWithSign(std::string& out, double value, char plus, int width, int decimals) {
-  requireInvariant(std::isfinite(value), "a number that is printed is finite");
-  requireInvariant(decimals >= 0 && decimals <= 9 && width <= 64, "a number format is in range");
+  requireInvariant(std::isfinite(value), "a number that is printed is finite", value);
+  requireInvariant(decimals >= 0 && decimals <= 9 && width <= 64, "a number format is in range",
+                   width, decimals);
   std::array<char, longestFixedText + 64> buffer;  // NOLINT(*-member-init): filled from its end
   char* const end = buffer.data() + buffer.size();
   char* const begin = writeMagnitudeBackwards(end, std::abs(value), decimals);
@@ -106,7 +107,7 @@ void appendInteger(std::string& out, std::int64_t value) {
 }
 
 void appendPaddedInteger(std::string& out, std::int64_t value, int width) {
-  requireInvariant(width <= 64, "a number format is in range");
+  requireInvariant(width <= 64, "a number format is in range", width);
   std::array<char, 96> buffer;  // NOLINT(*-member-init): filled from its end
   char* const end = buffer.data() + buffer.size();
   // The magnitude is taken unsigned, so that the most negative integer has one too.
@@ -118,7 +119,7 @@ void appendPaddedInteger(std::string& out, std::int64_t value, int width) {
 std::string shortestText(double value) {
   std::array<char, 32> buffer{};
   const auto written = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value);
-  requireInvariant(written.ec == std::errc{}, "the shortest text of a double fits");
+  requireInvariant(written.ec == std::errc{}, "the shortest text of a double fits", value);
   return {buffer.data(), written.ptr};
 }
 

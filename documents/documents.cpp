@@ -138,7 +138,7 @@ static_assert(isSaidOnce(&Entry::heading), "two documents have one heading");
 
 const Entry& entryOf(Document document) {
   const auto row = static_cast<std::size_t>(document);
-  astro::requireInvariant(row < allDocuments.size(), "a document has its row");
+  astro::requireInvariant(row < allDocuments.size(), "a document has its row", row);
   return allDocuments[row];
 }
 

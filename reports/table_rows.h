@@ -15,7 +15,7 @@ namespace veyruna::reports {
 template <class AppendRow>
 void writeRows(std::string_view header, double start, const TableSize& size, const TextSink& sink,
                AppendRow appendRow) {
-  astro::requireInvariant(size.rows >= 0, "a table has no negative number of rows");
+  astro::requireInvariant(size.rows >= 0, "a table has no negative number of rows", size.rows);
   sink(header);
   std::string row;
   double t = start;

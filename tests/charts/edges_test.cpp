@@ -9,6 +9,7 @@
 #include "charts/star_map.h"
 #include "tests/charts/sphere.h"
 #include "tests/charts/xml_check.h"
+#include "tests/support/expect_stop.h"
 
 namespace veyruna::charts {
 namespace {
@@ -101,10 +102,10 @@ using ChartEdgesDeathTest = testing::TestWithParam<double>;
 TEST_P(ChartEdgesDeathTest, WhatNoCalendarOrArcCanHoldStopsTheProgramAtOnce) {
   const double outside = GetParam();
   const char* const message = "veyruna: broken invariant: ";
-  EXPECT_DEATH(starMap({outside, 0.5, 0.5}, emptySky()), message);
-  EXPECT_DEATH(starMap({0.0, 0.5, outside}, emptySky()), message);
-  EXPECT_DEATH(horoscope(false, {outside, 0.5, 0.5}, emptySky()), message);
-  EXPECT_DEATH(horoscope(true, {0.0, outside, 0.5}, emptySky()), message);
+  EXPECT_STOP(starMap({outside, 0.5, 0.5}, emptySky()), message);
+  EXPECT_STOP(starMap({0.0, 0.5, outside}, emptySky()), message);
+  EXPECT_STOP(horoscope(false, {outside, 0.5, 0.5}, emptySky()), message);
+  EXPECT_STOP(horoscope(true, {0.0, outside, 0.5}, emptySky()), message);
 }
 
 INSTANTIATE_TEST_SUITE_P(Numbers, ChartEdgesDeathTest,
