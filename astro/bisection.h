@@ -5,15 +5,15 @@
 namespace veyruna::astro {
 
 /// The end of every search for a moment, in days: about 8.6 seconds.
-inline constexpr double phaseTolerance = 0.0001;
+inline constexpr double phaseToleranceDays = 0.0001;
 
-/// Halves the interval from `low` to `high` until it is no longer than phaseTolerance and returns
-/// the middle of what is left. `crossingIsBefore(t)` says whether the moment sought lies in the
-/// half that ends at `t`. Ends also where neighbouring doubles leave nothing to halve.
+/// Halves the interval from `low` to `high` until it is no longer than phaseToleranceDays and
+/// returns the middle of what is left. `crossingIsBefore(t)` says whether the moment sought lies in
+/// the half that ends at `t`. Ends also where neighbouring doubles leave nothing to halve.
 template <class CrossingIsBefore>
 double bisect(double low, double high, CrossingIsBefore crossingIsBefore) {
   double middle = (low + high) / 2.0;
-  while (std::abs(high - low) > phaseTolerance) {
+  while (std::abs(high - low) > phaseToleranceDays) {
     if (crossingIsBefore(middle)) {
       high = middle;
     } else {

@@ -13,7 +13,7 @@ inline constexpr double newMoonElongation = 0.0;
 double elongation(double t, double target);
 
 /// The first moment after base time `start` (days) at which the elongation passes `target`
-/// (radians), to within phaseTolerance. The search never looks further than 64 days, twice
+/// (radians), to within phaseToleranceDays. The search never looks further than 64 days, twice
 /// the 30 that bracket any phase, so that it ends for every finite start.
 double nextPhase(double start, double target);
 

@@ -12,13 +12,13 @@ namespace {
 
 using astro::bisect;
 using astro::bisectSignChange;
-using astro::phaseTolerance;
+using astro::phaseToleranceDays;
 
 TEST(Bisection, EndsWithinATenThousandthOfADay) {
-  EXPECT_EQ(phaseTolerance, 0.0001);
+  EXPECT_EQ(phaseToleranceDays, 0.0001);
   const double wanted = 0.7234567;
   EXPECT_NEAR(bisect(0.0, 1.0, [&](double t) { return t >= wanted; }), wanted,
-              phaseTolerance / 2.0);
+              phaseToleranceDays / 2.0);
 }
 
 TEST(Bisection, ADayTakesFourteenHalvingsAndAQuarterTwelve) {
@@ -39,21 +39,21 @@ TEST(Bisection, AnIntervalAsLongAsTheToleranceIsNotHalved) {
     ADD_FAILURE() << "nothing is left to halve";
     return true;
   };
-  EXPECT_EQ(bisect(0.0, phaseTolerance, unexpected), phaseTolerance / 2.0);
+  EXPECT_EQ(bisect(0.0, phaseToleranceDays, unexpected), phaseToleranceDays / 2.0);
   EXPECT_EQ(bisect(5.0, 5.0, unexpected), 5.0);
 }
 
 TEST(Bisection, AnIntervalTurnedAroundIsHalvedToo) {
   EXPECT_NEAR(bisectSignChange(1.0, 0.0, 0.5, [](double t) { return t - 0.3; }), 0.3,
-              phaseTolerance);
+              phaseToleranceDays);
 }
 
 TEST(Bisection, AnExactZeroMovesTheLowEndForGood) {
   // From a zero on, no product is below zero any more, so the search runs to the high end.
   const auto zeroInTheMiddle = [](double t) { return t == 0.5 ? 0.0 : t - 0.5; };
-  EXPECT_NEAR(bisectSignChange(0.0, 1.0, -0.5, zeroInTheMiddle), 1.0, phaseTolerance);
+  EXPECT_NEAR(bisectSignChange(0.0, 1.0, -0.5, zeroInTheMiddle), 1.0, phaseToleranceDays);
   EXPECT_NEAR(bisectSignChange(0.0, 1.0, 0.0, [](double t) { return t - 0.3; }), 1.0,
-              phaseTolerance);
+              phaseToleranceDays);
 }
 
 TEST(Bisection, EndsWhereNeighbouringDoublesLeaveNothingToHalve) {
@@ -69,7 +69,7 @@ TEST(Bisection, EndsWhereNeighbouringDoublesLeaveNothingToHalve) {
 
 TEST(Bisection, EndsOverTheWholeRangeOfDoubles) {
   const auto sign = [](double t) { return t < 12345.0 ? -1.0 : 1.0; };
-  EXPECT_NEAR(bisectSignChange(-1e300, 1e300, -1.0, sign), 12345.0, phaseTolerance);
+  EXPECT_NEAR(bisectSignChange(-1e300, 1e300, -1.0, sign), 12345.0, phaseToleranceDays);
   EXPECT_TRUE(std::isinf(bisect(1.5e308, 1.7e308, [](double) { return false; })));
 }
 
@@ -101,8 +101,8 @@ RC_GTEST_PROP(Bisection, FindsTheMomentTheMoonCrossesTheEcliptic, ()) {
   const double atStart = astro::moonLatitude(start);
   RC_PRE(atStart * astro::moonLatitude(end) < 0.0);
   const double crossing = bisectSignChange(start, end, atStart, astro::moonLatitude);
-  RC_ASSERT(astro::moonLatitude(crossing - phaseTolerance) *
-                astro::moonLatitude(crossing + phaseTolerance) <=
+  RC_ASSERT(astro::moonLatitude(crossing - phaseToleranceDays) *
+                astro::moonLatitude(crossing + phaseToleranceDays) <=
             0.0);
 }
 

@@ -120,23 +120,24 @@ RC_GTEST_PROP(NextPhase, IsThatPhaseAndTheFirstAfterTheStart, ()) {
   const double target = *rc::gen::element(newMoonElongation, fullMoonElongation, -1.0, 0.5);
   const double t = nextPhase(start, target);
   RC_ASSERT(t > start);
-  RC_ASSERT(t - start <= synodicMonth + astro::phaseTolerance);
+  RC_ASSERT(t - start <= synodicMonth + astro::phaseToleranceDays);
   // The middle of an interval of 0.0001 days is at most half of it from the phase.
-  RC_ASSERT(std::abs(elongation(t, target)) <= astro::phaseTolerance / 2.0 * gainPerDay + 1e-9);
+  RC_ASSERT(std::abs(elongation(t, target)) <= astro::phaseToleranceDays / 2.0 * gainPerDay + 1e-9);
 }
 
 TEST(NextPhase, PhasesFollowEachOtherByAMonth) {
   double t = nextPhase(258840.0, fullMoonElongation);
   for (int month = 0; month < 100; ++month) {
     const double next = nextPhase(t + 1.0, fullMoonElongation);
-    EXPECT_NEAR(next - t, synodicMonth, astro::phaseTolerance);
+    EXPECT_NEAR(next - t, synodicMonth, astro::phaseToleranceDays);
     t = next;
   }
 }
 
 TEST(NextPhase, FullAndNewMoonAreHalfAMonthApart) {
   const double full = nextPhase(1000.0, fullMoonElongation);
-  EXPECT_NEAR(nextPhase(full, newMoonElongation) - full, synodicMonth / 2.0, astro::phaseTolerance);
+  EXPECT_NEAR(nextPhase(full, newMoonElongation) - full, synodicMonth / 2.0,
+              astro::phaseToleranceDays);
 }
 
 TEST(NextPhase, AskedExactlyAtAPhaseItIsThatPhase) {
@@ -147,13 +148,13 @@ TEST(NextPhase, AskedExactlyAtAPhaseItIsThatPhase) {
   ASSERT_EQ(elongation(newMoon, 0.0), 0.0);
   const double t = nextPhase(newMoon, newMoonElongation);
   EXPECT_GE(t, newMoon);
-  EXPECT_LE(t, newMoon + astro::phaseTolerance);
+  EXPECT_LE(t, newMoon + astro::phaseToleranceDays);
 }
 
 TEST(NextPhase, AskedJustAfterAPhaseItIsTheNextOne) {
   const double newMoon = whenElongationReaches(0.0, 500.0);
   EXPECT_NEAR(nextPhase(newMoon + 0.001, newMoonElongation) - newMoon, synodicMonth,
-              astro::phaseTolerance);
+              astro::phaseToleranceDays);
 }
 
 /// The start of a quarter-day in which the moon crosses the ecliptic in line with sun and world.
