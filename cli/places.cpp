@@ -89,7 +89,7 @@ CityPreset placeNamed(const std::string& name) {
 
 Place savedPlace(const std::string& name) {
   const CityPreset place = placeNamed(name);
-  if (!model::isOnGlobe(place.latitude, place.longitude)) {
+  if (!model::isPlaceWithinReach(place.latitude, place.longitude)) {
     throw UsageError("--location: " + inQuotes(name) +
                      " is not on the globe; its stored coordinates are beyond 1000 radians");
   }
@@ -104,7 +104,7 @@ std::string savedPlacesText() {
   }
   std::string text;
   for (const CityPreset& place : places) {
-    if (!model::isOnGlobe(place.latitude, place.longitude)) {
+    if (!model::isPlaceWithinReach(place.latitude, place.longitude)) {
       text += place.name.leftJustified(width).toStdString() + "  not on the globe\n";
       continue;
     }

@@ -115,8 +115,8 @@ void AstronomyModel::setUseLocalTime(bool isLocal) {
 bool AstronomyModel::setMoment(double baseTime) {
   const double longitude = effectiveLongitude();
   const std::optional<astro::CalendarReading> reading =
-      !isWithinReach(baseTime) ? std::nullopt
-      : date_.useLocalTime && isOnGlobe(0.0, longitude)
+      !isMomentWithinReach(baseTime) ? std::nullopt
+      : date_.useLocalTime && isPlaceWithinReach(0.0, longitude)
           ? astro::localCalendarReading(observer().at(baseTime))
           : astro::calendarReading(baseTime);
   if (!reading) {
@@ -160,7 +160,8 @@ double AstronomyModel::baseTime() const {
   const double standard =
       astro::standardBaseTime(date_.year, date_.monthIndex, date_.dayIndex, date_.hour);
   const double longitude = effectiveLongitude();
-  if (!date_.useLocalTime || !isWithinReach(standard) || !isOnGlobe(0.0, longitude)) {
+  if (!date_.useLocalTime || !isMomentWithinReach(standard) ||
+      !isPlaceWithinReach(0.0, longitude)) {
     return standard;
   }
   return astro::localBaseTime(date_.year, date_.monthIndex, date_.dayIndex, date_.hour, longitude);
@@ -211,9 +212,9 @@ void AstronomyModel::recalculate() {
   }
   const CalculationInput input{observer(), horoscopeBlackAndWhite_};
   std::optional<QString> refusal;
-  if (!isOnGlobe(input.observer.latitude, input.observer.longitude)) {
+  if (!isPlaceWithinReach(input.observer.latitude, input.observer.longitude)) {
     refusal = QStringLiteral("This place is not on the globe.");
-  } else if (!isWithinReach(input.observer.baseTime)) {
+  } else if (!isMomentWithinReach(input.observer.baseTime)) {
     refusal = QStringLiteral("This moment is too far away to calculate.");
   }
   if (refusal) {

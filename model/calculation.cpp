@@ -42,11 +42,11 @@ QString calculateHoroscope(const CalculationInput& input) {
   return textOf(Document::horoscope, input);
 }
 
-bool isWithinReach(double baseTime) {
+bool isMomentWithinReach(double baseTime) {
   return std::abs(baseTime) <= astro::baseTimeLimitDays;
 }
 
-bool isOnGlobe(double latitude, double longitude) {
+bool isPlaceWithinReach(double latitude, double longitude) {
   constexpr double mostRadians = 1000.0;
   return std::abs(latitude) <= mostRadians && std::abs(longitude) <= mostRadians;
 }

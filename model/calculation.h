@@ -46,9 +46,10 @@ CalculationResult calculate(const CalculationInput& input);
 QString calculateHoroscope(const CalculationInput& input);
 
 /// Whether the calculations hold for this moment: within a billion days of the epoch.
-bool isWithinReach(double baseTime);
+bool isMomentWithinReach(double baseTime);
 
-/// Whether these are angles of a globe: finite and not above 1,000 radians.
-bool isOnGlobe(double latitude, double longitude);
+/// Whether the calculations hold for these angles: within 1,000 radians of 0, beyond which a place
+/// can no longer be meant. How far north a latitude may lie is not asked.
+bool isPlaceWithinReach(double latitude, double longitude);
 
 }  // namespace veyruna::model

@@ -1,4 +1,5 @@
 // Moments and places beyond what is calculated, which preferences edited by hand may hold.
+#include <cmath>
 #include <gtest/gtest.h>
 #include <limits>
 
@@ -117,6 +118,34 @@ INSTANTIATE_TEST_SUITE_P(
                             },
                             noPlace}),
     [](const auto& test) { return test.param.name; });
+
+/// Exactly 1,000 radians, of either sign, are a place still; the next number is none.
+TEST(Refused, ThousandRadiansAreTheLastPlace) {
+  constexpr double last = 1000.0;
+  const double next = std::nextafter(last, 1e9);
+  for (const double sign : {1.0, -1.0}) {
+    EXPECT_TRUE(model::isPlaceWithinReach(sign * last, 0.0));
+    EXPECT_TRUE(model::isPlaceWithinReach(0.0, sign * last));
+    EXPECT_FALSE(model::isPlaceWithinReach(sign * next, 0.0));
+    EXPECT_FALSE(model::isPlaceWithinReach(0.0, sign * next));
+  }
+  const double none = std::numeric_limits<double>::quiet_NaN();
+  EXPECT_FALSE(model::isPlaceWithinReach(none, 0.0));
+  EXPECT_FALSE(model::isPlaceWithinReach(0.0, none));
+  const model::CalculationResult result =
+      model::calculate({.observer = {.baseTime = 0.25, .latitude = last, .longitude = -last}});
+  EXPECT_TRUE(model::textIn(result.texts, documents::Document::starMap)
+                  .endsWith(QStringLiteral("</svg>\n")));
+}
+
+TEST(Refused, ABillionDaysAreTheLastMoment) {
+  constexpr double last = 1e9;
+  for (const double sign : {1.0, -1.0}) {
+    EXPECT_TRUE(model::isMomentWithinReach(sign * last));
+    EXPECT_FALSE(model::isMomentWithinReach(sign * std::nextafter(last, 1e10)));
+  }
+  EXPECT_FALSE(model::isMomentWithinReach(std::numeric_limits<double>::quiet_NaN()));
+}
 
 TEST(Refused, AtTheVeryStartOutputsStayEmpty) {
   FakeModel world;
