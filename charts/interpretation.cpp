@@ -35,9 +35,10 @@ constexpr std::int64_t pageEndY = 370;
 constexpr bool hasRoom(std::int64_t begin, std::size_t rows, std::int64_t end) {
   return begin + static_cast<std::int64_t>(rows) * rowHeight <= end;
 }
-static_assert(hasRoom(planetRowsY, astro::planetCount, keepY));
-static_assert(hasRoom(elementRowsY, astro::planetPairCount, natalHeadingY));
-static_assert(hasRoom(natalRowsY, astro::planetCount, pageEndY));
+static_assert(hasRoom(planetRowsY, astro::planetCount, keepY), "the planets' rows have no room");
+static_assert(hasRoom(elementRowsY, astro::planetPairCount, natalHeadingY),
+              "the elements' rows have no room");
+static_assert(hasRoom(natalRowsY, astro::planetCount, pageEndY), "the natal rows have no room");
 
 /// "Bralo (Inspiration)".
 std::string withGift(std::string name, Planet planet) {
