@@ -4,6 +4,7 @@
 
 #include "astro/arc.h"
 #include "astro/local_time.h"
+#include "charts/ink.h"
 
 namespace veyruna::charts {
 

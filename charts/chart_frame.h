@@ -10,9 +10,6 @@
 /// What both charts have: the grid of the disc, the header lines, plain lines and texts.
 namespace veyruna::charts {
 
-/// The grey of all text that names no body.
-inline constexpr std::string_view textColor = "#757475";
-
 /// How a line is drawn; an empty opacity writes none.
 struct LineStyle {
   std::string_view color;

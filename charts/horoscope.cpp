@@ -15,6 +15,7 @@
 #include "charts/body_style.h"
 #include "charts/chart_frame.h"
 #include "charts/element.h"
+#include "charts/ink.h"
 #include "charts/interpretation.h"
 #include "charts/moon_glyph.h"
 #include "charts/svg_writer.h"
@@ -31,9 +32,6 @@ constexpr std::string_view head =
 <clipPath id="horoscopeClip"><circle cx="180" cy="180" r="180"/></clipPath>
 </defs>
 )";
-
-/// The colour of the signs' names, which alone run along the outer rim path.
-constexpr std::string_view signColor = "#f4f4f3";
 
 /// A label further out than this runs along the rim.
 constexpr double rimDistance = 0.9;
@@ -101,11 +99,13 @@ class Horoscope {
     return nativity;
   }
 
-  /// The colour a thing is drawn in: what shines is black on paper.
+  /// The colour a thing is drawn in. On the white disc of black and white the light colours would
+  /// not be seen: those of stars, signs and lines, of sun and moon, and the yellow chord are black.
   [[nodiscard]] std::string_view ink(std::string_view color) const {
-    const bool shines = color == signColor || color == "#fef651" || color == "#eaeae9" ||
-                        color == "white" || color == "yellow";
-    return blackAndWhite_ && shines ? "black" : color;
+    const bool isLight = color == signColor || color == brightStarColor ||
+                         color == constellationColor || color == shadeOf(moonColor).name ||
+                         color == shadeOf(sunColor).name;
+    return blackAndWhite_ && isLight ? "black" : color;
   }
 
   void drawDisc() {
@@ -133,7 +133,8 @@ class Horoscope {
     }
   }
 
-  /// A name along the rim that begins at its longitude. The outer path belongs to the signs.
+  /// A name along the rim that begins at its longitude. The outer path belongs to the signs, told
+  /// by their colour.
   void drawRimLabel(const BodyMarker& marker, double longitude) {
     double percent = longitude * 50.0 / astro::pi;
     if (percent < 0.0) {
@@ -195,7 +196,7 @@ class Horoscope {
     const std::vector<FixedStar>& stars = catalogue_.stars();
     for (const StarCatalogue::Line& line : catalogue_.lines()) {
       drawLine(svg_, projected(stars[line.from].ec).exact(), projected(stars[line.to].ec).exact(),
-               1, {ink("#eaeae9"), "0.4", "0.6"});
+               1, {ink(constellationColor), "0.4", "0.6"});
     }
   }
 

@@ -15,6 +15,7 @@
 #include "charts/body_marker.h"
 #include "charts/body_style.h"
 #include "charts/chart_frame.h"
+#include "charts/ink.h"
 #include "charts/moon_glyph.h"
 #include "charts/svg_writer.h"
 
@@ -134,7 +135,7 @@ class StarMap {
       const VisiblePoint& from = starPoints_[line.from];
       const VisiblePoint& to = starPoints_[line.to];
       if (from && to) {
-        drawLine(svg_, from->exact(), to->exact(), 1, {"#eaeae9", "0.4", "0.5"});
+        drawLine(svg_, from->exact(), to->exact(), 1, {constellationColor, "0.4", "0.5"});
       }
     }
   }
