@@ -1,0 +1,127 @@
+// Every tab: its button, icon, view and page of the manual, and that the view shows its documents.
+#include <QFileInfo>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QSet>
+#include <QStackedWidget>
+#include <QTableWidget>
+#include <gtest/gtest.h>
+
+#include "export/chart_page.h"
+#include "tests/ui/shown_window.h"
+#include "ui/outputs/detailed_view.h"
+#include "ui/outputs/tab_views.h"
+#include "ui/window/manual.h"
+
+namespace veyruna::ui {
+namespace {
+
+using exports::TabEntry;
+
+struct EveryTab : testing::Test, tests::ShownWindow {
+  /// The view of the tab in front.
+  QWidget* shownView() {
+    return window.findChild<DetailedView*>()->findChild<QStackedWidget*>()->currentWidget();
+  }
+
+  /// Presses the button of the tab.
+  void open(const TabEntry& tab) {
+    press(qPrintable(QStringLiteral("tab%1").arg(static_cast<int>(tab.tab) + 1)));
+    ASSERT_EQ(window.selectedTab(), tab.tab);
+  }
+
+  /// Whether the view holds the document: as its chart's page, as a text, or cell by cell.
+  bool showsText(const QWidget* view, const QString& text) {
+    for (const auto* const shown : view->findChildren<QPlainTextEdit*>()) {
+      if (shown->toPlainText() == text) {
+        return true;
+      }
+    }
+    for (const auto* const table : view->findChildren<QTableWidget*>()) {
+      if (table->rowCount() == text.count(QLatin1Char('\n')) - 2 && holdsCells(*table, text)) {
+        return true;
+      }
+    }
+    return QTest::qWaitFor([&] { return drawn->pages.contains(exports::chartPage(text)); }, 60'000);
+  }
+
+ private:
+  /// Whether the text has every cell of the table but the kinds of bodies, which are not written.
+  static bool holdsCells(const QTableWidget& table, const QString& text) {
+    constexpr int kindColumn = 1;
+    for (int row = 0; row < table.rowCount(); ++row) {
+      for (int column = 0; column < table.columnCount(); ++column) {
+        if (column != kindColumn && !text.contains(table.item(row, column)->text())) {
+          return false;
+        }
+      }
+    }
+    return true;
+  }
+};
+
+TEST_F(EveryTab, HasAButtonAndAViewOfItsOwn) {
+  QSet<QWidget*> views;
+  for (const TabEntry& tab : exports::allTabs) {
+    SCOPED_TRACE(tab.title.toString().toStdString());
+    open(tab);
+    ASSERT_NE(shownView(), nullptr);
+    views.insert(shownView());
+  }
+  EXPECT_EQ(views.size(), static_cast<qsizetype>(exports::outputTabCount));
+  EXPECT_EQ(window.findChild<DetailedView*>()->findChild<QStackedWidget*>()->count(),
+            static_cast<int>(exports::outputTabCount));
+}
+
+TEST_F(EveryTab, ShowsTheDocumentsItSaves) {
+  calculate();
+  for (const TabEntry& tab : exports::allTabs) {
+    open(tab);
+    for (const exports::TabSection& section : tab.sections) {
+      EXPECT_TRUE(showsText(shownView(), model.text(section.document)))
+          << tab.title.toString().toStdString() << ": "
+          << documents::entryOf(section.document).heading;
+    }
+  }
+}
+
+TEST_F(EveryTab, FollowsTheNextCalculation) {
+  calculate();
+  model.setYear(1243);
+  model.setMonthIndex(6);
+  model.setManualLatDeg(11.5);
+  calculate();
+  for (const TabEntry& tab : exports::allTabs) {
+    open(tab);
+    for (const exports::TabSection& section : tab.sections) {
+      EXPECT_TRUE(showsText(shownView(), model.text(section.document)))
+          << documents::entryOf(section.document).heading;
+    }
+  }
+}
+
+TEST(EveryTabsLook, HasItsIconInEverySizeAndInk) {
+  QSet<QString> icons;
+  for (const TabView& view : tabViews) {
+    icons.insert(QLatin1String(view.icon));
+    for (const char* const ink : {"light", "dark"}) {
+      for (const int size : {16, 24, 32, 48, 64}) {
+        const QString file = QStringLiteral(":/icons/%1/%2_%3.png")
+                                 .arg(QLatin1String(ink), QLatin1String(view.icon))
+                                 .arg(size);
+        EXPECT_TRUE(QFileInfo::exists(file)) << file.toStdString();
+      }
+    }
+  }
+  EXPECT_EQ(icons.size(), static_cast<qsizetype>(exports::outputTabCount));
+}
+
+TEST(EveryTabsLook, IsExplainedInTheManual) {
+  for (const TabEntry& tab : exports::allTabs) {
+    EXPECT_TRUE(QFileInfo::exists(manualChapter(tab.tab).toLocalFile()))
+        << viewOf(tab.tab).manualPage;
+  }
+}
+
+}  // namespace
+}  // namespace veyruna::ui
