@@ -84,6 +84,19 @@ TEST_F(PinchedPicker, LessThanAHundredthIsNoPinch) {
   EXPECT_NEAR(shownZoom(), 1.009 * 1.009, 1e-12);
 }
 
+TEST_F(PinchedPicker, EachPinchBeginsAtItsOwnHundredth) {
+  fingers(Qt::BeginNativeGesture);
+  fingers(Qt::ZoomNativeGesture, 1.0);
+  fingers(Qt::EndNativeGesture);
+  fingers(Qt::BeginNativeGesture);
+  fingers(Qt::ZoomNativeGesture, 0.009);
+  EXPECT_EQ(shownZoom(), 2.0);
+  fingers(Qt::EndNativeGesture);
+  EXPECT_EQ(view->zoom(), 2.0);
+  fingers(Qt::ZoomNativeGesture, 0.02);  // without a beginning: as of rest
+  EXPECT_NEAR(shownZoom(), 2.04, 1e-12);
+}
+
 TEST_F(PinchedPicker, WhatNoFingersDoChangesNothing) {
   fingers(Qt::BeginNativeGesture);
   for (const double bad : {-1.0, -3.0, std::numeric_limits<double>::quiet_NaN(),
