@@ -63,6 +63,14 @@ TEST(MapLayout, BesideThePictureThereIsNoPlace) {
   EXPECT_FALSE(placeAt({100.0, 20.0 + 326.7}, layout));
 }
 
+TEST(MapLayout, ThePicturesWesternEdgeCutsTheMapOff) {
+  // Near the equator the map would go on; the picture ends at 33.9° west.
+  const Layout layout{{10.0, 20.0}, {431.6, 326.6}};
+  EXPECT_TRUE(placeAt({10.0, 320.0}, layout));
+  EXPECT_FALSE(placeAt({9.999, 320.0}, layout));
+  EXPECT_FALSE(placeAt({0.0, 320.0}, layout));
+}
+
 TEST(MapLayout, AZoomThatChangesNothingIsNone) {
   const QSizeF view(800.0, 600.0);
   EXPECT_FALSE(zoomedBy(0.5, {1.0, {300.0, 0.0}}, {0.0, 0.0}, view, range));

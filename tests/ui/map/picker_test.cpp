@@ -43,6 +43,10 @@ TEST_F(ShownPicker, TheControlsStandInOneRowAboveADividerAndTheMap) {
       frames, [](const QFrame* frame) { return frame->frameShape() == QFrame::HLine; });
   ASSERT_NE(divider, frames.end());
   EXPECT_EQ(area->y() - (*divider)->geometry().bottom() - 1, 12);
+  // The view itself adds no margin: who shows it says what stands around it.
+  EXPECT_EQ(area->x(), 0);
+  EXPECT_EQ(area->geometry().bottom(), view->rect().bottom());
+  EXPECT_EQ((*divider)->width(), view->width());
 }
 
 TEST_F(ShownPicker, ACrosshairIsOverTheMap) {
@@ -191,6 +195,13 @@ TEST_F(ShownPicker, AViewWithoutSizeNeitherZoomsNorPicks) {
   settings->groups.clear();
   QTest::mouseClick(area, Qt::LeftButton, {}, QPoint(0, 0));
   EXPECT_TRUE(settings->groups.empty());
+}
+
+TEST_F(ShownPicker, BeforeItIsShownTheMapHasNoSizeAndDoesNotZoom) {
+  const ui::MapLocationPickerView unseen(model, &smallPicture, tasks.executor());
+  EXPECT_EQ(unseen.mapLayout().displaySize, QSizeF(0.0, 0.0));
+  unseen.findChild<QAbstractButton*>(QStringLiteral("zoomInButton"))->click();
+  EXPECT_EQ(unseen.zoom(), 1.0);
 }
 
 TEST_F(ShownPicker, TheModelMayGoFirst) {
