@@ -11,6 +11,7 @@
 #include <memory>
 #include <utility>
 
+#include "ui/controls/fixed_pitch_font.h"
 #include "ui/controls/named.h"
 #include "ui/map/map_marks.h"
 #include "ui/map/map_tiles.h"
@@ -55,7 +56,7 @@ QRect onDevice(const Layout& layout, const QTransform& toDevice) {
 }
 
 QFont readoutFont() {
-  QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+  QFont font = fixedPitchFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
   font.setPointSizeF(font.pointSizeF() * calloutSize);
   return font;
 }

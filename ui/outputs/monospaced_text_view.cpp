@@ -4,8 +4,8 @@
 #include <QPlainTextEdit>
 #include <QScrollBar>
 
+#include "ui/controls/fixed_pitch_font.h"
 #include "ui/controls/named.h"
-#include "ui/outputs/fixed_pitch_font.h"
 
 namespace veyruna::ui {
 

@@ -48,6 +48,8 @@ TEST_F(MadeTiles, NoTileIsMadeTwiceHoweverOftenItIsAskedFor) {
   const QRect image(-1400, -900, 5000, 3784);
   draw(image);
   draw(image);
+  draw(image.translated(300, 20));  // while they still wait, other tiles are wanted
+  draw(image);
   makeAll();  // made, and not delivered yet
   draw(image.translated(40, 20));
   draw(image.translated(-300, 20));  // another column comes near

@@ -1,4 +1,4 @@
-#include "ui/outputs/fixed_pitch_font.h"
+#include "ui/controls/fixed_pitch_font.h"
 
 #include <QFontDatabase>
 #include <QFontInfo>

@@ -1,5 +1,5 @@
 // Tables keep their columns whatever font the platform names for them.
-#include "ui/outputs/fixed_pitch_font.h"
+#include "ui/controls/fixed_pitch_font.h"
 
 #include <QFontDatabase>
 #include <QFontInfo>
