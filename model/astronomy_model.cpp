@@ -21,6 +21,17 @@ double storableAngle(double angle) {
   return std::clamp(angle, -most, most);
 }
 
+/// Why nothing is calculated for such a moment and place; nothing where it is.
+std::optional<QString> refusalOf(const astro::Observer& observer) {
+  if (!isPlaceWithinReach(observer.latitude, observer.longitude)) {
+    return QStringLiteral("This place is not on the globe.");
+  }
+  if (!isMomentWithinReach(observer.baseTime)) {
+    return QStringLiteral("This moment is too far away to calculate.");
+  }
+  return std::nullopt;
+}
+
 }  // namespace
 
 AstronomyModel::Surroundings AstronomyModel::standardSurroundings() {
@@ -210,20 +221,15 @@ void AstronomyModel::recalculate() {
   if (isCalculating_) {
     return;
   }
-  const CalculationInput input{observer(), horoscopeBlackAndWhite_};
-  std::optional<QString> refusal;
-  if (!isPlaceWithinReach(input.observer.latitude, input.observer.longitude)) {
-    refusal = QStringLiteral("This place is not on the globe.");
-  } else if (!isMomentWithinReach(input.observer.baseTime)) {
-    refusal = QStringLiteral("This moment is too far away to calculate.");
-  }
-  if (refusal) {
-    assign(errorMessage_, refusal, &AstronomyModel::errorMessageChanged);
-    return;
-  }
-
   assign(isCalculating_, true, &AstronomyModel::isCalculatingChanged);
   assign(errorMessage_, {}, &AstronomyModel::errorMessageChanged);
+  // Whoever heard that a calculation begins may have had inputs to hand in.
+  const CalculationInput input{observer(), horoscopeBlackAndWhite_};
+  if (const std::optional<QString> refusal = refusalOf(input.observer)) {
+    assign(errorMessage_, refusal, &AstronomyModel::errorMessageChanged);
+    assign(isCalculating_, false, &AstronomyModel::isCalculatingChanged);
+    return;
+  }
   // The task holds the model weakly, and the results travel through the application object, which
   // outlives it: the model may be deleted at any moment.
   executor_([self = QPointer<AstronomyModel>(this), input] {

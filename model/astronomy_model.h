@@ -160,8 +160,8 @@ class AstronomyModel : public QObject {
   void setHoroscopeBlackAndWhite(bool isBlackAndWhite);
 
   /// Computes every output of the inputs in the background and publishes them together. Does
-  /// nothing while a calculation runs. A moment or place beyond what is calculated only sets
-  /// errorMessage.
+  /// nothing while a calculation runs. The inputs are read when isCalculating has been signalled. A
+  /// moment or place beyond what is calculated only sets errorMessage.
   void recalculate();
 
   /// Draws the horoscope of the last calculation's moment and place again, in colour or black and

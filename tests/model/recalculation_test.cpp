@@ -100,6 +100,27 @@ TEST(Recalculation, PositionsAlwaysGetFreshIds) {
   EXPECT_EQ(std::adjacent_find(ids.begin(), ids.end()), ids.end());
 }
 
+/// A field that is still being typed into can hand in its value.
+TEST(Recalculation, SaysThatItBeginsBeforeItReadsTheInputs) {
+  FakeModel world;
+  AstronomyModel& model = world.model;
+  const auto handIn = [&model] {
+    model.setManualLatDeg(12.5);
+    model.setYear(3);
+    model.setHoroscopeBlackAndWhite(true);
+  };
+  const auto once = QObject::connect(&model, &AstronomyModel::isCalculatingChanged, &model, handIn);
+  model.recalculate();
+  QObject::disconnect(once);
+  model.setYear(4);
+  world.tasks.runNext();
+  tests::turnEventLoop();
+  EXPECT_EQ(model.dateLabel(), QStringLiteral("003-01-01 12:00 OST"));
+  EXPECT_EQ(model.lastHoroscopeLatitude(), model.effectiveLatitude());
+  model.setYear(3);
+  EXPECT_EQ(model.horoscopeSVG().toStdString(), horoscopeOf(true, model));
+}
+
 TEST(Recalculation, ASecondRequestIsDropped) {
   FakeModel world;
   ChangeLog log(world.model);

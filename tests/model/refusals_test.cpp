@@ -36,11 +36,15 @@ TEST_P(Refused, SaysSoAndChangesNothingElse) {
   ChangeLog log(world.model);
   world.model.recalculate();
   EXPECT_EQ(world.tasks.count(), 0U);
-  EXPECT_EQ(log.taken(), Names{"errorMessage"});
+  EXPECT_EQ(log.taken(), (Names{"isCalculating", "errorMessage", "isCalculating"}));
   EXPECT_EQ(world.model.errorMessage(), GetParam().message);
   world.model.recalculate();
   tests::turnEventLoop();
-  EXPECT_EQ(log.taken(), Names{});
+  // Asked again, it is told again.
+  EXPECT_EQ(log.taken(), (Names{"isCalculating", "errorMessage", "errorMessage", "isCalculating"}));
+  EXPECT_EQ(world.model.errorMessage(), GetParam().message);
+  EXPECT_EQ(world.tasks.count(), 0U);
+  EXPECT_FALSE(world.model.isCalculating());
   EXPECT_EQ(world.model.lastHoroscopeBasetime(), before);
   EXPECT_EQ(world.model.starMapSVG(), starMap);
   EXPECT_EQ(world.model.positions().front().id, firstRow);
@@ -147,12 +151,22 @@ TEST(Refused, ABillionDaysAreTheLastMoment) {
   EXPECT_FALSE(model::isMomentWithinReach(std::numeric_limits<double>::quiet_NaN()));
 }
 
+TEST(Refused, WhatIsHandedInWhenItBeginsIsRefusedToo) {
+  FakeModel world;
+  QObject::connect(&world.model, &AstronomyModel::isCalculatingChanged, &world.model,
+                   [&world] { world.model.setYear(most); });
+  world.model.recalculate();
+  EXPECT_EQ(world.tasks.count(), 0U);
+  EXPECT_EQ(world.model.errorMessage(), tooFar);
+  EXPECT_FALSE(world.model.isCalculating());
+}
+
 TEST(Refused, AtTheVeryStartOutputsStayEmpty) {
   FakeModel world;
   world.model.setYear(most);
   ChangeLog log(world.model);
   world.model.recalculate();
-  EXPECT_EQ(log.taken(), Names{"errorMessage"});
+  EXPECT_EQ(log.taken(), (Names{"isCalculating", "errorMessage", "isCalculating"}));
   EXPECT_EQ(world.model.errorMessage(), tooFar);
   world.model.regenerateHoroscope();
   EXPECT_EQ(world.model.horoscopeSVG(), QString());
