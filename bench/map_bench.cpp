@@ -12,6 +12,7 @@
 #include <utility>
 
 #include "model/city_preset.h"
+#include "model/first_places.h"
 #include "ui/map/map_area.h"
 
 namespace veyruna {

@@ -12,6 +12,7 @@
 #include "cli/quoting.h"
 #include "model/calculation.h"
 #include "model/city_preset.h"
+#include "model/first_places.h"
 #include "model/locations_file.h"
 #include "model/qt_settings_store.h"
 #include "model/stored_settings.h"

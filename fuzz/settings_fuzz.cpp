@@ -8,6 +8,7 @@
 
 #include "fuzz/target.h"
 #include "model/astronomy_model.h"
+#include "model/id_text.h"
 #include "model/qt_settings_store.h"
 #include "model/stored_value.h"
 

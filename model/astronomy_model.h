@@ -13,6 +13,7 @@
 #include "model/calculation.h"
 #include "model/city_preset.h"
 #include "model/executor.h"
+#include "model/id_source.h"
 #include "model/location_error.h"
 #include "model/saved_locations.h"
 #include "model/settings_store.h"

@@ -6,7 +6,7 @@
 #include <span>
 
 #include "charts/body_style.h"
-#include "model/city_preset.h"
+#include "model/id_source.h"
 #include "reports/positions.h"
 
 namespace veyruna::model {

@@ -3,8 +3,6 @@
 #include <QList>
 #include <QString>
 #include <QUuid>
-#include <functional>
-#include <optional>
 
 namespace veyruna::model {
 
@@ -22,9 +20,6 @@ struct CityPreset {
 /// point. Equal names are not less.
 bool operator<(const CityPreset& a, const CityPreset& b);
 
-/// Where random ids come from; a test hands in its own.
-using IdSource = std::function<QUuid()>;
-
 /// The fixed first entry of every list: it stands for the manual latitude and longitude fields, is
 /// never written to a file and never deleted.
 const CityPreset& manualCity();
@@ -32,19 +27,10 @@ inline QUuid manualCityID() {
   return manualCity().id;
 }
 
-/// The thirteen places of a first start, each with a fresh id, in no particular order.
-QList<CityPreset> initialCities(const IdSource& newId);
-
 /// "Manual" followed by the places in order; equal names keep their order of entry.
 QList<CityPreset> withManualFirst(QList<CityPreset> places);
 
 /// Whether two names are the same to a person: equal but for the case of letters.
 bool isSameName(const QString& a, const QString& b);
-
-/// The 36 characters of a UUID in upper case, without braces.
-QString canonicalText(const QUuid& id);
-
-/// The UUID of exactly 36 characters in either case; nothing for any other text.
-std::optional<QUuid> idOf(const QString& text);
 
 }  // namespace veyruna::model

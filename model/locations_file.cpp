@@ -7,8 +7,9 @@
 #include <QStandardPaths>
 
 #include "files/file_writer.h"
-#include "model/keep_aside.h"
 #include "model/locations_text.h"
+#include "model/ownerless_lock.h"
+#include "model/unreadable_name.h"
 
 namespace veyruna::model {
 

@@ -6,6 +6,8 @@
 #include <QSet>
 #include <cmath>
 
+#include "model/id_text.h"
+
 namespace veyruna::model {
 
 namespace {

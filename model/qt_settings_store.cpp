@@ -6,8 +6,9 @@
 #include <QTemporaryFile>
 #include <algorithm>
 
-#include "model/keep_aside.h"
+#include "model/ownerless_lock.h"
 #include "model/stored_value.h"
+#include "model/unreadable_name.h"
 
 namespace veyruna::model {
 

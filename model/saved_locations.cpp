@@ -5,6 +5,8 @@
 #include <memory>
 #include <utility>
 
+#include "model/first_places.h"
+
 namespace veyruna::model {
 
 namespace {

@@ -6,6 +6,7 @@
 #include <variant>
 
 #include "model/city_preset.h"
+#include "model/id_source.h"
 #include "model/location_error.h"
 #include "model/locations_file.h"
 

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "astro/angle.h"
+#include "model/id_text.h"
 #include "model/stored_value.h"
 
 namespace veyruna::model {

@@ -2,6 +2,7 @@
 #include <QLocale>
 #include <gtest/gtest.h>
 
+#include "model/id_text.h"
 #include "model/saved_locations.h"
 #include "tests/model/change_log.h"
 #include "tests/model/fakes.h"

@@ -6,6 +6,7 @@
 #include <limits>
 #include <rapidcheck.h>
 
+#include "model/id_text.h"
 #include "model/qt_settings_store.h"
 #include "tests/model/change_log.h"
 #include "tests/model/disk.h"

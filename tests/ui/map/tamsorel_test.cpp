@@ -9,6 +9,7 @@
 #include <string>
 
 #include "model/city_preset.h"
+#include "model/first_places.h"
 #include "tests/support/source_path.h"
 #include "ui/map/map_picture.h"
 #include "ui/map/map_projection.h"

@@ -8,8 +8,4 @@ namespace veyruna::model {
 /// "locations.unreadable-2.json" and so on.
 QString unreadableName(const QString& path);
 
-/// Removes a lock file that nobody holds and nobody will take back: its maker was killed before it
-/// wrote who it was. One that is not a second old may still be in the making, and stays.
-void removeOwnerlessLock(const QString& path);
-
 }  // namespace veyruna::model

@@ -1,7 +1,5 @@
-#include "model/keep_aside.h"
+#include "model/unreadable_name.h"
 
-#include <QDateTime>
-#include <QFile>
 #include <QFileInfo>
 
 namespace veyruna::model {
@@ -19,15 +17,6 @@ QString unreadableName(const QString& path) {
     ++number;
   }
   return numbered(number);
-}
-
-void removeOwnerlessLock(const QString& path) {
-  constexpr qint64 aSecond = 1000;
-  const QFileInfo lock(path);
-  if (lock.exists() && lock.size() == 0 &&
-      lock.lastModified().msecsTo(QDateTime::currentDateTime()) > aSecond) {
-    QFile::remove(path);
-  }
 }
 
 }  // namespace veyruna::model
