@@ -14,8 +14,8 @@ namespace veyruna::exports {
 
 namespace {
 
-/// The renderings whose completion has not been called, in the order they were started. Used on the
-/// interface thread alone, like everything that enters them.
+/// The renderings whose completion has not run to its end, in the order they were started. Used on
+/// the interface thread alone, like everything that enters them.
 QList<PDFExporter*>& activeExporters() {
   static QList<PDFExporter*> exporters;
   return exporters;
@@ -138,11 +138,11 @@ void PDFExporter::finish(const PdfResult& result) {
   }
   isFinished_ = true;
   watchdog_.stop();
-  activeExporters().removeOne(this);
   // A page that is deleted while it prints takes the program with it: it goes when it has answered.
   const bool isLeftPrinting = isPrinting_;
   pagesLeftPrinting += isLeftPrinting && !isLost_ ? 1 : 0;
   std::exchange(completion_, {})(result);
+  activeExporters().removeOne(this);
   if (!isLeftPrinting) {
     deleteLater();
   }

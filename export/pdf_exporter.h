@@ -30,11 +30,11 @@ class PDFExporter final : public QObject {
   /// start() with the usual patience: a PdfRenderer.
   static void render(const QString& html, const QSizeF& pageSize, const PdfCompletion& completion);
 
-  /// How many renderings have not called their completion yet.
+  /// How many renderings' completions have not run to their end.
   static qsizetype activeCount();
 
-  /// Before the program ends: runs the event loop until every completion has been called and every
-  /// page is gone. False where that took longer than `patience`.
+  /// Before the program ends: runs the event loop until every completion has run and every page
+  /// is gone; not from a completion. False where that took longer than `patience`.
   static bool waitForAll(std::chrono::milliseconds patience = 2 * usualPatience);
 
  private:
