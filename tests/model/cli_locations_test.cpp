@@ -164,6 +164,18 @@ TEST_F(CommandPlaces, AFileThatIsNoListIsAnErrorAndStays) {
   EXPECT_EQ(run({"moment"}).status, 0);
 }
 
+/// What an administrator or another program of the house stored is not this person's.
+TEST_F(CommandPlaces, OnlyThePersonsOwnPreferencesCount) {
+  const QByteArray others = "[General]\nAstronomyModel.manualLatDeg=10\n";
+  QDir().mkpath(home / u"system/VeyrunaAstro"_s);
+  writeBytes(home / u"system/VeyrunaAstro/VeyrunaAstro.conf"_s, others);
+  writeBytes(home / u"system/VeyrunaAstro.conf"_s, others);
+  writeBytes(home / u"config/VeyrunaAstro.conf"_s, others);
+  auto locations = invocation({"locations"});
+  locations.environment.push_back("XDG_CONFIG_DIRS=" + home.path().toStdString() + "/system");
+  EXPECT_EQ(tests::run(locations).out, firstPlaces);
+}
+
 /// "Manual" stands in the preferences, not in the list of places.
 TEST_F(CommandPlaces, ManualNeedsNoList) {
   writeBytes(preferences, "[General]\nAstronomyModel.manualLatDeg=33.25\n");
