@@ -21,8 +21,9 @@ from catalogue import checks, files
 
 def main():
     parser = argparse.ArgumentParser(description="Draws up the star catalogue of Veyruna.")
-    parser.add_argument("--check", action="store_true",
-                        help="measure the files as they stand; exit 1 on a fault")
+    parser.add_argument(
+        "--check", action="store_true", help="measure the files as they stand; exit 1 on a fault"
+    )
     if parser.parse_args().check:
         sys.exit(1 if checks.run() else 0)
     files.write()

@@ -23,14 +23,17 @@ RESOURCES = Path(__file__).resolve().parent.parent / "resources"
 
 def main():
     parser = argparse.ArgumentParser(description="Draws the map of Tamsorel.")
-    parser.add_argument("--check", action="store_true",
-                        help="measure the picture as it stands; exit 1 on a fault")
+    parser.add_argument(
+        "--check", action="store_true", help="measure the picture as it stands; exit 1 on a fault"
+    )
     parser.add_argument("--into", type=Path, default=RESOURCES, help="the folder of the files")
     options = parser.parse_args()
     if options.check:
         from map_of_tamsorel import check
+
         sys.exit(0 if check.run(options.into / "tamsorel.jpg") else 1)
     from map_of_tamsorel import note, sheet
+
     names = sheet.make(options.into / "tamsorel.jpg")
     note.write(options.into / "tamsorel.md", names)
 

@@ -96,7 +96,9 @@ def check_links(manual, pages):
         if name not in reached:
             reached.add(name)
             ahead += followed.get(name, ())
-    yield from (f"{name} cannot be reached from index.html" for name in sorted(set(pages) - reached))
+    yield from (
+        f"{name} cannot be reached from index.html" for name in sorted(set(pages) - reached)
+    )
     sheet = (manual / "manual.css").read_text(encoding="utf-8")
     if "url(" in sheet or "@import" in sheet:
         yield "manual.css fetches something"
@@ -110,8 +112,13 @@ class Program:
 
     def lines(self, *arguments):
         result = subprocess.run(
-            [self._path, *arguments], capture_output=True, text=True, check=False, cwd=self._home,
-            env={"HOME": self._home, "PATH": os.defpath})
+            [self._path, *arguments],
+            capture_output=True,
+            text=True,
+            check=False,
+            cwd=self._home,
+            env={"HOME": self._home, "PATH": os.defpath},
+        )
         return [line.rstrip() for line in (result.stdout + result.stderr).splitlines()]
 
     def commands(self):

@@ -19,8 +19,8 @@ from .world import TAU
 COUNT = 454
 STREWN = 3600
 SEED = 20720
-BRIGHTEST, FAINTEST = 4.51, 6.0          # magnitudes
-STAR_GAP = math.cos(math.radians(1.9))    # to a figure's star
+BRIGHTEST, FAINTEST = 4.51, 6.0  # magnitudes
+STAR_GAP = math.cos(math.radians(1.9))  # to a figure's star
 
 
 class Obstacles:
@@ -74,8 +74,7 @@ def reaches(points, count):
     Each point by its local density; in radii of the sphere.
     """
     area = 4 * math.pi / sum(1 / d for _, d in points)
-    return [math.sqrt((area / d) * len(points) / count / (2 * math.sqrt(3))) * 2
-            for _, d in points]
+    return [math.sqrt((area / d) * len(points) / count / (2 * math.sqrt(3))) * 2 for _, d in points]
 
 
 def crowding(points, reach):
@@ -85,7 +84,7 @@ def crowding(points, reach):
     crowd = [0.0] * len(points)
     for k, i in enumerate(order):
         x, y, z = points[i][0]
-        for j in order[k + 1:]:
+        for j in order[k + 1 :]:
             x2, y2, z2 = points[j][0]
             if z2 - z > 0.5:
                 break
@@ -109,7 +108,7 @@ def thin_out(points, count):
     while len(left) > count:
         weight, i = heapq.heappop(heap)
         if i not in left or -weight != crowd[i]:
-            continue                      # an entry from before a neighbour went
+            continue  # an entry from before a neighbour went
         left.remove(i)
         for j, w in neighbours[i]:
             if j in left:

@@ -23,12 +23,16 @@ class PlacedDrawing(Drawing):
 
     The origin stands at lon and lat: degrees in the ecliptic frame, as it is seen.
     """
+
     lon: float
     lat: float
     size: float
 
 
-YELLOW_STAR = "_ULVANE4"          # the flame of the lantern
+YELLOW_STAR = "_ULVANE4"  # the flame of the lantern
+
+# A drawing is read by its points, several in a line.
+# fmt: off
 
 # The figures of the signs, in their order.  The origin is the middle of the sign on the
 # ecliptic; y = 0 is the ecliptic itself, negative y lies north of it.  The strip

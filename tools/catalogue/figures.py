@@ -12,7 +12,7 @@ from .world import sign_range
 
 @dataclass(frozen=True)
 class Star:
-    at: tuple       # ecliptic vector at which it is seen
+    at: tuple  # ecliptic vector at which it is seen
     mag: float
 
 
@@ -20,8 +20,8 @@ class Star:
 class Figure:
     name: str
     depicts: str
-    stars: list     # of anything that has `at` and `mag`
-    lines: list     # pairs of indices of stars
+    stars: list  # of anything that has `at` and `mag`
+    lines: list  # pairs of indices of stars
 
     @property
     def code(self):
@@ -40,8 +40,10 @@ class Figure:
 
         A star's dot is drawn in units of the star map, two to a degree.
         """
-        return min(min(arc_distance(p, a, b) for a, b in self.arcs),
-                   min(angle(p, s.at) - dot_size(s.mag) / 2 for s in self.stars))
+        return min(
+            min(arc_distance(p, a, b) for a, b in self.arcs),
+            min(angle(p, s.at) - dot_size(s.mag) / 2 for s in self.stars),
+        )
 
 
 def _figure(drawing, place):
@@ -54,8 +56,7 @@ def zodiac_figure(i):
     """The figure of a sign; its drawing is in longitudes and latitudes, to fit the sign."""
     start, end = sign_range(i)
     middle = math.degrees((start + end) / 2)
-    return _figure(drawings.ZODIAC[i],
-                   lambda x, y: vec(math.radians(middle - x), math.radians(-y)))
+    return _figure(drawings.ZODIAC[i], lambda x, y: vec(math.radians(middle - x), math.radians(-y)))
 
 
 def other_figure(drawing):

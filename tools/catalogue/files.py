@@ -42,8 +42,13 @@ def star_rows(figures, labels):
     for f in figures:
         for i, star in enumerate(f.stars, 1):
             name = "_%s%d" % (f.code, i)
-            yield as_row(name, "equatorial", YELLOW if name == YELLOW_STAR else WHITE,
-                         star_position(star.at), "%.2f" % star.mag)
+            yield as_row(
+                name,
+                "equatorial",
+                YELLOW if name == YELLOW_STAR else WHITE,
+                star_position(star.at),
+                "%.2f" % star.mag,
+            )
     for name, start in SIGNS:
         yield ",".join(("_" + name.upper(), "ecliptic", WHITE, start, "0.0", "1.0")) + "\n"
     for t in labels:
@@ -62,9 +67,11 @@ def draw_up():
     zodiac, others = zodiac_figures(), other_figures()
     figures = zodiac + others
     labels = place_names(zodiac, others)
-    return {STARS_CSV: STARS_HEAD + "".join(star_rows(figures, labels)),
-            LINES_CSV: LINES_HEAD + "".join(line_rows(figures)),
-            NOTE_MD: note_text(figures, labels)}
+    return {
+        STARS_CSV: STARS_HEAD + "".join(star_rows(figures, labels)),
+        LINES_CSV: LINES_HEAD + "".join(line_rows(figures)),
+        NOTE_MD: note_text(figures, labels),
+    }
 
 
 def write():

@@ -6,14 +6,74 @@ Lengths are units of the charts.  On the star map 1 degree from the centre is 2 
 import math
 
 # Advance widths, thousandths of the type size (Arial, Helvetica, Liberation Sans).
-ADVANCE = dict(zip("abcdefghijklmnopqrstuvwxyz",
-                   (556, 556, 500, 556, 556, 278, 556, 556, 222, 222, 500, 222, 833, 556, 556,
-                    556, 556, 333, 500, 278, 556, 500, 722, 500, 500, 500)))
-ADVANCE.update(zip("ABCDEFGHIJKLMNOPQRSTUVWXYZ",
-                   (667, 667, 722, 722, 667, 611, 778, 722, 278, 500, 667, 556, 833, 722, 778,
-                    667, 778, 722, 667, 611, 722, 667, 944, 667, 667, 611)))
+ADVANCE = dict(
+    zip(
+        "abcdefghijklmnopqrstuvwxyz",
+        (
+            556,
+            556,
+            500,
+            556,
+            556,
+            278,
+            556,
+            556,
+            222,
+            222,
+            500,
+            222,
+            833,
+            556,
+            556,
+            556,
+            556,
+            333,
+            500,
+            278,
+            556,
+            500,
+            722,
+            500,
+            500,
+            500,
+        ),
+    )
+)
+ADVANCE.update(
+    zip(
+        "ABCDEFGHIJKLMNOPQRSTUVWXYZ",
+        (
+            667,
+            667,
+            722,
+            722,
+            667,
+            611,
+            778,
+            722,
+            278,
+            500,
+            667,
+            556,
+            833,
+            722,
+            778,
+            667,
+            778,
+            722,
+            667,
+            611,
+            722,
+            667,
+            944,
+            667,
+            667,
+            611,
+        ),
+    )
+)
 ADVANCE[" "] = 278
-TYPE = 5.0                        # type size of every name on the charts
+TYPE = 5.0  # type size of every name on the charts
 ASCENT, DESCENT = 0.73 * TYPE, 0.21 * TYPE
 
 

@@ -21,10 +21,11 @@ POLE_STAR_AT = to_ecliptic(vec(math.radians(40.0), math.radians(89.6)))
 @dataclass(frozen=True)
 class Label:
     """A name; one that has a magnitude is a star too."""
+
     name: str
     frame: str
     color: str
-    at: tuple       # ecliptic vector; names are shown where they stand
+    at: tuple  # ecliptic vector; names are shown where they stand
     mag: float = 0
 
 
@@ -35,10 +36,10 @@ def clearance(name, p, own, figures, labels):
     more is left around the star with a name.
     """
     reach = map_reach(name, 0)
-    gaps = [f.distance(p) - reach for f in figures
-            if f is not own and angle(p, f.centre) < 40]
-    gaps += [angle(p, t.at) - reach - map_reach(t.name, t.mag) - (0.5 if t.mag else 0)
-             for t in labels]
+    gaps = [f.distance(p) - reach for f in figures if f is not own and angle(p, f.centre) < 40]
+    gaps += [
+        angle(p, t.at) - reach - map_reach(t.name, t.mag) - (0.5 if t.mag else 0) for t in labels
+    ]
     return min(gaps)
 
 
@@ -61,8 +62,12 @@ def sign_label(i, figures, labels):
 
 def rim_crossings(zodiac):
     """Longitudes at which a line of the zodiac passes through the strip of the rim's names."""
-    points = [between(from_middle(a), from_middle(b), k / 60)
-              for f in zodiac for a, b in f.arcs for k in range(61)]
+    points = [
+        between(from_middle(a), from_middle(b), k / 60)
+        for f in zodiac
+        for a, b in f.arcs
+        for k in range(61)
+    ]
     return [longitude(x, y) for x, y in points if 167 < math.hypot(x, y) < 177]
 
 
@@ -79,7 +84,7 @@ def rim_cost(name, lon, figure, crossings, labels):
             start2, end2 = rim_interval(t.name, angles(t.at)[0], INNER_PATH)
             gap = min(gap, max(start2 - end, start - end2))
     width = text_width(name) / INNER_PATH
-    to_line = INNER_PATH * min(max(lon - l, l - lon - width) for l in crossings)
+    to_line = INNER_PATH * min(max(lon - line, line - lon - width) for line in crossings)
     off = (lon + width / 2 - angles(figure.centre)[0] + math.pi) % TAU - math.pi
     return 2 * max(0, 10 - gap) + 3 * max(0, 3 - to_line) + 0.15 * math.degrees(abs(off))
 

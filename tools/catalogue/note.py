@@ -83,12 +83,25 @@ def sign_at(lon):
 def note_text(figures, labels):
     band_lon = next(angles(t.at)[0] for t in labels if t.name == band.NAME)
     out = NOTE_HEAD % {
-        "pole": POLE_STAR, "band": band.NAME, "under": sign_at(band_lon), "flame": YELLOW_STAR,
-        "lantern": "Ulvane", "yellow": "yellow (%s)" % YELLOW, "white": "white (%s)" % WHITE,
+        "pole": POLE_STAR,
+        "band": band.NAME,
+        "under": sign_at(band_lon),
+        "flame": YELLOW_STAR,
+        "lantern": "Ulvane",
+        "yellow": "yellow (%s)" % YELLOW,
+        "white": "white (%s)" % WHITE,
     }
     for f in figures:
         lon, lat = (math.degrees(x) for x in angles(f.centre))
         declination = math.degrees(angles(to_equatorial(f.centre))[1])
         out += "| %s | %s | %s | %d | %d | %.0f° | %+.0f° | %+.0f° |\n" % (
-            f.code, f.name, f.depicts, len(f.stars), len(f.lines), lon, lat, declination)
+            f.code,
+            f.name,
+            f.depicts,
+            len(f.stars),
+            len(f.lines),
+            lon,
+            lat,
+            declination,
+        )
     return out

@@ -22,8 +22,10 @@ def between(a, b, t):
 
 def meeting_point(a, b, c, d):
     """Where the lines a-b and c-d cross, None if they do not."""
+
     def side(p, q, r):
         return (q[0] - p[0]) * (r[1] - p[1]) - (q[1] - p[1]) * (r[0] - p[0])
+
     a_side, b_side = side(c, d, a), side(c, d, b)
     if (side(a, b, c) > 0) == (side(a, b, d) > 0) or (a_side > 0) == (b_side > 0):
         return None

@@ -8,7 +8,7 @@ import math
 
 from .world import TAU, TILT, TURN
 
-NORTH = (0.0, 0.0, 1.0)   # the pole of whatever frame a vector is given in
+NORTH = (0.0, 0.0, 1.0)  # the pole of whatever frame a vector is given in
 
 
 def vec(lon, lat):
@@ -112,13 +112,17 @@ def arc_distance(p, a, b):
 
 def _arcs_cross(a, b, c, d):
     n1, n2 = cross(a, b), cross(c, d)
-    return ((dot(n1, c) > 0) != (dot(n1, d) > 0) and (dot(n2, a) > 0) != (dot(n2, b) > 0)
-            and dot(mean((a, b)), mean((c, d))) > 0)
+    return (
+        (dot(n1, c) > 0) != (dot(n1, d) > 0)
+        and (dot(n2, a) > 0) != (dot(n2, b) > 0)
+        and dot(mean((a, b)), mean((c, d))) > 0
+    )
 
 
 def arc_arc_distance(a, b, c, d):
     """Degrees between the great-circle arcs a-b and c-d."""
     if _arcs_cross(a, b, c, d):
         return 0.0
-    return min(arc_distance(a, c, d), arc_distance(b, c, d),
-               arc_distance(c, a, b), arc_distance(d, a, b))
+    return min(
+        arc_distance(a, c, d), arc_distance(b, c, d), arc_distance(c, a, b), arc_distance(d, a, b)
+    )

@@ -11,7 +11,7 @@ from .lettering import text_width
 from .sphere import angles
 from .world import TAU
 
-OUTER_PATH, INNER_PATH = 175, 170   # radii: white names run on the outer one, others inside
+OUTER_PATH, INNER_PATH = 175, 170  # radii: white names run on the outer one, others inside
 
 
 def project(v):

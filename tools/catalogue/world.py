@@ -4,16 +4,24 @@ import math
 
 TAU = 2 * math.pi
 
-TILT = 0.3665191429188092      # between ecliptic and equator, radians
-TURN = -math.radians(18)       # how far the charts turn numbered stars in ecliptic longitude
+TILT = 0.3665191429188092  # between ecliptic and equator, radians
+TURN = -math.radians(18)  # how far the charts turn numbered stars in ecliptic longitude
 
 WHITE, YELLOW, GREY = "#f4f4f3", "#fef651", "#adadad"
 
 SIGNS = [  # name, start in radians of ecliptic longitude as it is written in the catalogue
-    ("Gimbral", "0.02106"), ("Sevrino", "0.54465"), ("Lothac", "1.05089"),
-    ("Pemi", "1.59169"), ("Istramondel", "2.13298"), ("Felum", "2.69112"),
-    ("Corra", "3.19759"), ("Bessim", "3.70378"), ("Wen", "4.20993"),
-    ("Ostrel", "4.71598"), ("Quelin", "5.23987"), ("Voni", "5.74599"),
+    ("Gimbral", "0.02106"),
+    ("Sevrino", "0.54465"),
+    ("Lothac", "1.05089"),
+    ("Pemi", "1.59169"),
+    ("Istramondel", "2.13298"),
+    ("Felum", "2.69112"),
+    ("Corra", "3.19759"),
+    ("Bessim", "3.70378"),
+    ("Wen", "4.20993"),
+    ("Ostrel", "4.71598"),
+    ("Quelin", "5.23987"),
+    ("Voni", "5.74599"),
 ]
 
 

@@ -11,7 +11,7 @@ from PIL import Image
 from . import graticule
 from .world import HEIGHT, PLACES, WIDTH
 
-WORST = 0.75           # pixels
+WORST = 0.75  # pixels
 
 
 def redness(window):
@@ -29,8 +29,8 @@ def centre(picture, x, y, reach, weight):
     """The middle (x, y) of a weight near a pixel, and the weight's sum."""
     for _ in range(3):
         left, top = max(int(x - reach) - 1, 0), max(int(y - reach) - 1, 0)
-        window = picture[top:int(y + reach) + 2, left:int(x + reach) + 2]
-        rows, columns = np.mgrid[top:top + window.shape[0], left:left + window.shape[1]] + 0.5
+        window = picture[top : int(y + reach) + 2, left : int(x + reach) + 2]
+        rows, columns = np.mgrid[top : top + window.shape[0], left : left + window.shape[1]] + 0.5
         share = weight(window) * (np.hypot(columns - x, rows - y) <= reach)
         total = share.sum()
         if total == 0:
@@ -44,21 +44,28 @@ def run(path):
     image = Image.open(path)
     picture = np.asarray(image.convert("RGB"), float)
     good = image.size == (WIDTH, HEIGHT) and image.mode == "RGB"
-    print(f"{path.name}: {image.size[0]} x {image.size[1]} {image.mode}, {path.stat().st_size} bytes")
+    print(
+        f"{path.name}: {image.size[0]} x {image.size[1]} {image.mode}, {path.stat().st_size} bytes"
+    )
     marks_at = [(p.name, *p.pixel) for p in PLACES]
     dots_at = [(f"{lon} E {lat} N", x, y) for lon, lat, x, y in graticule.crossings()]
-    for what, spots, reach, weight in (("marks", marks_at, 12.0, redness),
-                                       ("crossings", dots_at, 6.5, darkness)):
+    for what, spots, reach, weight in (
+        ("marks", marks_at, 12.0, redness),
+        ("crossings", dots_at, 6.5, darkness),
+    ):
         found = [centre(picture, x, y, reach, weight) for _, x, y in spots]
         sums = np.array([f[2] for f in found])
-        off = np.array([np.hypot(f[0] - s[1], f[1] - s[2]) if f[2] else 1e3
-                        for f, s in zip(found, spots)])
+        off = np.array(
+            [np.hypot(f[0] - s[1], f[1] - s[2]) if f[2] else 1e3 for f, s in zip(found, spots)]
+        )
         worst = int(off.argmax())
         # A spot that is missing or half hidden has an odd weight.
         odd = [s[0] for s, total in zip(spots, sums) if abs(total / np.median(sums) - 1) > 0.25]
         low, high = sums.min() / np.median(sums), sums.max() / np.median(sums)
-        print(f"  {len(spots)} {what}: mean error {off.mean():.3f}, worst {off[worst]:.3f} pixels"
-              f" ({spots[worst][0]}); weights {low:.2f} to {high:.2f} of the median")
+        print(
+            f"  {len(spots)} {what}: mean error {off.mean():.3f}, worst {off[worst]:.3f} pixels"
+            f" ({spots[worst][0]}); weights {low:.2f} to {high:.2f} of the median"
+        )
         if odd:
             print("    odd:", ", ".join(odd))
         good = good and off.max() <= WORST and not odd

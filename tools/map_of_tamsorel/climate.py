@@ -32,8 +32,12 @@ def rain(land, heights, lat):
     fallen = westerly * _blown(land, heights, True) + (1 - westerly) * _blown(land, heights, False)
     near_land = ndimage.gaussian_filter(land.astype(float), 16)
     fallen = ndimage.gaussian_filter(fallen, 16) / np.maximum(near_land, 0.05)
-    belt = 1.25 * np.exp(-(lat / 12) ** 2) + np.exp(-((lat - 48) / 15) ** 2) \
-        + 0.25 - 0.35 * np.exp(-((lat - 24) / 7) ** 2)
+    belt = (
+        1.25 * np.exp(-((lat / 12) ** 2))
+        + np.exp(-(((lat - 48) / 15) ** 2))
+        + 0.25
+        - 0.35 * np.exp(-(((lat - 24) / 7) ** 2))
+    )
     wet = fallen / 0.0024 * np.clip(belt, 0.05, None) + 0.05 * noise.fractal(land.shape, 60, 4, 701)
     return np.clip(0.55 * wet, 0.02, 1.0)
 

@@ -13,7 +13,7 @@ class Country:
     def __init__(self):
         self.land, self.lakes = land.field(), relief.lake_field()
         x, y = land.pixel_grids(relief.GRID)
-        coarse = np.s_[:2 * x.shape[0]:2, :2 * x.shape[1]:2]
+        coarse = np.s_[: 2 * x.shape[0] : 2, : 2 * x.shape[1] : 2]
         dry, lakes, lat = self.land[coarse], self.lakes[coarse], to_degrees(x, y)[1]
         rain = climate.rain(dry > 0, relief.raw_heights(dry), lat)
         heights, drainage = relief.heights(dry, lakes, rain / rain[dry > 0].mean())
@@ -37,6 +37,8 @@ class Country:
         ragged = 0.35 * noise.fractal(self.land.shape, 60, 4, seed)
         field = np.zeros(self.land.shape)
         for lon, lat, radius in blots:
-            away = np.hypot((self.lon - lon) * np.cos(np.radians(self.lat)), self.lat - lat) / radius
+            away = (
+                np.hypot((self.lon - lon) * np.cos(np.radians(self.lat)), self.lat - lat) / radius
+            )
             field = np.maximum(field, np.clip(1.35 - away - ragged, 0, 0.6) / 0.6)
         return field * (self.land > 0)

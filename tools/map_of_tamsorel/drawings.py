@@ -3,6 +3,9 @@
 The outlines are rough on purpose: the coast's small forms grow on them by themselves.
 """
 
+# A drawing is read by its points, several in a line.
+# fmt: off
+
 # Outlines of the lands: how rough their coasts are (1: as the continent), and corners.
 LANDS = (
     (1.0, (  # the continent, clockwise from its north-western cape
@@ -52,7 +55,7 @@ ISLETS = (
 RANGES = (
     (0.80, 82, ((-21.5, 48.2), (-17, 50), (-12, 50.4), (-8.5, 48.6), (-6.0, 45.4))),
     (1.00, 104, ((-6.0, 45.4), (-3.6, 41.6), (0.2, 38.9), (5, 38.2), (10, 38.2), (14.5, 37.2),
-                (18, 34.6), (21, 31.2), (23.4, 27.6))),
+                 (18, 34.6), (21, 31.2), (23.4, 27.6))),
     (0.85, 84, ((23.4, 27.6), (25.2, 25.3), (28.8, 22.0), (28.9, 17.6), (27.9, 13.2),
                 (27.5, 9.2))),
     (0.62, 54, ((-22.3, 35.2), (-20.1, 32.4), (-19.9, 28.6), (-19.7, 26))),

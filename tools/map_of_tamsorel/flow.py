@@ -15,10 +15,10 @@ NEIGHBOURS = ((-1, -1), (-1, 0), (-1, 1), (0, -1), (0, 1), (1, -1), (1, 0), (1, 
 
 @dataclass
 class Drainage:
-    filled: np.ndarray      # heights with the hollows filled
-    receiver: np.ndarray    # flat index of the cell that water runs to; itself at sea
-    order: np.ndarray       # flat indices of the land cells, lowest first
-    water: np.ndarray       # rain gathered from above, in cells of mean rain
+    filled: np.ndarray  # heights with the hollows filled
+    receiver: np.ndarray  # flat index of the cell that water runs to; itself at sea
+    order: np.ndarray  # flat indices of the land cells, lowest first
+    water: np.ndarray  # rain gathered from above, in cells of mean rain
 
 
 def _fill(ground, land):
@@ -60,7 +60,9 @@ def drain(ground, land, rain):
     index = np.arange(rows * columns).reshape(rows, columns)
     steepest, receiver = np.zeros_like(filled), index.copy()
     for dy, dx in NEIGHBOURS:
-        drop = (filled - edged[1 + dy:1 + dy + rows, 1 + dx:1 + dx + columns]) / np.hypot(dy, dx)
+        drop = (filled - edged[1 + dy : 1 + dy + rows, 1 + dx : 1 + dx + columns]) / np.hypot(
+            dy, dx
+        )
         y, x = np.mgrid[0:rows, 0:columns]
         inside = (y + dy >= 0) & (y + dy < rows) & (x + dx >= 0) & (x + dx < columns)
         better = (drop > steepest) & land & inside

@@ -7,11 +7,11 @@ from .paint import INK, rgb
 from .world import EAST, HEIGHT, NORTH, SOUTH, WEST, WIDTH, to_degrees, to_pixel
 
 STEP = 5
-DOT, PEARL = 3.6, 7.0                       # radii in pixels: the dot, and the pale disc under it
+DOT, PEARL = 3.6, 7.0  # radii in pixels: the dot, and the pale disc under it
 DOT_COLOUR, PEARL_COLOUR = rgb("#1d3557"), rgb("#f4ead0")
-CLEAR = 12.0                                # pixels around a crossing where nothing else is drawn
-INSET = 8.0                                 # crossings nearer to the sheet's edge carry no dot
-BAND = 13.0                                 # pixels, the frame's graduated band
+CLEAR = 12.0  # pixels around a crossing where nothing else is drawn
+INSET = 8.0  # crossings nearer to the sheet's edge carry no dot
+BAND = 13.0  # pixels, the frame's graduated band
 
 
 def meridian(lon, count=241):
@@ -66,6 +66,7 @@ def draw_net(c):
 
 def draw_frame(c):
     """The border line, and outside of it a band of dark and light degrees."""
+
     def outward(lon, lat):
         """A frame point and the way out of the area."""
         x, y = to_pixel(lon, lat)
@@ -75,7 +76,9 @@ def draw_frame(c):
 
     edges = []
     for lon in (WEST, EAST):
-        edges += [[outward(lon, lat + k / 6) for k in range(7)] for lat in range(int(SOUTH), int(NORTH))]
+        edges += [
+            [outward(lon, lat + k / 6) for k in range(7)] for lat in range(int(SOUTH), int(NORTH))
+        ]
     for lat, way in ((SOUTH, 1.0), (NORTH, -1.0)):
         for lon in range(int(WEST), int(EAST)):
             edges.append([(np.array(to_pixel(lon + k, lat)), np.array([0, way])) for k in (0, 1)])

@@ -28,14 +28,22 @@ def broadleaf(c, size, chance, colour=LEAF):
         a = 2 * math.pi * (k + turn) / bumps
         r = radius * chance.uniform(0.9, 1.08)
         spots.append((r * math.cos(a), middle + 0.86 * r * math.sin(a)))
+
     def crown():
         c.move_to(*spots[0])
         for k in range(bumps):
             (ax, ay), (bx, by) = spots[k], spots[(k + 1) % bumps]
             mx, my = (ax + bx) / 2 * 1.42, middle + ((ay + by) / 2 - middle) * 1.42
-            c.curve_to(mx * 0.6 + ax * 0.45, my * 0.6 + ay * 0.4,
-                       mx * 0.6 + bx * 0.45, my * 0.6 + by * 0.4, bx, by)
+            c.curve_to(
+                mx * 0.6 + ax * 0.45,
+                my * 0.6 + ay * 0.4,
+                mx * 0.6 + bx * 0.45,
+                my * 0.6 + by * 0.4,
+                bx,
+                by,
+            )
         c.close_path()
+
     tone = chance.uniform(-0.035, 0.035)
     crown()
     leaf = cairo.LinearGradient(-radius, middle - radius, radius, middle + radius)

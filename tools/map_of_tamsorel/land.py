@@ -13,15 +13,15 @@ from .drawings import ISLETS, LANDS
 from .world import HEIGHT, PLACES, WIDTH, to_degrees, to_pixel
 
 GRID = 2
-SHAPE = (HEIGHT // GRID, WIDTH // GRID)          # the relief's grid is twice as coarse
-SMALLEST_ISLE, SMALLEST_POND = 40, 2500          # cells
+SHAPE = (HEIGHT // GRID, WIDTH // GRID)  # the relief's grid is twice as coarse
+SMALLEST_ISLE, SMALLEST_POND = 40, 2500  # cells
 FJORD_COUNTRY = ((-24, 46, 11, 11), (4, 52, 12, 4.5), (38, 54, 7, 8), (-33, 51, 6, 4))
 
 
 def pixel_grids(grid=GRID):
     """The pixel coordinates (x, y) of the middle of every cell."""
     shape = (HEIGHT // grid, WIDTH // grid)
-    y, x = np.mgrid[0:shape[0], 0:shape[1]].astype(float)
+    y, x = np.mgrid[0 : shape[0], 0 : shape[1]].astype(float)
     return (x + 0.5) * grid, (y + 0.5) * grid
 
 
@@ -41,10 +41,14 @@ def _islets(x, y):
         for k in range(count):
             share = (k + chance.uniform(-0.3, 0.3)) / (count - 1)
             bend = 1.2 * np.sin(np.pi * share) + chance.uniform(-0.5, 0.5)
-            at_x, at_y = to_pixel(start[0] + share * (end[0] - start[0]) + 0.6 * bend,
-                                  start[1] + share * (end[1] - start[1]) + bend)
+            at_x, at_y = to_pixel(
+                start[0] + share * (end[0] - start[0]) + 0.6 * bend,
+                start[1] + share * (end[1] - start[1]) + bend,
+            )
             size = radius * chance.uniform(0.6, 1.8)
-            field = np.maximum(field, size - np.hypot(x - at_x, (y - at_y) * chance.uniform(0.8, 1.3)))
+            field = np.maximum(
+                field, size - np.hypot(x - at_x, (y - at_y) * chance.uniform(0.8, 1.3))
+            )
     return field
 
 
@@ -53,7 +57,9 @@ def _fjords(field, x, y):
     lon, lat = to_degrees(x, y)
     country = np.zeros(SHAPE)
     for at_lon, at_lat, wide, high in FJORD_COUNTRY:
-        country = np.maximum(country, np.exp(-((lon - at_lon) / wide) ** 4 - ((lat - at_lat) / high) ** 4))
+        country = np.maximum(
+            country, np.exp(-(((lon - at_lon) / wide) ** 4) - ((lat - at_lat) / high) ** 4)
+        )
     wander = noise.fractal(SHAPE, 66, 3, 401)
     cut = np.clip(1.25 - np.abs(wander) / 0.17, 0, 1)
     reach = np.clip(1.7 - field / 95, 0, 1)
@@ -67,9 +73,9 @@ def _settle(field, x, y):
         away = np.hypot(x - at_x, y - at_y)
         here = field[int(at_y / GRID), int(at_x / GRID)]
         if place.shore:
-            field += (place.shore - here) * np.exp(-(away / 90) ** 2)
+            field += (place.shore - here) * np.exp(-((away / 90) ** 2))
         elif here < 90:
-            field += (90 - here) * np.exp(-(away / 110) ** 2)
+            field += (90 - here) * np.exp(-((away / 110) ** 2))
     return field
 
 
@@ -87,14 +93,23 @@ def _tidy(field):
 def field():
     """The signed field of land and sea."""
     x, y = pixel_grids()
-    rough = (38 * noise.waves(SHAPE, 160, 101) + 42 * noise.waves(SHAPE, 72, 102)
-             + 27 * noise.waves(SHAPE, 34, 103) + 16 * noise.waves(SHAPE, 16, 104)
-             + 8.5 * noise.waves(SHAPE, 8, 105) + 3.4 * noise.waves(SHAPE, 4, 106))
+    rough = (
+        38 * noise.waves(SHAPE, 160, 101)
+        + 42 * noise.waves(SHAPE, 72, 102)
+        + 27 * noise.waves(SHAPE, 34, 103)
+        + 16 * noise.waves(SHAPE, 16, 104)
+        + 8.5 * noise.waves(SHAPE, 8, 105)
+        + 3.4 * noise.waves(SHAPE, 4, 106)
+    )
     # Rough and smooth coasts take turns.
-    fine = 9 * noise.fractal(SHAPE, 20, 3, 110) * np.clip(0.4 + noise.waves(SHAPE, 180, 115), 0, 1.6)
+    fine = (
+        9 * noise.fractal(SHAPE, 20, 3, 110) * np.clip(0.4 + noise.waves(SHAPE, 180, 115), 0, 1.6)
+    )
     land = np.full(SHAPE, -1e3)
     for roughness, corners in LANDS:
         land = np.maximum(land, _outline_distance(corners) + roughness * (rough + fine))
-    land = np.maximum(land, _islets(x, y) + 0.36 * (rough - 38 * noise.waves(SHAPE, 160, 101)) + 0.8 * fine)
+    land = np.maximum(
+        land, _islets(x, y) + 0.36 * (rough - 38 * noise.waves(SHAPE, 160, 101)) + 0.8 * fine
+    )
     land -= _fjords(land, x, y)
     return _tidy(_settle(land, x, y))

@@ -9,11 +9,11 @@ from .land import GRID
 from .names import NAMES, RIVERS, STYLES, UNDER
 from .world import HEIGHT, PLACES, WIDTH, to_pixel
 
-GAP = 9.0                  # pixels between names, and from names to marks and ornaments
-CROSSING_GAP = 12.0        # pixels from names to the middle of a crossing
-FRAME_GAP = 18             # pixels from names to the frame
-STEP = 12                  # pixels between tries
-FIRST = ("range", "ocean", "sea", "region", "land")     # the great names choose before the rest
+GAP = 9.0  # pixels between names, and from names to marks and ornaments
+CROSSING_GAP = 12.0  # pixels from names to the middle of a crossing
+FRAME_GAP = 18  # pixels from names to the frame
+STEP = 12  # pixels between tries
+FIRST = ("range", "ocean", "sea", "region", "land")  # the great names choose before the rest
 GRAIN = np.linspace(0, 1, 5)
 
 
@@ -25,7 +25,9 @@ class Room:
         self.shape = land.shape
         self.land = land > 0
         self.shore = np.abs(land) < 7
-        inside = ndimage.distance_transform_edt(self.land) - ndimage.distance_transform_edt(~self.land)
+        inside = ndimage.distance_transform_edt(self.land) - ndimage.distance_transform_edt(
+            ~self.land
+        )
         self.inland = inside * GRID
         water = Image.new("L", self.shape[::-1])
         pen = ImageDraw.Draw(water)
@@ -34,9 +36,11 @@ class Room:
         self.rivers = np.array(water, bool) | (country.lakes > -6) & self.land
         self.steep = country.heights > 0.30
         self.busy = np.zeros(self.shape, bool)
-        y, x = np.mgrid[0:self.shape[0], 0:self.shape[1]]
+        y, x = np.mgrid[0 : self.shape[0], 0 : self.shape[1]]
         self.outside = ~graticule.valid((x + 0.5) * GRID, (y + 0.5) * GRID)
-        self.outside = ndimage.binary_dilation(self.outside, iterations=FRAME_GAP // GRID, border_value=1)
+        self.outside = ndimage.binary_dilation(
+            self.outside, iterations=FRAME_GAP // GRID, border_value=1
+        )
         for _, _, px, py in graticule.crossings():
             self._disc(px, py, CROSSING_GAP + 4)
         for place in PLACES:
@@ -47,8 +51,10 @@ class Room:
             self.block(label.boxes(), GAP)
 
     def _disc(self, x, y, radius):
-        box = np.s_[max(int((y - radius) / GRID), 0):int((y + radius) / GRID) + 2,
-                    max(int((x - radius) / GRID), 0):int((x + radius) / GRID) + 2]
+        box = np.s_[
+            max(int((y - radius) / GRID), 0) : int((y + radius) / GRID) + 2,
+            max(int((x - radius) / GRID), 0) : int((x + radius) / GRID) + 2,
+        ]
         rows, columns = np.mgrid[box]
         self.busy[box] |= np.hypot((columns + 0.5) * GRID - x, (rows + 0.5) * GRID - y) < radius
 
@@ -72,14 +78,22 @@ def _samples(label):
     boxes = label.boxes()
     u, v = boxes[:, 1] - boxes[:, 0], boxes[:, 3] - boxes[:, 0]
     a, b = np.meshgrid(GRAIN, GRAIN)
-    return (boxes[:, 0, None] + u[:, None] * a.ravel()[None, :, None]
-            + v[:, None] * b.ravel()[None, :, None]).reshape(-1, 2)
+    return (
+        boxes[:, 0, None]
+        + u[:, None] * a.ravel()[None, :, None]
+        + v[:, None] * b.ravel()[None, :, None]
+    ).reshape(-1, 2)
 
 
 def _cost(room, points, under):
     """How badly a name would stand on these points; None where it may not."""
     column, row = (points / GRID).astype(int).T
-    if column.min() < 0 or row.min() < 0 or column.max() >= room.shape[1] or row.max() >= room.shape[0]:
+    if (
+        column.min() < 0
+        or row.min() < 0
+        or column.max() >= room.shape[1]
+        or row.max() >= room.shape[0]
+    ):
         return None
     if room.busy[row, column].any() or room.outside[row, column].any():
         return None
@@ -157,8 +171,13 @@ def _along_river(room, name, lon, lat, rivers):
                     cost = _cost(room, _samples(label), "any")
                     if cost is None:
                         continue
-                    cost += 60 * np.ptp(angles) + 0.5 * far + 26 * abs(middle) + (4 if off > 0 else 0) \
+                    cost += (
+                        60 * np.ptp(angles)
+                        + 0.5 * far
+                        + 26 * abs(middle)
+                        + (4 if off > 0 else 0)
                         - 0.01 * min(river.water, 4000) ** 0.9
+                    )
                     if best is None or cost < best[0]:
                         best = (cost, label)
     return best and best[1]
@@ -201,17 +220,28 @@ def verify(names, figures, ornament_boxes):
     places = np.array([place.pixel for place in PLACES])
     for k, label in enumerate(labels):
         for other in range(k):
-            assert not lettering.touching(boxes[k], boxes[other], 2.0), \
-                f"{label.text} touches {labels[other].text}"
+            assert not lettering.touching(
+                boxes[k], boxes[other], 2.0
+            ), f"{label.text} touches {labels[other].text}"
         for box in ornament_boxes if k < len(names) else ():
-            assert not lettering.touching(boxes[k], box[None], 2.0), f"{label.text} touches an ornament"
-        assert lettering.nearest_to(boxes[k], points) >= graticule.PEARL + 2, f"{label.text} is on a crossing"
+            assert not lettering.touching(
+                boxes[k], box[None], 2.0
+            ), f"{label.text} touches an ornament"
+        assert (
+            lettering.nearest_to(boxes[k], points) >= graticule.PEARL + 2
+        ), f"{label.text} is on a crossing"
         assert lettering.nearest_to(boxes[k], places) >= marks.RIM + 1, f"{label.text} is on a mark"
         low, high = boxes[k].min((0, 1)), boxes[k].max((0, 1))
-        assert low.min() >= 2 and (high <= (WIDTH - 2, HEIGHT - 2)).all(), f"{label.text} leaves the sheet"
+        assert (
+            low.min() >= 2 and (high <= (WIDTH - 2, HEIGHT - 2)).all()
+        ), f"{label.text} leaves the sheet"
     letters = sum(len(b) for b in boxes)
     for box in ornament_boxes:
-        assert lettering.nearest_to(box[None], points) >= CROSSING_GAP, "an ornament is on a crossing"
+        assert (
+            lettering.nearest_to(box[None], points) >= CROSSING_GAP
+        ), "an ornament is on a crossing"
     pairs = len(labels) * (len(labels) - 1) // 2
-    print(f"  {len(names)} names and {len(figures)} figures, {letters} letters: none touches another"
-          f" ({pairs} pairs), {len(points)} crossings and {len(places)} marks clear")
+    print(
+        f"  {len(names)} names and {len(figures)} figures, {letters} letters: none touches another"
+        f" ({pairs} pairs), {len(points)} crossings and {len(places)} marks clear"
+    )

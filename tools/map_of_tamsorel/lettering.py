@@ -13,26 +13,49 @@ from pathlib import Path
 import numpy as np
 
 FONTS = Path(__file__).with_name("fonts")
-_folder = tempfile.TemporaryDirectory(prefix="map-fonts-")     # gone when the program ends
+_folder = tempfile.TemporaryDirectory(prefix="map-fonts-")  # gone when the program ends
 _config = Path(_folder.name) / "fonts.conf"
-_config.write_text(f"<?xml version='1.0'?><fontconfig><dir>{FONTS}</dir>"
-                   f"<cachedir>{_config.parent}</cachedir></fontconfig>")
+_config.write_text(
+    f"<?xml version='1.0'?><fontconfig><dir>{FONTS}</dir>"
+    f"<cachedir>{_config.parent}</cachedir></fontconfig>"
+)
 os.environ["FONTCONFIG_FILE"] = str(_config)
 
 import cairo  # noqa: E402  (must come after the fonts are named)
 
 FAMILY = "EB Garamond"
 # Pairs that stand too far apart, in em.
-KERN = {"Vo": -.07, "Ve": -.06, "Va": -.07, "We": -.05, "Wa": -.06, "To": -.07, "Te": -.07, "Ta": -.08,
-        "Pa": -.05, "Pe": -.02, "AV": -.10, "VA": -.10, "AW": -.08, "WA": -.08, "LT": -.06, "TA": -.06,
-        "AT": -.06, "LV": -.08, "RV": -.03, "Fa": -.03, "Yo": -.07, "ow": -.01}
+KERN = {
+    "Vo": -0.07,
+    "Ve": -0.06,
+    "Va": -0.07,
+    "We": -0.05,
+    "Wa": -0.06,
+    "To": -0.07,
+    "Te": -0.07,
+    "Ta": -0.08,
+    "Pa": -0.05,
+    "Pe": -0.02,
+    "AV": -0.10,
+    "VA": -0.10,
+    "AW": -0.08,
+    "WA": -0.08,
+    "LT": -0.06,
+    "TA": -0.06,
+    "AT": -0.06,
+    "LV": -0.08,
+    "RV": -0.03,
+    "Fa": -0.03,
+    "Yo": -0.07,
+    "ow": -0.01,
+}
 
 
 @dataclass(frozen=True)
 class Style:
-    size: float               # pixels to the em
+    size: float  # pixels to the em
     italic: bool = False
-    tracking: float = 0.0     # extra room after each letter, in em
+    tracking: float = 0.0  # extra room after each letter, in em
     colour: tuple = (0.25, 0.18, 0.13)
     alpha: float = 1.0
 
@@ -42,8 +65,8 @@ class Letter:
     char: str
     x: float
     y: float
-    angle: float              # radians, clockwise on the sheet
-    box: np.ndarray           # the ink's four corners in pixels
+    angle: float  # radians, clockwise on the sheet
+    box: np.ndarray  # the ink's four corners in pixels
 
 
 @dataclass
@@ -58,16 +81,23 @@ class Label:
 
     def moved(self, dx, dy):
         shift = np.array([dx, dy])
-        return Label(self.text, self.kind, self.style,
-                     [Letter(t.char, t.x + dx, t.y + dy, t.angle, t.box + shift) for t in self.letters])
+        return Label(
+            self.text,
+            self.kind,
+            self.style,
+            [Letter(t.char, t.x + dx, t.y + dy, t.angle, t.box + shift) for t in self.letters],
+        )
 
 
 _scratch = cairo.Context(cairo.ImageSurface(cairo.FORMAT_A8, 8, 8))
 
 
 def choose(context, style):
-    context.select_font_face(FAMILY, cairo.FONT_SLANT_ITALIC if style.italic else cairo.FONT_SLANT_NORMAL,
-                             cairo.FONT_WEIGHT_NORMAL)
+    context.select_font_face(
+        FAMILY,
+        cairo.FONT_SLANT_ITALIC if style.italic else cairo.FONT_SLANT_NORMAL,
+        cairo.FONT_WEIGHT_NORMAL,
+    )
     context.set_font_size(style.size)
     options = cairo.FontOptions()
     options.set_hint_style(cairo.HINT_STYLE_NONE)
@@ -83,16 +113,22 @@ def advances(text, style):
     for k, char in enumerate(text):
         starts.append(at)
         at += _scratch.text_extents(char).x_advance + style.tracking * style.size
-        at += KERN.get(text[k:k + 2], 0.0) * style.size
+        at += KERN.get(text[k : k + 2], 0.0) * style.size
     return starts, at - style.tracking * style.size
 
 
 def _letter(char, x, y, angle, style):
     e = _scratch.text_extents(char)
     c, s = math.cos(angle), math.sin(angle)
-    corners = [(e.x_bearing, e.y_bearing), (e.x_bearing + e.width, e.y_bearing),
-               (e.x_bearing + e.width, e.y_bearing + e.height), (e.x_bearing, e.y_bearing + e.height)]
-    return Letter(char, x, y, angle, np.array([(x + u * c - v * s, y + u * s + v * c) for u, v in corners]))
+    corners = [
+        (e.x_bearing, e.y_bearing),
+        (e.x_bearing + e.width, e.y_bearing),
+        (e.x_bearing + e.width, e.y_bearing + e.height),
+        (e.x_bearing, e.y_bearing + e.height),
+    ]
+    return Letter(
+        char, x, y, angle, np.array([(x + u * c - v * s, y + u * s + v * c) for u, v in corners])
+    )
 
 
 def on_arc(text, kind, style, x, y, angle=0.0, bend=0.0):
@@ -105,11 +141,14 @@ def on_arc(text, kind, style, x, y, angle=0.0, bend=0.0):
     letters = []
     for k, char in enumerate(text):
         width = (starts[k + 1] if k + 1 < len(text) else length) - starts[k]
-        s = starts[k] + width / 2 - length / 2             # of the letter's middle
+        s = starts[k] + width / 2 - length / 2  # of the letter's middle
         if abs(bow) > 1e-6:
             radius = length / bow
             a = s / radius
-            u, v = radius * math.sin(a), radius * (1 - math.cos(a)) - radius * (1 - math.cos(bow / 2)) / 2
+            u, v = (
+                radius * math.sin(a),
+                radius * (1 - math.cos(a)) - radius * (1 - math.cos(bow / 2)) / 2,
+            )
         else:
             a, u, v = 0.0, s, 0.0
         a += turn
@@ -129,11 +168,20 @@ def along_line(text, kind, style, points, start):
     letters = []
     for k, char in enumerate(text):
         width = (starts[k + 1] if k + 1 < len(text) else length) - starts[k]
-        at = [np.array([np.interp(start + starts[k] + w, along, points[:, i]) for i in (0, 1)])
-              for w in (-0.15 * style.size, width / 2, width + 0.15 * style.size)]
+        at = [
+            np.array([np.interp(start + starts[k] + w, along, points[:, i]) for i in (0, 1)])
+            for w in (-0.15 * style.size, width / 2, width + 0.15 * style.size)
+        ]
         a = math.atan2(*(at[2] - at[0])[::-1])
-        letters.append(_letter(char, at[1][0] - width / 2 * math.cos(a), at[1][1] - width / 2 * math.sin(a),
-                               a, style))
+        letters.append(
+            _letter(
+                char,
+                at[1][0] - width / 2 * math.cos(a),
+                at[1][1] - width / 2 * math.sin(a),
+                a,
+                style,
+            )
+        )
     return Label(text, kind, style, letters)
 
 
@@ -185,6 +233,8 @@ def nearest_to(boxes, points):
         lu, lv = max(math.hypot(*u), 1e-9), max(math.hypot(*v), 1e-9)
         off = points - box[0]
         a, b = off @ u / lu, off @ v / lv
-        away = np.hypot(np.maximum(np.maximum(-a, a - lu), 0), np.maximum(np.maximum(-b, b - lv), 0))
+        away = np.hypot(
+            np.maximum(np.maximum(-a, a - lu), 0), np.maximum(np.maximum(-b, b - lv), 0)
+        )
         least = min(least, float(away.min()))
     return least

@@ -13,9 +13,11 @@ def smooth_curve(points, step, sigma):
     walked = np.stack([np.interp(at, along, points[:, k]) for k in (0, 1)], axis=1)
     if sigma <= 0:
         return walked
-    padded = np.concatenate([2 * walked[0] - walked[1:][::-1], walked, 2 * walked[-1] - walked[:-1][::-1]])
+    padded = np.concatenate(
+        [2 * walked[0] - walked[1:][::-1], walked, 2 * walked[-1] - walked[:-1][::-1]]
+    )
     rounded = ndimage.gaussian_filter1d(padded, sigma / step, axis=0, mode="nearest")
-    return rounded[count:2 * count + 1]
+    return rounded[count : 2 * count + 1]
 
 
 def nearest(x, y, points, width):
@@ -28,8 +30,8 @@ def nearest(x, y, points, width):
         rows = np.nonzero((y[:, 0] > min(ay, by) - width) & (y[:, 0] < max(ay, by) + width))[0]
         columns = np.nonzero((x[0] > min(ax, bx) - width) & (x[0] < max(ax, bx) + width))[0]
         if len(rows) and len(columns):
-            box = np.s_[rows[0]:rows[-1] + 1, columns[0]:columns[-1] + 1]
-            t = np.clip(((x[box] - ax) * (bx - ax) + (y[box] - ay) * (by - ay)) / length ** 2, 0, 1)
+            box = np.s_[rows[0] : rows[-1] + 1, columns[0] : columns[-1] + 1]
+            t = np.clip(((x[box] - ax) * (bx - ax) + (y[box] - ay) * (by - ay)) / length**2, 0, 1)
             distance = np.hypot(x[box] - ax - t * (bx - ax), y[box] - ay - t * (by - ay))
             closer = distance < away[box]
             away[box] = np.where(closer, distance, away[box])

@@ -5,7 +5,7 @@ import numpy as np
 from .paint import INK, rgb
 from .world import PLACES
 
-DISC, RING, RIM = 8.5, 14.0, 16.5          # radii in pixels
+DISC, RING, RIM = 8.5, 14.0, 16.5  # radii in pixels
 DISC_COLOUR, RING_COLOUR = rgb("#c22a1c"), rgb("#f7eed8")
 
 

@@ -25,9 +25,22 @@ STYLES = {
     "place": Style(58, False, 0.01, (0.16, 0.10, 0.07)),
 }
 # What may lie under a name: the sea only, the land only, or anything.
-UNDER = {"ocean": "sea", "sea": "sea", "bay": "sea", "region": "foot", "land": "foot", "range": "foot",
-         "hills": "land", "forest": "land", "desert": "foot", "marsh": "any", "lake": "any",
-         "island": "sea", "isle": "land", "cape": "sea"}
+UNDER = {
+    "ocean": "sea",
+    "sea": "sea",
+    "bay": "sea",
+    "region": "foot",
+    "land": "foot",
+    "range": "foot",
+    "hills": "land",
+    "forest": "land",
+    "desert": "foot",
+    "marsh": "any",
+    "lake": "any",
+    "island": "sea",
+    "isle": "land",
+    "cape": "sea",
+}
 
 # Text, kind, longitude, latitude, turn and bend in degrees, how far it may be moved (pixels).
 NAMES = (
@@ -52,7 +65,6 @@ NAMES = (
     ("Vossen Haven", "bay", 21.6, 7.4, 0, 0, 150),
     ("Ebb Roads", "bay", 5.6, 15.2, 0, 0, 110),
     ("Nordrel Sound", "bay", 15.6, 55.2, -28, 0, 140),
-
     ("HESTMARCH", "region", -15.2, 42.2, -6, 6, 200),
     ("WENDERVALE", "region", -14.4, 35.6, 0, 6, 170),
     ("SOLVENNE", "region", -5.6, 29.2, 10, 6, 150),
@@ -67,7 +79,6 @@ NAMES = (
     ("SKELLAND", "land", 5.2, 42.9, 0, 6, 150),
     ("VOSSMARK", "land", 24.6, 15.6, 76, 0, 150),
     ("ULMAR", "land", -18.2, 27.6, -84, 0, 150),
-
     ("KELLDRIN SPINE", "range", 6.4, 35.9, 0, -4, 120),
     ("RAVEN SCARPS", "range", 17.4, 32.6, 42, 6, 140),
     ("Hestfells", "hills", -5.0, 43.6, 58, 0, 110),
@@ -77,7 +88,6 @@ NAMES = (
     ("Ulvar Hills", "hills", -28.0, 33.4, 0, 0, 120),
     ("Nessen Fells", "hills", -15.2, 49.4, 0, 8, 110),
     ("Orrim Peaks", "hills", -15.8, 10.8, 4, 8, 90),
-
     ("Wendwold", "forest", -17.0, 39.2, 0, 0, 90),
     ("Morwold", "forest", -12.4, 40.4, -8, 6, 120),
     ("Sollenwood", "forest", -10.4, 33.6, 0, 6, 150),
@@ -92,7 +102,6 @@ NAMES = (
     ("Kessfen", "marsh", 14.0, 22.4, 0, 0, 130),
     ("Solmere", "lake", -1.4, 33.6, 0, 0, 110),
     ("Harvelmere", "lake", 17.6, 39.0, 0, 0, 110),
-
     ("Farrenholm", "isle", -32.6, 50.2, -20, 0, 170),
     ("Nordrel", "isle", 22.4, 55.7, 0, 0, 150),
     ("Tamrey", "island", 15.8, 9.0, 0, 0, 150),
@@ -113,8 +122,15 @@ NAMES = (
 
 # River, longitude and latitude near which its name should run.
 RIVERS = (
-    ("Istrel", 0.6, 31.0), ("Morvel", -10.6, 37.6), ("Hest", -17.9, 44.2), ("Solve", -5.4, 29.8),
-    ("Paldrin", 12.0, 28.4), ("Ammerin", 22.4, 21.2), ("Harvel", 22.6, 40.2), ("Quarr", 31.4, 24.4),
-    ("Kessune", 8.4, 25.6), ("Orril", -15.4, 7.2),
+    ("Istrel", 0.6, 31.0),
+    ("Morvel", -10.6, 37.6),
+    ("Hest", -17.9, 44.2),
+    ("Solve", -5.4, 29.8),
+    ("Paldrin", 12.0, 28.4),
+    ("Ammerin", 22.4, 21.2),
+    ("Harvel", 22.6, 40.2),
+    ("Quarr", 31.4, 24.4),
+    ("Kessune", 8.4, 25.6),
+    ("Orril", -15.4, 7.2),
     ("Lunnel", 28.0, 36.0),
 )

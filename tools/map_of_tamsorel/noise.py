@@ -13,8 +13,18 @@ def _spline(length, period):
     at = np.arange(length) / period
     cell = np.floor(at).astype(int)
     t = at - cell
-    weights = np.stack([(1 - t) ** 3, 3 * t ** 3 - 6 * t ** 2 + 4,
-                        -3 * t ** 3 + 3 * t ** 2 + 3 * t + 1, t ** 3], axis=1) / 6
+    weights = (
+        np.stack(
+            [
+                (1 - t) ** 3,
+                3 * t**3 - 6 * t**2 + 4,
+                -3 * t**3 + 3 * t**2 + 3 * t + 1,
+                t**3,
+            ],
+            axis=1,
+        )
+        / 6
+    )
     rows = np.repeat(np.arange(length), 4)
     columns = (cell[:, None] + np.arange(4)).ravel()
     return sparse.csr_matrix((weights.ravel(), (rows, columns)), shape=(length, cell[-1] + 4))
@@ -32,7 +42,7 @@ def fractal(shape, period, octaves, seed, gain=0.5):
     """Octaves of waves, each half as wide and `gain` times as high as the one before."""
     total, weight = np.zeros(shape), 1.0
     for octave in range(octaves):
-        total += weight * waves(shape, max(period / 2 ** octave, 1.0), seed + octave)
+        total += weight * waves(shape, max(period / 2**octave, 1.0), seed + octave)
         weight *= gain
     return total
 
@@ -41,8 +51,10 @@ def ridged(shape, period, octaves, seed, gain=0.5):
     """Sharp crests where the waves cross zero; 0 to about 1."""
     total, weight, sum_of_weights = np.zeros(shape), 1.0, 0.0
     for octave in range(octaves):
-        crest = 1 - np.minimum(np.abs(waves(shape, max(period / 2 ** octave, 1.0), seed + octave)), 1)
-        total += weight * crest ** 2
+        crest = 1 - np.minimum(
+            np.abs(waves(shape, max(period / 2**octave, 1.0), seed + octave)), 1
+        )
+        total += weight * crest**2
         sum_of_weights += weight
         weight *= gain
     return total / sum_of_weights

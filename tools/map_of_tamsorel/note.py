@@ -3,10 +3,23 @@
 from . import graticule, marks
 from .world import PLACES
 
-KINDS = {"ocean": "Great seas", "sea": "Seas and straits", "bay": "Bays and sounds", "region": "Countries",
-         "land": "Lesser lands", "range": "Mountain ranges", "hills": "Hills and fells",
-         "forest": "Forests", "desert": "Deserts", "marsh": "Marshes", "lake": "Lakes",
-         "isle": "Great islands", "island": "Islands", "cape": "Capes", "river": "Rivers"}
+KINDS = {
+    "ocean": "Great seas",
+    "sea": "Seas and straits",
+    "bay": "Bays and sounds",
+    "region": "Countries",
+    "land": "Lesser lands",
+    "range": "Mountain ranges",
+    "hills": "Hills and fells",
+    "forest": "Forests",
+    "desert": "Deserts",
+    "marsh": "Marshes",
+    "lake": "Lakes",
+    "isle": "Great islands",
+    "island": "Islands",
+    "cape": "Capes",
+    "river": "Rivers",
+}
 
 TEXT = """# The map of Tamsorel
 
@@ -81,15 +94,37 @@ def _wrapped(text, width=92):
 
 def write(path, names):
     """Writes the note; names are the labels as they stand on the picture."""
-    rows = "\n".join(f"| {p.name} | {p.lat}° N | {abs(p.lon)}° {'E' if p.lon > 0 else 'W'} | {p.kind} |"
-                     for p in PLACES)
-    told = "\n".join(_wrapped(f"- {title}: " + ", ".join(sorted(
-        t.text.title() if t.text.isupper() else t.text for t in names if t.kind == kind)))
-        for kind, title in KINDS.items())
-    path.write_text(TEXT.format(
-        step=graticule.STEP, places=len(PLACES), crossings=len(graticule.crossings()),
-        rows=rows, names=told,
-        disc=_colour(marks.DISC_COLOUR), disc_r=marks.DISC,
-        ring=_colour(marks.RING_COLOUR), ring_r=marks.RING, rim_r=marks.RIM,
-        dot=_colour(graticule.DOT_COLOUR), dot_r=graticule.DOT,
-        pearl=_colour(graticule.PEARL_COLOUR), pearl_r=graticule.PEARL), encoding="utf-8")
+    rows = "\n".join(
+        f"| {p.name} | {p.lat}° N | {abs(p.lon)}° {'E' if p.lon > 0 else 'W'} | {p.kind} |"
+        for p in PLACES
+    )
+    told = "\n".join(
+        _wrapped(
+            f"- {title}: "
+            + ", ".join(
+                sorted(
+                    t.text.title() if t.text.isupper() else t.text for t in names if t.kind == kind
+                )
+            )
+        )
+        for kind, title in KINDS.items()
+    )
+    path.write_text(
+        TEXT.format(
+            step=graticule.STEP,
+            places=len(PLACES),
+            crossings=len(graticule.crossings()),
+            rows=rows,
+            names=told,
+            disc=_colour(marks.DISC_COLOUR),
+            disc_r=marks.DISC,
+            ring=_colour(marks.RING_COLOUR),
+            ring_r=marks.RING,
+            rim_r=marks.RIM,
+            dot=_colour(graticule.DOT_COLOUR),
+            dot_r=graticule.DOT,
+            pearl=_colour(graticule.PEARL_COLOUR),
+            pearl_r=graticule.PEARL,
+        ),
+        encoding="utf-8",
+    )

@@ -15,10 +15,10 @@ from .paint import INK, rgb
 from .pen import ink
 from .world import DEGREE, EAST, NORTH, SOUTH, WEST, WIDTH, to_pixel
 
-CARTOUCHE = (3440.0, 120.0, 4212.0, 556.0)       # left, top, right, bottom in pixels
-SCALE_AT = (3664.0, 700.0)                       # left end of the scale bar
-ROSE = (4012.0, 1086.0, 176.0)                   # middle and radius in pixels
-LEAGUES = 20                                     # to the degree
+CARTOUCHE = (3440.0, 120.0, 4212.0, 556.0)  # left, top, right, bottom in pixels
+SCALE_AT = (3664.0, 700.0)  # left end of the scale bar
+ROSE = (4012.0, 1086.0, 176.0)  # middle and radius in pixels
+LEAGUES = 20  # to the degree
 RED, PALE, GOLD = rgb("#9c3324"), rgb("#f5ecd3"), rgb("#c39a54")
 TITLE = Style(176, False, 0.05, tuple(rgb("#5b2318")))
 UNDERTITLE = Style(38, True, 0.02, tuple(INK))
@@ -29,12 +29,17 @@ POINTS = Style(62, False, 0.0, tuple(INK))
 
 def boxes():
     """The room of cartouche, scale bar and rose, as corners in pixels."""
+
     def box(left, top, right, bottom):
         return np.array([(left, top), (right, top), (right, bottom), (left, bottom)], float)
+
     x, y = SCALE_AT
     rx, ry, radius = ROSE
-    return [box(*CARTOUCHE), box(x - 20, y - 66, x + 10 * DEGREE + 40, y + 78),
-            box(rx - radius - 66, ry - radius - 66, rx + radius + 66, ry + radius + 66)]
+    return [
+        box(*CARTOUCHE),
+        box(x - 20, y - 66, x + 10 * DEGREE + 40, y + 78),
+        box(rx - radius - 66, ry - radius - 66, rx + radius + 66, ry + radius + 66),
+    ]
 
 
 def _plate(c, left, top, right, bottom, notch):
@@ -109,9 +114,14 @@ def _cartouche(c, labels):
         c.scale(side, 1)
         _scroll(c, 258, y, 46, 0.0, 1)
         c.restore()
-    labels.append(lettering.on_arc("The Lands and Seas of Veyruna", "title", UNDERTITLE, middle, top + 332))
-    labels.append(lettering.on_arc("from the Equator to the sixtieth Parallel", "title", UNDERTITLE,
-                                   middle, top + 382))
+    labels.append(
+        lettering.on_arc("The Lands and Seas of Veyruna", "title", UNDERTITLE, middle, top + 332)
+    )
+    labels.append(
+        lettering.on_arc(
+            "from the Equator to the sixtieth Parallel", "title", UNDERTITLE, middle, top + 382
+        )
+    )
 
 
 def _scale(c, labels):
@@ -129,9 +139,14 @@ def _scale(c, labels):
         c.move_to(x + k * DEGREE, y - 8)
         c.line_to(x + k * DEGREE, y + 18)
         ink(c, 2.0)
-        labels.append(lettering.on_arc(str(k * LEAGUES), "scale", SCALE_FIGURES, x + k * DEGREE, y - 18))
-    labels.append(lettering.on_arc("Leagues, twenty to a degree of latitude", "scale", FIGURES,
-                                   x + 5 * DEGREE, y + 56))
+        labels.append(
+            lettering.on_arc(str(k * LEAGUES), "scale", SCALE_FIGURES, x + k * DEGREE, y - 18)
+        )
+    labels.append(
+        lettering.on_arc(
+            "Leagues, twenty to a degree of latitude", "scale", FIGURES, x + 5 * DEGREE, y + 56
+        )
+    )
 
 
 def _rose(c, labels):
@@ -176,8 +191,10 @@ def _rose(c, labels):
 
 def _degrees(labels):
     """Figures along the frame, or along the sheet's edge where that cuts the frame off."""
+
     def put(text, x, y):
         labels.append(lettering.on_arc(text, "degrees", FIGURES, x, y))
+
     for lat in range(int(SOUTH), int(NORTH) + 1, STEP):
         text = f"{lat}°" + ("N" if lat else "")
         x, y = to_pixel(EAST, lat)

@@ -12,7 +12,7 @@ from .world import HEIGHT, WIDTH
 
 
 def rgb(text):
-    return np.array([int(text[k:k + 2], 16) for k in (1, 3, 5)]) / 255
+    return np.array([int(text[k : k + 2], 16) for k in (1, 3, 5)]) / 255
 
 
 PAPER = rgb("#ecdfc0")
@@ -26,15 +26,20 @@ LAKE = rgb("#b3c9c4")
 
 def enlarge(picture, size=(WIDTH, HEIGHT)):
     """A field at the sheet's full size, by bicubic curves."""
-    return np.asarray(Image.fromarray(picture.astype(np.float32), mode="F").resize(size, Image.BICUBIC))
+    return np.asarray(
+        Image.fromarray(picture.astype(np.float32), mode="F").resize(size, Image.BICUBIC)
+    )
 
 
 def paper():
     """Clouds, fibres and a little grain; darker and browner towards the sheet's edge."""
     half = (HEIGHT // 2, WIDTH // 2)
-    clouds = 0.016 * noise.fractal(half, 260, 5, 901) + 0.0022 * noise.waves(half, (3, 22), 910) \
+    clouds = (
+        0.016 * noise.fractal(half, 260, 5, 901)
+        + 0.0022 * noise.waves(half, (3, 22), 910)
         + 0.0022 * noise.waves(half, (22, 3), 911)
-    y, x = np.mgrid[0:half[0], 0:half[1]]
+    )
+    y, x = np.mgrid[0 : half[0], 0 : half[1]]
     edge = np.minimum(np.minimum(x, half[1] - 1 - x), np.minimum(y, half[0] - 1 - y)) * 2.0
     edge += 26 * noise.fractal(half, 90, 4, 920)
     rim = np.exp(-np.maximum(edge, 0) / 70)
@@ -52,7 +57,9 @@ def land_wash(heights, rain, warmth, fen, desert):
     wash = np.broadcast_to(STEPPE, heights.shape + (3,)).copy()
     wash = mix(wash, MEADOW, (rain - 0.12) / 0.2)
     wash = mix(wash, FOREST, (rain - 0.3) / 0.4)
-    wash = mix(wash, JUNGLE, np.clip((rain - 0.2) / 0.3, 0, 1) * np.clip((warmth - 0.72) / 0.2, 0, 1))
+    wash = mix(
+        wash, JUNGLE, np.clip((rain - 0.2) / 0.3, 0, 1) * np.clip((warmth - 0.72) / 0.2, 0, 1)
+    )
     wash = mix(wash, MOOR, (0.37 - warmth) / 0.16)
     wash = mix(wash, DESERT, desert)
     wash = mix(wash, FEN, fen * 0.9)
@@ -63,7 +70,7 @@ def land_wash(heights, rain, warmth, fen, desert):
 def light(heights, steep):
     """Light on the ground: 1 on the flat, more on slopes that face north-west."""
     down, across = np.gradient(ndimage.gaussian_filter(heights, 0.8) * steep)
-    facing = (across * 0.65 + down * 0.76) / np.sqrt(1 + across ** 2 + down ** 2)
+    facing = (across * 0.65 + down * 0.76) / np.sqrt(1 + across**2 + down**2)
     return 1 + 0.62 * np.clip(facing, -0.40, 0.2)
 
 

@@ -49,8 +49,10 @@ def mountain(c, width, chance, snow):
     if snow > 0.05:
         low = -tall * (1 - 0.42 * snow)
         share = (tall + low) / tall
-        edge = [(peak[0] + (x - peak[0]) * share, peak[1] + (y - peak[1]) * share)
-                for x, y in ((-0.5 * width, 0), (0.5 * width, 0))]
+        edge = [
+            (peak[0] + (x - peak[0]) * share, peak[1] + (y - peak[1]) * share)
+            for x, y in ((-0.5 * width, 0), (0.5 * width, 0))
+        ]
         hem = _crag(chance, edge[1], edge[0], 6, 0.06 * width)
         line(c, [peak] + hem)
         c.set_source_rgba(0.975, 0.965, 0.93, 0.95)
@@ -60,7 +62,7 @@ def mountain(c, width, chance, snow):
         c.fill()
     c.set_line_cap(cairo.LINE_CAP_ROUND)
     strokes = max(3, int(width / 13))
-    for k in range(strokes):        # strokes down the shaded side
+    for k in range(strokes):  # strokes down the shaded side
         t = (k + 0.7) / (strokes + 0.6)
         at = ridge[min(int(t * 5) + 1, 5)]
         x, y = peak[0] + (at[0] - peak[0]) * 0.9, -tall * (1 - t)
@@ -68,7 +70,7 @@ def mountain(c, width, chance, snow):
         long = (1 - t) * 0.30 * width * chance.uniform(0.7, 1.1) + 0.10 * width
         line(c, [(x, y), (x + long * 0.52, y + long * 0.9)])
         ink(c, 1.0, 0.5)
-    for k in range(2):              # and a few down the light side
+    for k in range(2):  # and a few down the light side
         t = chance.uniform(0.35, 0.75)
         x, y = peak[0] - 0.42 * width * t * chance.uniform(0.3, 0.75), -tall * (1 - t)
         line(c, [(x, y), (x - 0.05 * width, y + 0.13 * tall)])
@@ -93,7 +95,9 @@ def hill(c, width, chance, snow):
     c.set_source(body)
     path = c.copy_path()
     c.fill()
-    dark = cairo.RadialGradient(0.26 * width, -0.5 * tall, 0, 0.26 * width, -0.5 * tall, 0.26 * width)
+    dark = cairo.RadialGradient(
+        0.26 * width, -0.5 * tall, 0, 0.26 * width, -0.5 * tall, 0.26 * width
+    )
     dark.add_color_stop_rgba(0, *SHADE, 0.30)
     dark.add_color_stop_rgba(1, *SHADE, 0.0)
     c.append_path(path)

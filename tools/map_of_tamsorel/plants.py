@@ -8,16 +8,16 @@ from scipy import ndimage
 from . import growth, peaks, scatter
 from .land import GRID
 
-LEAST_HEIGHT = 0.28        # of a mountain; what is lower is a hill
+LEAST_HEIGHT = 0.28  # of a mountain; what is lower is a hill
 
 
 @dataclass(frozen=True)
 class Kind:
-    draw: object           # of peaks or growth
-    size: float            # pixels
-    spread: float          # how much the size varies
-    body: tuple            # half width and height of the drawing, in sizes
-    foot: tuple            # half width and height of the ground it takes, in sizes
+    draw: object  # of peaks or growth
+    size: float  # pixels
+    spread: float  # how much the size varies
+    body: tuple  # half width and height of the drawing, in sizes
+    foot: tuple  # half width and height of the ground it takes, in sizes
     tries: int
     seed: int
     more: tuple = ()
@@ -50,11 +50,16 @@ def plant(country, sheet):
     thick = np.clip((country.wood + lush) * 4, 0, 1) * clear
     cold = np.clip((0.43 - warmth + 0.05 * country.wood) * 9, 0, 1)
     dunes = np.clip(country.desert * 1.4 - 0.3, 0, 1) * low
-    for kind, share in ((HILL, foothills * 0.9), (SEDGE, fen * 0.9), (JUNGLE, thick * (warmth > 0.75)),
-                        (CONIFER, thick * cold * (warmth > 0.16)),
-                        (BROADLEAF, thick * (1 - cold) * (warmth < 0.78)),
-                        (LONE_TREE, clear * 0.04 * (warmth > 0.25) * (warmth < 0.78)),
-                        (LONE_PALM, clear * 0.04 * (warmth > 0.72)),
-                        (DUNE, dunes), (TUFT, clear * ((rain < 0.4) | (warmth < 0.25)) * 0.35)):
+    for kind, share in (
+        (HILL, foothills * 0.9),
+        (SEDGE, fen * 0.9),
+        (JUNGLE, thick * (warmth > 0.75)),
+        (CONIFER, thick * cold * (warmth > 0.16)),
+        (BROADLEAF, thick * (1 - cold) * (warmth < 0.78)),
+        (LONE_TREE, clear * 0.04 * (warmth > 0.25) * (warmth < 0.78)),
+        (LONE_PALM, clear * 0.04 * (warmth > 0.72)),
+        (DUNE, dunes),
+        (TUFT, clear * ((rain < 0.4) | (warmth < 0.25)) * 0.35),
+    ):
         scatter.strew(ground, share, kind)
     return ground.signs

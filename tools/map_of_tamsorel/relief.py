@@ -12,7 +12,7 @@ from .land import pixel_grids
 from .world import PLACES, to_pixel
 
 GRID = 4
-ROUNDS = 7             # of wear
+ROUNDS = 7  # of wear
 WEAR = 1.2
 
 
@@ -32,7 +32,7 @@ def lake_field():
 def _winding(x, y):
     """How far the valleys stray from their drawn way, in pixels; not at all in the towns."""
     near = np.min([np.hypot(x - p.pixel[0], y - p.pixel[1]) for p in PLACES], axis=0)
-    loose = 1 - np.exp(-(near / 110) ** 2)
+    loose = 1 - np.exp(-((near / 110) ** 2))
     return tuple(26 * loose * noise.fractal(x.shape, 34, 3, seed) for seed in (550, 555))
 
 
@@ -51,7 +51,7 @@ def raw_heights(land):
         away = np.maximum(away + 0.5 * sway * np.clip(away / width + 0.2, 0, 1), 0)
         ends = np.clip(6 * np.minimum(share, 1 - share) + 0.55, 0, 1)
         bulk = height * ends * np.exp(-np.abs(away / width) ** 1.7)
-        foot = 0.22 * height * np.exp(-(away / (2.3 * width)) ** 2)
+        foot = 0.22 * height * np.exp(-((away / (2.3 * width)) ** 2))
         range_ = (bulk * (0.62 + 0.62 * crag) + foot + 0.5 * heights) * (1 - np.exp(-inland / 70))
         heights = np.maximum(heights, range_)
     wind_x, wind_y = _winding(x, y)
@@ -59,7 +59,7 @@ def raw_heights(land):
         way = lines.smooth_curve(np.stack(to_pixel(*np.array(valley, float).T), axis=1), 12, 22)
         away, share = lines.nearest(x + wind_x, y + wind_y, way, 240)
         bed = 0.06 * np.maximum(1 - share, 0) ** 1.2 + 0.003
-        sink = np.exp(-(away / 40) ** 2)
+        sink = np.exp(-((away / 40) ** 2))
         heights = np.where(heights > bed, heights + (bed - heights) * sink, heights)
     return np.where(land > 0, np.maximum(heights, 0.002), -0.01)
 

@@ -14,7 +14,7 @@ class Sign:
     x: float
     y: float
     size: float
-    draw: object          # of peaks or growth
+    draw: object  # of peaks or growth
     more: tuple
 
 
@@ -38,8 +38,10 @@ class Ground:
 
     def foothold(self, x, y, half, tall):
         """The cells a sign would stand on; None if another stands there."""
-        box = np.s_[max(int((y - tall) / GRID), 0):int((y + tall) / GRID) + 1,
-                    max(int((x - half) / GRID), 0):int((x + half) / GRID) + 1]
+        box = np.s_[
+            max(int((y - tall) / GRID), 0) : int((y + tall) / GRID) + 1,
+            max(int((x - half) / GRID), 0) : int((x + half) / GRID) + 1,
+        ]
         return None if self.feet[box].any() else box
 
 

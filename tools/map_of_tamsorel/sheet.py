@@ -7,8 +7,19 @@ import numpy as np
 from PIL import Image
 from scipy import ndimage
 
-from . import (contours, graticule, layout, lettering, marks, ornaments, plants, scatter, vessels, washes,
-               waters)
+from . import (
+    contours,
+    graticule,
+    layout,
+    lettering,
+    marks,
+    ornaments,
+    plants,
+    scatter,
+    vessels,
+    washes,
+    waters,
+)
 from .country import Country
 from .land import GRID
 from .world import HEIGHT, WIDTH
@@ -80,6 +91,8 @@ def make(path):
     step("ink")
     picture = _letter(pixels[..., 2::-1].astype(np.float32) / 255, bare, names + figures)
     # From top to bottom, not progressive: reading that would take a second copy in memory.
-    Image.fromarray(np.ascontiguousarray(picture)).save(path, quality=QUALITY, subsampling=0, optimize=True)
+    Image.fromarray(np.ascontiguousarray(picture)).save(
+        path, quality=QUALITY, subsampling=0, optimize=True
+    )
     step(f"{path.name} ({path.stat().st_size} bytes)")
     return names

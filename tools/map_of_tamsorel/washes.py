@@ -34,7 +34,9 @@ def _enlarge3(picture):
 def bare_sheet(country, coast, shore):
     """Colours 0 to 1; coast: its lines, shore: pixels from each cell to the nearest land."""
     sea = _enlarge3(paint.sea_wash(shore))
-    ground = paint.land_wash(country.heights, country.rain, country.warmth, country.fen, country.desert)
+    ground = paint.land_wash(
+        country.heights, country.rain, country.warmth, country.fen, country.desert
+    )
     ground *= paint.light(country.heights, 26)[..., None]
     inland = GRID * ndimage.distance_transform_edt(country.land > 0)
     ground *= (1 - 0.10 * np.exp(-inland / 16))[..., None]
@@ -50,4 +52,6 @@ def bare_sheet(country, coast, shore):
     paper = paint.paper()
     tone = paper.mean(axis=2, keepdims=True)
     tinted = paper * paint.PAPER
-    return np.clip(tinted + (picture * (0.25 + 0.75 * tone) - tinted) * share, 0, 1).astype(np.float32)
+    return np.clip(tinted + (picture * (0.25 + 0.75 * tone) - tinted) * share, 0, 1).astype(
+        np.float32
+    )

@@ -21,7 +21,9 @@ def _trace(c, lines):
 
 def _waves(c, country, shore):
     """Lines that follow the coast and fade out to sea; all but the first are broken."""
-    off = ndimage.gaussian_filter(shore - GRID * ndimage.distance_transform_edt(country.land > 0), 2.2)
+    off = ndimage.gaussian_filter(
+        shore - GRID * ndimage.distance_transform_edt(country.land > 0), 2.2
+    )
     for number, (far, width, alpha) in enumerate(WAVE_LINES):
         for line in contours(-off, -far, GRID, 2.0, 60):
             chance = np.random.default_rng(2000 + 100 * number + len(line))
@@ -37,7 +39,7 @@ def _river(c, river):
         for k in range(len(river.points) - 1):
             width = (river.widths[k] + river.widths[k + 1]) / 2 + extra
             if width > 0.7:
-                pen.line(c, river.points[k:k + 2])
+                pen.line(c, river.points[k : k + 2])
                 pen.ink(c, width, 1.0, colour)
 
 
@@ -61,6 +63,6 @@ def draw(c, country, coast, shore):
     for river in sorted(country.rivers, key=lambda r: r.water):
         _river(c, river)
     _lakes(c, country)
-    for width, alpha, off in ((4.6, 0.22, 1.6), (2.3, 0.95, 0.0)):      # a shade, then the coast
+    for width, alpha, off in ((4.6, 0.22, 1.6), (2.3, 0.95, 0.0)):  # a shade, then the coast
         _trace(c, [line + off for line in coast])
         pen.ink(c, width, alpha)

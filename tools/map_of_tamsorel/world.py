@@ -8,12 +8,12 @@ from dataclasses import dataclass
 
 import numpy as np
 
-WIDTH, HEIGHT = 4316, 3266                     # pixels
-CENTRE_X, EQUATOR_Y = 1768.0, 3194.0           # pixels: longitude 0, latitude 0
-LAT_SCALE = 2987.9749016072433                 # pixels per radian of latitude
-LON_SCALE = 2992.1129301276324                 # pixels per radian of longitude at the equator
+WIDTH, HEIGHT = 4316, 3266  # pixels
+CENTRE_X, EQUATOR_Y = 1768.0, 3194.0  # pixels: longitude 0, latitude 0
+LAT_SCALE = 2987.9749016072433  # pixels per radian of latitude
+LON_SCALE = 2992.1129301276324  # pixels per radian of longitude at the equator
 WEST, EAST, SOUTH, NORTH = -45.0, 45.0, 0.0, 60.0
-DEGREE = LAT_SCALE * np.pi / 180               # pixels per degree of latitude
+DEGREE = LAT_SCALE * np.pi / 180  # pixels per degree of latitude
 
 
 def to_pixel(lon, lat):
@@ -33,7 +33,7 @@ class Place:
     name: str
     lat: float
     lon: float
-    shore: float          # pixels from the mark to the nearest shore; 0: as the land falls
+    shore: float  # pixels from the mark to the nearest shore; 0: as the land falls
     kind: str
 
     @property

@@ -24,7 +24,9 @@ def run():
     star_map.check(catalogue, report)
     wheel.check(catalogue, report)
     # No fault of the sky: another mathematical library may round a last digit otherwise.
-    print("note   the files %s what this tool draws"
-          % ("are exactly" if files.as_drawn() else "DIFFER from"))
+    print(
+        "note   the files %s what this tool draws"
+        % ("are exactly" if files.as_drawn() else "DIFFER from")
+    )
     print("%d faults" % report.faults if report.faults else "no faults")
     return report.faults

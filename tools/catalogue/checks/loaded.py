@@ -12,14 +12,15 @@ from ..sphere import to_ecliptic, to_equatorial, turned_back, vec
 @dataclass(frozen=True, eq=False)
 class Entry:
     """A row of the star table; `at` and `eq` are the vectors at which the charts show it."""
+
     name: str
     frame: str
     color: str
-    phi: float      # radians, as theta
+    phi: float  # radians, as theta
     theta: float
     mag: float
-    at: tuple       # in the ecliptic frame
-    eq: tuple       # in the equatorial frame
+    at: tuple  # in the ecliptic frame
+    eq: tuple  # in the equatorial frame
 
     @property
     def numbered(self):
@@ -49,8 +50,16 @@ def read_entry(row):
         at = to_ecliptic(at)
     if is_numbered(row["name"]):
         at = turned_back(at)
-    return Entry(row["name"], row["frame"], row["color"], phi, theta, float(row["magnitude"]),
-                 at, to_equatorial(at))
+    return Entry(
+        row["name"],
+        row["frame"],
+        row["color"],
+        phi,
+        theta,
+        float(row["magnitude"]),
+        at,
+        to_equatorial(at),
+    )
 
 
 class Catalogue:
@@ -58,7 +67,7 @@ class Catalogue:
 
     def __init__(self, entries, pairs):
         self.entries = entries
-        self.pairs = pairs              # of names, as the line table has them
+        self.pairs = pairs  # of names, as the line table has them
         self.by_name = {s.name: s for s in entries}
         self.background = [s for s in entries if s.background]
         self.members = [s for s in entries if s.numbered and not s.background]
@@ -67,7 +76,7 @@ class Catalogue:
         self.sign_names = [s for s in self.names if s.frame == "ecliptic"]
         self.other_names = [s for s in self.names if s.frame == "equatorial"]
         self.named_stars = [s for s in self.other_names if s.mag == 1.0]
-        self.groups = {}                # the members of every constellation by its code
+        self.groups = {}  # the members of every constellation by its code
         for s in self.members:
             self.groups.setdefault(s.code, []).append(s)
 
@@ -80,8 +89,9 @@ class Catalogue:
         for a, b in (map(self.by_name.get, pair) for pair in self.pairs):
             group = self.groups[a.code]
             lines[a.code].append((group.index(a), group.index(b)))
-        return [Figure(code.capitalize(), "", group, lines[code])
-                for code, group in self.groups.items()]
+        return [
+            Figure(code.capitalize(), "", group, lines[code]) for code, group in self.groups.items()
+        ]
 
     @cached_property
     def dots(self):
@@ -94,10 +104,14 @@ def load(report):
     stars, lines = STARS_CSV.read_bytes(), LINES_CSV.read_bytes()
     both = stars + lines
     report(both.isascii() and b"\r" not in both, "both files are plain ASCII with line feeds")
-    report(stars.startswith(STARS_HEAD.encode()) and lines.startswith(LINES_HEAD.encode()),
-           "column lines")
-    return Catalogue([read_entry(row) for row in table(stars)],
-                     [(row["from"], row["to"]) for row in table(lines)])
+    report(
+        stars.startswith(STARS_HEAD.encode()) and lines.startswith(LINES_HEAD.encode()),
+        "column lines",
+    )
+    return Catalogue(
+        [read_entry(row) for row in table(stars)],
+        [(row["from"], row["to"]) for row in table(lines)],
+    )
 
 
 def table(raw):

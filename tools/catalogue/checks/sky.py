@@ -7,21 +7,22 @@ from .. import band
 from ..sphere import NORTH, angle, angles, arc_arc_distance, arc_distance, dot
 from ..world import TAU, sign_range
 
-GREATEST_FIGURE, LONG_FIGURE = 25.0, 40.0    # across; one figure may be long
+GREATEST_FIGURE, LONG_FIGURE = 25.0, 40.0  # across; one figure may be long
 ZODIAC_LATITUDE = 18.0
-STAR_GAP = 0.3                               # between any two stars
-FIGURE_STAR_GAP = 1.2                        # between background and figures
+STAR_GAP = 0.3  # between any two stars
+FIGURE_STAR_GAP = 1.2  # between background and figures
 FIGURE_GAP = 2.5
-POLE_STAR_OFF, POLE_STAR_SPACE = 1.0, 2.0    # from the celestial pole; to the next star
-HOLE, DARK = 22.0, 13.0                      # radius of circles without a figure, a star
+POLE_STAR_OFF, POLE_STAR_SPACE = 1.0, 2.0  # from the celestial pole; to the next star
+HOLE, DARK = 22.0, 13.0  # radius of circles without a figure, a star
 
 
 def check(catalogue, report):
     check_sizes(catalogue.figures, report)
     check_zodiac(catalogue.figures[:12], report)
     in_band = sum(band.density(s.at) > 3 for s in catalogue.background)
-    report(True, "background stars in the dense band: %d of %d"
-           % (in_band, len(catalogue.background)))
+    report(
+        True, "background stars in the dense band: %d of %d" % (in_band, len(catalogue.background))
+    )
     check_stars(catalogue.dots, report)
     check_pole_star(catalogue, report)
     check_figure_gaps(catalogue.figures, report)
@@ -29,12 +30,15 @@ def check(catalogue, report):
 
 
 def check_sizes(figures, report):
-    sizes = sorted((max(angle(a.at, b.at) for a in f.stars for b in f.stars), f.name)
-                   for f in figures)
+    sizes = sorted(
+        (max(angle(a.at, b.at) for a in f.stars for b in f.stars), f.name) for f in figures
+    )
     (least, _), (great, _), (longest, name) = sizes[0], sizes[-2], sizes[-1]
-    report(great <= GREATEST_FIGURE and longest <= LONG_FIGURE,
-           "figures %.1f to %.1f degrees across, the long one (%s) %.1f"
-           % (least, great, name, longest))
+    report(
+        great <= GREATEST_FIGURE and longest <= LONG_FIGURE,
+        "figures %.1f to %.1f degrees across, the long one (%s) %.1f"
+        % (least, great, name, longest),
+    )
 
 
 def check_zodiac(figures, report):
@@ -47,15 +51,17 @@ def check_zodiac(figures, report):
                 lon += TAU
             spare = min(spare, math.degrees(lon - start), math.degrees(end - lon))
             high = max(high, abs(math.degrees(lat)))
-    report(spare > 0 and high <= ZODIAC_LATITUDE,
-           "zodiac figures inside their signs: nearest boundary %.2f degrees, "
-           "greatest latitude %.1f" % (spare, high))
+    report(
+        spare > 0 and high <= ZODIAC_LATITUDE,
+        "zodiac figures inside their signs: nearest boundary %.2f degrees, "
+        "greatest latitude %.1f" % (spare, high),
+    )
 
 
 def near_stars(dots):
     """Pairs of stars less than about 11 degrees apart, as (degrees, star, star)."""
     for i, a in enumerate(dots):
-        for b in dots[i + 1:]:
+        for b in dots[i + 1 :]:
             if b.at[2] - a.at[2] > 0.2:
                 break
             if dot(a.at, b.at) >= 0.98:
@@ -65,13 +71,16 @@ def near_stars(dots):
 def check_stars(dots, report):
     near = list(near_stars(dots))
     least, a, b = min(near, key=lambda pair: pair[0])
-    report(least >= STAR_GAP,
-           "nearest two stars %.2f degrees apart (%s %s)" % (least, a.name, b.name))
+    report(
+        least >= STAR_GAP, "nearest two stars %.2f degrees apart (%s %s)" % (least, a.name, b.name)
+    )
     among = min((d for d, a, b in near if a.background and b.background), default=99.0)
     to_figures = min((d for d, a, b in near if a.background != b.background), default=99.0)
-    report(to_figures >= FIGURE_STAR_GAP,
-           "background stars %.2f degrees from one another, %.2f from figure stars"
-           % (among, to_figures))
+    report(
+        to_figures >= FIGURE_STAR_GAP,
+        "background stars %.2f degrees from one another, %.2f from figure stars"
+        % (among, to_figures),
+    )
 
 
 def check_pole_star(catalogue, report):
@@ -79,17 +88,26 @@ def check_pole_star(catalogue, report):
     own = angle(pole_star.eq, NORTH)
     others = catalogue.background + catalogue.members
     next_one, name = min((angle(s.eq, NORTH), s.name) for s in others)
-    report(own <= POLE_STAR_OFF and next_one > own + POLE_STAR_SPACE,
-           "%s %.2f degrees from the celestial pole, the next star (%s) %.2f"
-           % (pole_star.name, own, name, next_one))
+    report(
+        own <= POLE_STAR_OFF and next_one > own + POLE_STAR_SPACE,
+        "%s %.2f degrees from the celestial pole, the next star (%s) %.2f"
+        % (pole_star.name, own, name, next_one),
+    )
 
 
 def check_figure_gaps(figures, report):
-    gap, f, g = min(((min(arc_arc_distance(*x, *y) for x in f.arcs for y in g.arcs), f, g)
-                     for f, g in combinations(figures, 2) if angle(f.centre, g.centre) < 60),
-                    key=lambda found: found[0])
-    report(gap >= FIGURE_GAP, "nearest two figures %.1f degrees apart (%s and %s), none crossing"
-           % (gap, f.name, g.name))
+    gap, f, g = min(
+        (
+            (min(arc_arc_distance(*x, *y) for x in f.arcs for y in g.arcs), f, g)
+            for f, g in combinations(figures, 2)
+            if angle(f.centre, g.centre) < 60
+        ),
+        key=lambda found: found[0],
+    )
+    report(
+        gap >= FIGURE_GAP,
+        "nearest two figures %.1f degrees apart (%s and %s), none crossing" % (gap, f.name, g.name),
+    )
 
 
 def even_points(n):
@@ -104,11 +122,18 @@ def check_holes(catalogue, report):
     """The widest empty circles."""
     hole, star = (0.0, ()), 0.0
     for v in even_points(3000):
-        figure = min(arc_distance(v, *arc) for f in catalogue.figures
-                     if angle(v, f.centre) < 70 for arc in f.arcs)
+        figure = min(
+            arc_distance(v, *arc)
+            for f in catalogue.figures
+            if angle(v, f.centre) < 70
+            for arc in f.arcs
+        )
         hole = max(hole, (figure, v))
         star = max(star, min(angle(v, s.at) for s in catalogue.dots if abs(s.at[2] - v[2]) < 0.6))
     lon, lat = (math.degrees(x) for x in angles(hole[1]))
-    report(hole[0] <= HOLE, "widest circle without a figure: radius %.1f "
-           "degrees at longitude %.0f, latitude %.0f" % (hole[0], lon, lat))
+    report(
+        hole[0] <= HOLE,
+        "widest circle without a figure: radius %.1f "
+        "degrees at longitude %.0f, latitude %.0f" % (hole[0], lon, lat),
+    )
     report(star <= DARK, "widest circle without a star: radius %.1f degrees" % star)

@@ -7,9 +7,9 @@ from ..lettering import map_reach, name_box
 from ..plane import box_gap, meeting_point
 from ..sphere import angle, angles, vec
 
-NAME_GAP = 0.5       # degrees from a name to a figure or another name
-NAME_REACH = 6.5     # degrees at most from a name to its own figure
-TEXT_GAP = 2.0       # units between two names
+NAME_GAP = 0.5  # degrees from a name to a figure or another name
+NAME_REACH = 6.5  # degrees at most from a name to its own figure
+TEXT_GAP = 2.0  # units between two names
 
 
 def check(catalogue, report):
@@ -30,12 +30,19 @@ def check_names(catalogue, report):
     for s, t in combinations(catalogue.names, 2):
         gap = angle(s.at, t.at) - map_reach(s.name, s.mag) - map_reach(t.name, t.mag)
         pair = min(pair, (gap, s.name + " and " + t.name))
-    report(near[0] >= NAME_GAP and far[0] <= NAME_REACH,
-           "names stand %.1f (%s) to %.1f (%s) degrees clear of their figures" % (near + far))
-    report(strange[0] >= NAME_GAP,
-           "names stand at least %.1f degrees clear of other figures (%s)" % strange)
-    report(pair[0] >= NAME_GAP, "nearest two names on the star map, turned as "
-           "they may be, %.1f degrees clear (%s)" % pair)
+    report(
+        near[0] >= NAME_GAP and far[0] <= NAME_REACH,
+        "names stand %.1f (%s) to %.1f (%s) degrees clear of their figures" % (near + far),
+    )
+    report(
+        strange[0] >= NAME_GAP,
+        "names stand at least %.1f degrees clear of other figures (%s)" % strange,
+    )
+    report(
+        pair[0] >= NAME_GAP,
+        "nearest two names on the star map, turned as "
+        "they may be, %.1f degrees clear (%s)" % pair,
+    )
 
 
 def map_point(eq, sidereal, latitude):
@@ -70,10 +77,15 @@ def check_maps(catalogue, report):
     for latitude in (-80, -60, -35, -15, 0, 20, 40, 60, 80):
         for hour in range(0, 24, 2):
             maps += 1
-            places = {s.name: map_point(s.eq, math.radians(hour * 15 + 7), math.radians(latitude))
-                      for s in catalogue.members + catalogue.names}
-            boxes = [(s.name, name_box(s.name, s.mag, *places[s.name]))
-                     for s in catalogue.names if places[s.name]]
+            places = {
+                s.name: map_point(s.eq, math.radians(hour * 15 + 7), math.radians(latitude))
+                for s in catalogue.members + catalogue.names
+            }
+            boxes = [
+                (s.name, name_box(s.name, s.mag, *places[s.name]))
+                for s in catalogue.names
+                if places[s.name]
+            ]
             for (name, box), (name2, box2) in combinations(boxes, 2):
                 low = min(low, (box_gap(box, box2), name + " and " + name2))
             shown = visible_lines(catalogue.figures, places)

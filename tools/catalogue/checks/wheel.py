@@ -10,10 +10,10 @@ from ..sphere import angles
 from ..wheel import INNER_PATH, OUTER_PATH, from_middle, longitude, on_rim, project
 from ..world import TAU, WHITE, YELLOW, sign_range
 
-UPRIGHT_LATITUDE = 12.0      # degrees; names further north stand upright
-RIM_GAP = 2.5                # between two names along the rim
-SEAM = 2.0                   # from such a name to the path's ends at longitude 0
-UPRIGHT_GAP = 2.0            # between two upright names
+UPRIGHT_LATITUDE = 12.0  # degrees; names further north stand upright
+RIM_GAP = 2.5  # between two names along the rim
+SEAM = 2.0  # from such a name to the path's ends at longitude 0
+UPRIGHT_GAP = 2.0  # between two upright names
 TEXT_TO_LINE, TEXT_TO_DOT = 0.8, 0.2
 MIDDLE = (180, 180)
 
@@ -40,16 +40,21 @@ def check_figures(catalogue, report):
         if name != name2:
             point = meeting_point(a, b, c, d)
             crossing += point is not None and math.dist(point, MIDDLE) <= 180
-    report(cut == 0 and crossing == 0, "wheel: lines of different figures crossing %d, "
-           "lines from outside to outside showing %d" % (crossing, cut))
+    report(
+        cut == 0 and crossing == 0,
+        "wheel: lines of different figures crossing %d, "
+        "lines from outside to outside showing %d" % (crossing, cut),
+    )
     return lines
 
 
 def check_places(catalogue, report):
     """Which names stand where."""
     south = [s for s in catalogue.other_names if on_rim(s.at)]
-    report(all(s.color == YELLOW for s in south),
-           "wheel: names along the rim besides the signs %d, all %s" % (len(south), YELLOW))
+    report(
+        all(s.color == YELLOW for s in south),
+        "wheel: names along the rim besides the signs %d, all %s" % (len(south), YELLOW),
+    )
     low = min(math.degrees(angles(s.at)[1]) for s in catalogue.other_names if s not in south)
     report(low >= UPRIGHT_LATITUDE, "wheel: upright names from latitude %.1f degrees on" % low)
     worst = 0.0
@@ -63,6 +68,7 @@ def check_places(catalogue, report):
 @dataclass(frozen=True)
 class RimText:
     """A name along the rim, from start to end on the path of that radius."""
+
     name: str
     radius: float
     start: float
@@ -70,9 +76,11 @@ class RimText:
 
     def distance(self, p):
         """From a point counted from the wheel's middle."""
-        r, l = math.hypot(*p), longitude(*p) * self.radius
-        return math.hypot(max(self.start - l, l - self.end, 0),
-                          max(self.radius - DESCENT - r, r - self.radius - ASCENT, 0))
+        r, along = math.hypot(*p), longitude(*p) * self.radius
+        return math.hypot(
+            max(self.start - along, along - self.end, 0),
+            max(self.radius - DESCENT - r, r - self.radius - ASCENT, 0),
+        )
 
     def gap(self, other):
         """To another one, around the circle even when they run on different paths."""
@@ -83,7 +91,7 @@ class RimText:
 @dataclass(frozen=True)
 class UprightText:
     name: str
-    box: tuple      # counted from the wheel's middle
+    box: tuple  # counted from the wheel's middle
 
     def distance(self, p):
         """From a point counted from the wheel's middle."""
@@ -130,23 +138,48 @@ def check_texts(catalogue, lines, black_and_white, report):
         least, what = min(gaps)
         report(least >= limit, "%s: %s (%s)" % (mode, text % least, what))
 
-    check_gap(((s.gap(t), s.name + " and " + t.name) for s, t in combinations(rim, 2)),
-              RIM_GAP, "nearest two names along the rim %.1f units")
-    check_gap(((min(t.start, TAU * t.radius - t.end), t.name) for t in rim),
-              SEAM, "nearest name to longitude 0 is %.1f units off")
-    check_gap([(s.gap(t), s.name + " and " + t.name) for s, t in combinations(upright, 2)]
-              + [(t.rim_gap(), t.name + " and the rim") for t in upright],
-              UPRIGHT_GAP, "nearest two upright names %.1f units")
+    check_gap(
+        ((s.gap(t), s.name + " and " + t.name) for s, t in combinations(rim, 2)),
+        RIM_GAP,
+        "nearest two names along the rim %.1f units",
+    )
+    check_gap(
+        ((min(t.start, TAU * t.radius - t.end), t.name) for t in rim),
+        SEAM,
+        "nearest name to longitude 0 is %.1f units off",
+    )
+    check_gap(
+        [(s.gap(t), s.name + " and " + t.name) for s, t in combinations(upright, 2)]
+        + [(t.rim_gap(), t.name + " and the rim") for t in upright],
+        UPRIGHT_GAP,
+        "nearest two upright names %.1f units",
+    )
 
     points = list(line_points(lines))
-    check_gap(((t.distance(p), t.name + " and " + name)
-               for name, p in points if math.hypot(*p) > 155 for t in rim),
-              TEXT_TO_LINE, "nearest figure line to a name along the rim %.1f units")
-    check_gap(((t.distance(p), t.name + " and " + name) for name, p in points for t in upright),
-              TEXT_TO_LINE, "nearest figure line to an upright name %.1f units")
+    check_gap(
+        (
+            (t.distance(p), t.name + " and " + name)
+            for name, p in points
+            if math.hypot(*p) > 155
+            for t in rim
+        ),
+        TEXT_TO_LINE,
+        "nearest figure line to a name along the rim %.1f units",
+    )
+    check_gap(
+        ((t.distance(p), t.name + " and " + name) for name, p in points for t in upright),
+        TEXT_TO_LINE,
+        "nearest figure line to an upright name %.1f units",
+    )
 
-    dots = [(s.name, dot_size(s.mag), tuple(map(whole, from_middle(s.at))))
-            for s in catalogue.dots]
-    check_gap(((t.distance(p) - size, t.name + " and " + name)
-               for name, size, p in dots for t in rim + upright if t.name != name),
-              TEXT_TO_DOT, "nearest dot to a name %.1f units")
+    dots = [(s.name, dot_size(s.mag), tuple(map(whole, from_middle(s.at)))) for s in catalogue.dots]
+    check_gap(
+        (
+            (t.distance(p) - size, t.name + " and " + name)
+            for name, size, p in dots
+            for t in rim + upright
+            if t.name != name
+        ),
+        TEXT_TO_DOT,
+        "nearest dot to a name %.1f units",
+    )
