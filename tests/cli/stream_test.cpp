@@ -53,10 +53,9 @@ TEST(Pipe, WithoutStandardOutputItSaysSo) {
 
 const std::string longTable = "conjunctions --rows 50000000 --step 0.01";
 
-TEST(Progress, ShowsOnATerminalAfterAWhile) {
+TEST(Progress, ShowsOnATerminal) {
   Process table(
       {.arguments = words(longTable), .standardOutput = "/dev/null", .errorsOnTerminal = true});
-  EXPECT_EQ(table.errorsWithin(500, "rows"), "");
   const std::string shown = table.errorsWithin(60'000, " %");
   EXPECT_NE(shown.find(" of 50000001 rows, "), std::string::npos) << shown;
   EXPECT_EQ(shown.find('\n'), std::string::npos) << shown;

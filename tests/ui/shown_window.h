@@ -8,6 +8,7 @@
 #include <stdexcept>
 
 #include "tests/model/fakes.h"
+#include "tests/support/patience.h"
 #include "tests/ui/recording_engine.h"
 #include "ui/window/main_view.h"
 #include "ui/window/window_state.h"
@@ -30,7 +31,7 @@ struct ShownWindow : FakeModel {
   /// Makes the window the active one, as a window manager does when a sheet over it has closed.
   void comeBack() {
     window.activateWindow();
-    EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&window, tests::patienceMilliseconds));
   }
 
   /// The control of this object name, which must be there or come soon: a button that is pressed by
@@ -43,7 +44,7 @@ struct ShownWindow : FakeModel {
           control = window.findChild<Control*>(QString::fromLatin1(name));
           return control != nullptr;
         },
-        1000);
+        patienceMilliseconds);
     EXPECT_TRUE(isThere) << name;
     if (!isThere) {
       throw std::runtime_error(name);

@@ -13,6 +13,7 @@
 
 #include "export/pdf_exporter.h"
 #include "tests/model/fakes.h"
+#include "tests/support/patience.h"
 #include "ui/controls/program.h"
 #include "ui/outputs/svg_view.h"
 #include "ui/outputs/web_page_engine.h"
@@ -43,7 +44,8 @@ struct Charts : testing::Test {
     return view.grab().toImage().pixelColor(view.width() / 2, view.height() / 2);
   }
   [[nodiscard]] bool becomes(const QColor& color) {
-    return QTest::qWaitFor([this, color] { return middle() == color; }, 20000);
+    return QTest::qWaitFor([this, color] { return middle() == color; },
+                           tests::patienceMilliseconds);
   }
 };
 
@@ -69,7 +71,7 @@ TEST_F(Charts, AnUpdateShowsTheOldChartUntilTheNewOneIsThere) {
           }
           return now == next;
         },
-        20000));
+        tests::patienceMilliseconds));
     EXPECT_TRUE(others.empty()) << std::hex << *others.cbegin();
   }
 }
@@ -83,7 +85,8 @@ TEST_F(Charts, ThePageIsTransparent) {
       "<svg xmlns=\"http://www.w3.org/2000/svg\" viewBox=\"0 0 30 20\"><rect width=\"1\" "
       "height=\"20\" fill=\"red\"/></svg>"));
   ASSERT_TRUE(QTest::qWaitFor(
-      [this] { return view.grab().toImage().pixelColor(2, 100) == QColor(Qt::red); }, 20000));
+      [this] { return view.grab().toImage().pixelColor(2, 100) == QColor(Qt::red); },
+      tests::patienceMilliseconds));
   EXPECT_EQ(middle(), QColor(Qt::green));
 }
 
@@ -94,7 +97,8 @@ TEST_F(Charts, ComeBackWhenTheProcessThatDrawsThemDies) {
   const qint64 before = page->renderProcessPid();
   ASSERT_GT(before, 0);
   ::kill(static_cast<pid_t>(before), SIGKILL);
-  EXPECT_TRUE(QTest::qWaitFor([&] { return page->renderProcessPid() != before; }, 20000));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return page->renderProcessPid() != before; },
+                              tests::patienceMilliseconds));
   EXPECT_TRUE(becomes(Qt::red));
 }
 
@@ -116,9 +120,11 @@ TEST(WindowWithCharts, DrawsBothChartsOfACalculation) {
     }
     return colors.size();
   };
-  EXPECT_TRUE(QTest::qWaitFor([&] { return colorsIn("starMap") > 20; }, 20000));
+  EXPECT_TRUE(
+      QTest::qWaitFor([&] { return colorsIn("starMap") > 20; }, tests::patienceMilliseconds));
   window->selectTab(exports::OutputTab::horoscope);
-  EXPECT_TRUE(QTest::qWaitFor([&] { return colorsIn("horoscope") > 20; }, 20000));
+  EXPECT_TRUE(
+      QTest::qWaitFor([&] { return colorsIn("horoscope") > 20; }, tests::patienceMilliseconds));
   EXPECT_EQ(window->findChildren<QWebEngineView*>().size(), 2);
 }
 
@@ -154,7 +160,7 @@ TEST(Program, AnswersOnTheTerminalWithoutADisplay) {
     bare.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("xcb"));
     program.setProcessEnvironment(bare);
     program.start(QStringLiteral(VEYRUNA_ASTRO), {option});
-    EXPECT_TRUE(program.waitForFinished(30000));
+    EXPECT_TRUE(program.waitForFinished(tests::patienceMilliseconds));
     EXPECT_EQ(program.exitCode(), 0);
     return QString::fromUtf8(program.readAllStandardOutput());
   };

@@ -13,6 +13,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/model/fakes.h"
+#include "tests/support/patience.h"
 #include "ui/map/map_area.h"
 #include "ui/map/map_location_picker_view.h"
 
@@ -62,7 +63,7 @@ struct ShownPicker : testing::Test, FakeModel {
     area->setFixedSize(areaSize);
     window.show();
     window.activateWindow();
-    EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&window, tests::patienceMilliseconds));
     pointAt(besideMap());
   }
 

@@ -1,4 +1,5 @@
 // The picture on the screen: not there, rough, sharp; exactly where its layout says.
+#include "tests/support/patience.h"
 #include "tests/ui/map/drawn_picker.h"
 #include "ui/map/map_tiles.h"
 
@@ -114,12 +115,12 @@ TEST_F(DrawnPicker, ThreadsMayDrawTheTiles) {
   real.resize(900, 700);
   real.show();
   auto* const map = real.findChild<ui::MapArea*>();
-  EXPECT_TRUE(QTest::qWaitFor([map] { return map->isComplete(); }));
+  EXPECT_TRUE(QTest::qWaitFor([map] { return map->isComplete(); }, tests::patienceMilliseconds));
   for (int step = 0; step < 5; ++step) {
     QTest::keyClick(map, Qt::Key_Plus);
     turnEventLoop();
   }
-  EXPECT_TRUE(QTest::qWaitFor([map] { return map->isComplete(); }));
+  EXPECT_TRUE(QTest::qWaitFor([map] { return map->isComplete(); }, tests::patienceMilliseconds));
 }
 
 TEST_F(DrawnPicker, ThePickerMayGoWhileThreadsDraw) {

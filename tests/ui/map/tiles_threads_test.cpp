@@ -8,6 +8,7 @@
 #include <utility>
 #include <vector>
 
+#include "tests/support/patience.h"
 #include "ui/map/map_tiles.h"
 
 namespace veyruna::ui {
@@ -54,7 +55,8 @@ TEST(MapTilesOnThreads, ComeWhateverIsAskedForMeanwhile) {
       QCoreApplication::processEvents();
     }
   }
-  const bool complete = QTest::qWaitFor([&tiles] { return tiles.isComplete(); });
+  const bool complete =
+      QTest::qWaitFor([&tiles] { return tiles.isComplete(); }, tests::patienceMilliseconds);
   EXPECT_TRUE(complete);
   const QRect last(-29 * 40, -29 * 20, 1000 + 9 * 400, 800 + 9 * 320);
   frame.fill(Qt::black);

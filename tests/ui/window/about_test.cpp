@@ -6,6 +6,7 @@
 #include <QStatusBar>
 #include <QTest>
 
+#include "tests/support/patience.h"
 #include "tests/support/source_path.h"
 #include "tests/ui/opened_addresses.h"
 #include "tests/ui/window/windows.h"
@@ -24,7 +25,7 @@ struct About : tests::Windows {
 
 TEST_F(About, ClosesOnEscape) {
   AboutView* const about = program.openAbout();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(about));
+  ASSERT_TRUE(QTest::qWaitForWindowActive(about, tests::patienceMilliseconds));
   QTest::keyClick(about, Qt::Key_Escape);
   EXPECT_FALSE(about->isVisible());
 }
@@ -160,7 +161,7 @@ TEST_F(About, TheDocumentationIsTheManualOfTheProgram) {
 TEST_F(About, F1OpensTheChapterOfTheTabInFront) {
   tests::OpenedAddresses opened;
   MainView* const window = program.openWindow();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(window));
+  ASSERT_TRUE(QTest::qWaitForWindowActive(window, tests::patienceMilliseconds));
   const QStringList chapters = {QStringLiteral("star-map.html"), QStringLiteral("horoscope.html"),
                                 QStringLiteral("tables.html"),   QStringLiteral("tables.html"),
                                 QStringLiteral("tables.html"),   QStringLiteral("map.html")};

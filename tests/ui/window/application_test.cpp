@@ -6,6 +6,7 @@
 #include <QFile>
 #include <QTest>
 
+#include "tests/support/patience.h"
 #include "tests/ui/window/windows.h"
 #include "ui/window/about_view.h"
 
@@ -32,7 +33,7 @@ TEST_F(Application, AnotherWindowStandsBesideTheFirstOnTheSameModel) {
   MainView* const first = program.openWindow();
   finishCalculations();
   first->activateWindow();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(first));
+  ASSERT_TRUE(QTest::qWaitForWindowActive(first, tests::patienceMilliseconds));
   trigger(*first, "New Window");
   QList<MainView*> both = windows();
   both.removeOne(first);

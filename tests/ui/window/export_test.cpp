@@ -8,6 +8,7 @@
 #include <QMessageBox>
 #include <QTimer>
 
+#include "tests/support/patience.h"
 #include "tests/ui/opened_addresses.h"
 #include "tests/ui/shown_window.h"
 
@@ -263,7 +264,7 @@ TEST_F(Exports, TheNoticeGoesAfterAFewSeconds) {
   save("nativeExportButton", QStringLiteral("<b>sky.svg"));
   EXPECT_EQ(notice(), QStringLiteral("Saved <b>sky.svg"));
   EXPECT_FALSE(find<QLabel>("exportNotice")->toolTip().contains(QStringLiteral("<b>")));
-  EXPECT_TRUE(QTest::qWaitFor([this] { return notice().isEmpty(); }, 12000));
+  EXPECT_TRUE(QTest::qWaitFor([this] { return notice().isEmpty(); }, tests::patienceMilliseconds));
   EXPECT_FALSE(find<QWidget>("openFolder")->isVisible());
 }
 

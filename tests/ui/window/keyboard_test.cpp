@@ -12,6 +12,7 @@
 #include <QSlider>
 #include <QTableWidget>
 
+#include "tests/support/patience.h"
 #include "tests/ui/shown_window.h"
 
 namespace veyruna::ui {
@@ -196,11 +197,13 @@ TEST_F(Keyboard, APersonWithoutAMouseSavesAPlaceAndReadsItsTables) {
   QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("34"));
   QTest::keyClick(&window, Qt::Key_S, Qt::AltModifier);
   auto* const sheet = find<QDialog>("saveSheet");
-  ASSERT_TRUE(QTest::qWaitForWindowActive(sheet));
-  EXPECT_TRUE(QTest::qWaitFor([] {
-    return QApplication::focusWidget() != nullptr &&
-           QApplication::focusWidget()->objectName() == QLatin1String("nameField");
-  }));
+  ASSERT_TRUE(QTest::qWaitForWindowActive(sheet, tests::patienceMilliseconds));
+  EXPECT_TRUE(QTest::qWaitFor(
+      [] {
+        return QApplication::focusWidget() != nullptr &&
+               QApplication::focusWidget()->objectName() == QLatin1String("nameField");
+      },
+      tests::patienceMilliseconds));
   QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("Lookout"));
   QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
   EXPECT_EQ(find<QLabel>("coordinates")->text(), QStringLiteral("12.00° S   34.00° W"));
@@ -212,7 +215,8 @@ TEST_F(Keyboard, APersonWithoutAMouseSavesAPlaceAndReadsItsTables) {
   QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
   QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("30"));
   QTest::keyClick(&window, Qt::Key_I, Qt::AltModifier);
-  EXPECT_TRUE(QTest::qWaitFor([this] { return model.useLocalTime(); }));
+  EXPECT_TRUE(
+      QTest::qWaitFor([this] { return model.useLocalTime(); }, tests::patienceMilliseconds));
   QTest::keyClick(&window, Qt::Key_Return, Qt::ControlModifier);
   tasks.runNext();
   tests::turnEventLoop();
