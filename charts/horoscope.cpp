@@ -24,7 +24,7 @@ namespace veyruna::charts {
 
 namespace {
 
-constexpr std::string_view head =
+constexpr std::string_view horoscopeHead =
     R"(<svg xmlns="http://www.w3.org/2000/svg" xmlns:xlink="http://www.w3.org/1999/xlink" viewBox="-10 -10 720 380">
 <defs>
 <path id="rim" d="M180,5 A175,175, 0 1,1 180,355 A175,175, 0 1,1 180,5" fill="none" />
@@ -68,7 +68,7 @@ class Horoscope {
         nativity_(nativityOf()) {}
 
   void draw() {
-    svg_.markup(head);
+    svg_.markup(horoscopeHead);
     drawDisc();
     drawGrid(svg_);
     drawHeader(svg_, observer_);

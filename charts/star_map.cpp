@@ -23,7 +23,7 @@ namespace veyruna::charts {
 
 namespace {
 
-constexpr std::string_view head =
+constexpr std::string_view starMapHead =
     R"(<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 360 360">
 <circle cx="180" cy="180" r="180" fill="#210741" />
 )";
@@ -45,7 +45,7 @@ class StarMap {
   }
 
   void draw() {
-    svg_.markup(head);
+    svg_.markup(starMapHead);
     drawGrid(svg_);
     drawCompass();
     drawHeader(svg_, observer_);

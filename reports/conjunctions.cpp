@@ -16,7 +16,7 @@ namespace veyruna::reports {
 
 namespace {
 
-constexpr std::string_view header =
+constexpr std::string_view conjunctionsHeader =
     "                      EQUATORIAL COORDINATES                                  ECLIPTIC "
     "COORDINATES                                 CONJUNCTIONS\n"
     "YR MO DAY TIME        IVRO     THESSIL BRALO    DUNMOR    GALVI    PALLOX     IVRO     "
@@ -42,8 +42,8 @@ constexpr bool isInCapitals(std::string_view name, std::string_view headerFromTh
 /// Every body has a column of either block.
 constexpr bool isInBothBlocks(std::string_view name) {
   int columns = 0;
-  for (std::size_t place = 0; place < header.size(); ++place) {
-    columns += isInCapitals(name, header.substr(place)) ? 1 : 0;
+  for (std::size_t place = 0; place < conjunctionsHeader.size(); ++place) {
+    columns += isInCapitals(name, conjunctionsHeader.substr(place)) ? 1 : 0;
   }
   return columns == 2;
 }
@@ -109,7 +109,7 @@ bool isConjunct(double a, double b) {
 }
 
 void writeConjunctionTable(double start, const TableSize& size, const TextSink& sink) {
-  writeRows(header, start, size, sink, appendRow);
+  writeRows(conjunctionsHeader, start, size, sink, appendRow);
 }
 
 std::string conjunctionTable(double start, const TableSize& size) {

@@ -15,7 +15,7 @@ namespace veyruna::reports {
 
 namespace {
 
-constexpr std::string_view header =
+constexpr std::string_view ephemerisHeader =
     "YR MO DAY TIME        I-RA     I-DEC    Ec-Lat   Ec-Long  T-RA    T-DEC     T-Long   Phase\n";
 
 constexpr int intervalsPerDay = 4;
@@ -84,7 +84,7 @@ class EphemerisRows {
 void writeEphemerisTable(const astro::Observer& observer, const TableSize& size,
                          const TextSink& sink) {
   EphemerisRows table(observer.latitude);
-  writeRows(header, observer.baseTime, size, sink,
+  writeRows(ephemerisHeader, observer.baseTime, size, sink,
             [&table](std::string& row, double t) { table.append(row, t); });
 }
 

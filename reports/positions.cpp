@@ -15,7 +15,7 @@ namespace veyruna::reports {
 
 namespace {
 
-constexpr std::string_view header =
+constexpr std::string_view positionsHeader =
     "Body           Azimuth    Altitude   Ec. Long.   Sign\n"
     "----           -------    --------   ---------   ----\n";
 
@@ -69,7 +69,7 @@ std::array<PositionRow, astro::bodyCount> positionRows(const astro::Observer& ob
 }
 
 std::string positionsTableText(std::span<const PositionRow> rows) {
-  std::string text(header);
+  std::string text(positionsHeader);
   for (const PositionRow& row : rows) {
     text += fittedName(row.name);
     text += ' ';

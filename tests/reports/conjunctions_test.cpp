@@ -26,7 +26,7 @@ using tests::inRadians;
 using tests::labelWidth;
 using tests::linesOf;
 
-const std::string header =
+const std::string conjunctionsHeader =
     "                      EQUATORIAL COORDINATES                                  "
     "ECLIPTIC COORDINATES                                 CONJUNCTIONS\n"
     "YR MO DAY TIME        IVRO     THESSIL BRALO    DUNMOR    GALVI    PALLOX     "
@@ -92,8 +92,8 @@ RC_GTEST_PROP(Conjunction, IsBeingLessThanTwoDegreesApart, ()) {
 }
 
 TEST(ConjunctionTable, WithoutRowsIsItsTwoHeaderLines) {
-  EXPECT_EQ(conjunctionTable(258840.0, {0, 1.0}), header);
-  EXPECT_EQ(header.size(), 288U);
+  EXPECT_EQ(conjunctionTable(258840.0, {0, 1.0}), conjunctionsHeader);
+  EXPECT_EQ(conjunctionsHeader.size(), 288U);
 }
 
 TEST(ConjunctionTable, ARowWithoutConjunctionEndsInTwoBlanks) {
@@ -183,7 +183,8 @@ RC_GTEST_PROP(ConjunctionTable, RowsAreThoseOfTheMomentsAddedUp, ()) {
   RC_ASSERT(lines.size() == 8U);
   double t = start;
   for (std::size_t row = 2; row < lines.size(); ++row) {
-    RC_ASSERT(lines[row] + "\n" == conjunctionTable(t, {1, step}).substr(header.size()));
+    RC_ASSERT(lines[row] + "\n" ==
+              conjunctionTable(t, {1, step}).substr(conjunctionsHeader.size()));
     RC_ASSERT(lines[row].substr(0, labelWidth(lines[row])) == astro::calendarLabel(t));
     t += step;
   }
@@ -196,7 +197,7 @@ RC_GTEST_PROP(ConjunctionTable, ASinkReceivesTheHeaderAndThenEachRow, ()) {
   reports::writeConjunctionTable(start, {rows, 1.0},
                                  [&](std::string_view piece) { pieces.emplace_back(piece); });
   RC_ASSERT(pieces.size() == static_cast<std::size_t>(rows) + 1);
-  RC_ASSERT(pieces.front() == header);
+  RC_ASSERT(pieces.front() == conjunctionsHeader);
   std::string joined;
   for (const std::string& piece : pieces) {
     RC_ASSERT(piece.back() == '\n');

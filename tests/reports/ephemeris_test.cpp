@@ -26,13 +26,13 @@ using tests::inRadians;
 using tests::labelWidth;
 using tests::linesOf;
 
-const std::string header =
+const std::string ephemerisHeader =
     "YR MO DAY TIME        I-RA     I-DEC    Ec-Lat   Ec-Long  T-RA    T-DEC     T-Long   Phase\n";
 
 /// Columns after the label: two blanks, seven angles of 7, two blanks between, three behind.
 constexpr std::size_t firstAngle = 2;
-constexpr std::size_t angleStride = 9;
-constexpr std::size_t phaseColumn = firstAngle + 7 * angleStride + 1;
+constexpr std::size_t ephemerisStride = 9;
+constexpr std::size_t phaseColumn = firstAngle + 7 * ephemerisStride + 1;
 constexpr std::size_t eventColumn = phaseColumn + 4 + 3;
 
 /// The single row of a table without its label.
@@ -49,8 +49,8 @@ double numberIn(const std::string& field) {
 }
 
 TEST(EphemerisTable, WithoutRowsIsItsHeader) {
-  EXPECT_EQ(ephemerisTable({258840.0, 0.5}, {0, 1.0}), header);
-  EXPECT_EQ(header.size(), 91U);
+  EXPECT_EQ(ephemerisTable({258840.0, 0.5}, {0, 1.0}), ephemerisHeader);
+  EXPECT_EQ(ephemerisHeader.size(), 91U);
 }
 
 TEST(EphemerisTable, ANightThatLastsAllMonthHasNoEvents) {
@@ -76,14 +76,14 @@ TEST(EphemerisTable, PhaseIsZeroAtNewAndOneAtFullMoon) {
 
 TEST(EphemerisTable, NegativeAnglesHaveTheirSignInAColumnOfItsOwn) {
   const double midwinter = 0.5 + (300.0 + 0.75) / astro::sunMeanMotion;
-  EXPECT_EQ(rowAt(midwinter, 0.0).substr(firstAngle + 5 * angleStride, 7), "-021.00");
+  EXPECT_EQ(rowAt(midwinter, 0.0).substr(firstAngle + 5 * ephemerisStride, 7), "-021.00");
   const double midsummer = 0.5 + (300.0 + 0.25) / astro::sunMeanMotion;
-  EXPECT_EQ(rowAt(midsummer, 0.0).substr(firstAngle + 5 * angleStride, 7), " 021.00");
+  EXPECT_EQ(rowAt(midsummer, 0.0).substr(firstAngle + 5 * ephemerisStride, 7), " 021.00");
 }
 
 TEST(EphemerisTable, AtTheEquinoxTheSunStandsAtZero) {
   const std::string row = rowAt(0.5, 0.0);
-  EXPECT_EQ(row.substr(firstAngle + 4 * angleStride, 25), " 000.00   000.00   000.00");
+  EXPECT_EQ(row.substr(firstAngle + 4 * ephemerisStride, 25), " 000.00   000.00   000.00");
 }
 
 TEST(EphemerisTable, ANodeCrossingFarFromAlignmentAddsNothing) {
@@ -116,8 +116,8 @@ TEST(EphemerisTable, EventsOfTheMoonComeBeforeThoseOfTheSunAndEclipsesLast) {
 RC_GTEST_PROP(EphemerisTable, ColumnsHaveTheirWidths, ()) {
   const std::string row = rowAt(*tests::moments(), *tests::latitudes());
   for (std::size_t column = 0; column < 7; ++column) {
-    const std::string field = row.substr(firstAngle + column * angleStride, 7);
-    const std::string gap = row.substr(firstAngle + column * angleStride + 7, 2);
+    const std::string field = row.substr(firstAngle + column * ephemerisStride, 7);
+    const std::string gap = row.substr(firstAngle + column * ephemerisStride + 7, 2);
     RC_ASSERT(hasShape(field, "-999.99"));
     RC_ASSERT(gap == "  ");
   }
@@ -134,7 +134,7 @@ RC_GTEST_PROP(EphemerisTable, AnglesAreThoseOfMoonAndSun, ()) {
   const std::vector<double> angles = {moon.eq.phi, moon.eq.theta, moon.ec.theta, moon.ec.phi,
                                       sun.eq.phi,  sun.eq.theta,  sun.ec.phi};
   for (std::size_t column = 0; column < angles.size(); ++column) {
-    const double printed = numberIn(row.substr(firstAngle + column * angleStride, 7));
+    const double printed = numberIn(row.substr(firstAngle + column * ephemerisStride, 7));
     RC_ASSERT(std::abs(printed - angles[column] * 180.0 / astro::pi) <= 0.005 + 1e-9);
   }
   const double separation = std::abs(astro::elongation(t, 0.0)) / astro::pi;
@@ -165,7 +165,8 @@ RC_GTEST_PROP(EphemerisTable, RowsAreThoseOfTheMomentsAddedUp, ()) {
   RC_ASSERT(lines.size() == 7U);
   double t = start;
   for (std::size_t row = 1; row < lines.size(); ++row) {
-    RC_ASSERT(lines[row] + "\n" == ephemerisTable({t, latitude}, {1, step}).substr(header.size()));
+    RC_ASSERT(lines[row] + "\n" ==
+              ephemerisTable({t, latitude}, {1, step}).substr(ephemerisHeader.size()));
     RC_ASSERT(lines[row].substr(0, labelWidth(lines[row])) == astro::calendarLabel(t));
     t += step;
   }
@@ -179,7 +180,7 @@ RC_GTEST_PROP(EphemerisTable, ASinkReceivesTheHeaderAndThenEachRow, ()) {
   reports::writeEphemerisTable({start, latitude}, {rows, 1.0},
                                [&](std::string_view piece) { pieces.emplace_back(piece); });
   RC_ASSERT(pieces.size() == static_cast<std::size_t>(rows) + 1);
-  RC_ASSERT(pieces.front() == header);
+  RC_ASSERT(pieces.front() == ephemerisHeader);
   std::string joined;
   for (const std::string& piece : pieces) {
     RC_ASSERT(piece.find('\n') == piece.size() - 1);

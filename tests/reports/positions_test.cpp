@@ -24,7 +24,7 @@ using reports::positionRows;
 using reports::positionsTableText;
 using tests::inRadians;
 
-const std::string header =
+const std::string positionsHeader =
     "Body           Azimuth    Altitude   Ec. Long.   Sign\n"
     "----           -------    --------   ---------   ----\n";
 
@@ -127,7 +127,7 @@ RC_GTEST_PROP(Positions, TextsHaveTheirWidths, ()) {
 }
 
 TEST(PositionsTable, WithoutRowsIsItsHeader) {
-  EXPECT_EQ(positionsTableText({}), header);
+  EXPECT_EQ(positionsTableText({}), positionsHeader);
 }
 
 PositionRow rowNamed(const std::string& name) {
@@ -136,7 +136,7 @@ PositionRow rowNamed(const std::string& name) {
 
 std::string lineNamed(const std::string& name) {
   const std::vector<PositionRow> rows = {rowNamed(name)};
-  return positionsTableText(rows).substr(header.size());
+  return positionsTableText(rows).substr(positionsHeader.size());
 }
 
 TEST(PositionsTable, ColumnsArePartedByTheirBlanks) {
