@@ -9,6 +9,7 @@
 #include <functional>
 #include <ostream>
 
+#include "tests/support/patience.h"
 #include "tests/ui/shown_window.h"
 
 namespace veyruna::ui {
@@ -92,7 +93,7 @@ const std::vector<Ending> stayings = {
        QWidget other;
        other.show();
        other.activateWindow();
-       EXPECT_TRUE(QTest::qWaitForWindowActive(&other));
+       EXPECT_TRUE(QTest::qWaitForWindowActive(&other, tests::patienceMilliseconds));
      }},
 };
 

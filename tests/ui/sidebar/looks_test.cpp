@@ -11,6 +11,7 @@
 #include <array>
 #include <map>
 
+#include "tests/support/patience.h"
 #include "tests/ui/shown_window.h"
 
 namespace veyruna::ui {
@@ -131,9 +132,10 @@ TEST_P(Looks, TheDestructiveButtonShowsItsFocus) {
   shown.model.setSelectedCityID(shown.model.cities().at(3).id);
   shown.press("deleteButton");
   auto* const sheet = shown.find<QDialog>("deleteSheet");
-  ASSERT_TRUE(QTest::qWaitForWindowActive(sheet));
+  ASSERT_TRUE(QTest::qWaitForWindowActive(sheet, tests::patienceMilliseconds));
   auto* const remove = sheet->findChild<QPushButton*>(QStringLiteral("confirmButton"));
-  ASSERT_TRUE(QTest::qWaitFor([remove] { return remove->hasFocus(); })) << "from the first";
+  ASSERT_TRUE(QTest::qWaitFor([remove] { return remove->hasFocus(); }, tests::patienceMilliseconds))
+      << "from the first";
   const QImage with = pictureOf(*remove);
   sheet->findChild<QPushButton*>(QStringLiteral("cancelButton"))->setFocus();
   EXPECT_GE(visibleDifferences(with, pictureOf(*remove)), 20);

@@ -8,6 +8,7 @@
 #include <variant>
 
 #include "tests/model/fakes.h"
+#include "tests/support/patience.h"
 #include "ui/sidebar/location_section.h"
 
 namespace veyruna::ui {
@@ -30,7 +31,7 @@ struct SharedPlaces : testing::Test {
   SharedPlaces() {
     section.show();
     section.activateWindow();
-    EXPECT_TRUE(QTest::qWaitForWindowActive(&section));
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&section, tests::patienceMilliseconds));
     picker->setFocus();
   }
 };

@@ -9,6 +9,7 @@
 #include <QScrollBar>
 #include <QSlider>
 
+#include "tests/support/patience.h"
 #include "tests/ui/shown_window.h"
 #include "ui/controls/program.h"
 #include "ui/map/map_location_picker_view.h"
@@ -116,7 +117,8 @@ TEST_F(Controls, DeletingAPlaceFallsBackToManual) {
 
 /// The name of what has the focus; the window must have it back from its sheet.
 QString focused() {
-  EXPECT_TRUE(QTest::qWaitFor([] { return QApplication::focusWidget() != nullptr; }));
+  EXPECT_TRUE(QTest::qWaitFor([] { return QApplication::focusWidget() != nullptr; },
+                              tests::patienceMilliseconds));
   const QWidget* const widget = QApplication::focusWidget();
   return widget == nullptr ? QString() : widget->objectName();
 }
