@@ -16,12 +16,12 @@ svg { display: block; width: 100%; height: 100%; }
 <body>
 )");
 
-const QString closing = QStringLiteral("\n</body>\n</html>");
+const QString chartClosing = QStringLiteral("\n</body>\n</html>");
 
 }  // namespace
 
 QString chartPage(const QString& svg) {
-  return chartHead + svg + closing;
+  return chartHead + svg + chartClosing;
 }
 
 }  // namespace veyruna::exports

@@ -6,9 +6,8 @@
 #include "astro/angle.h"
 #include "astro/calendar.h"
 #include "astro/local_time.h"
-#include "tests/cost/library_calls.h"
-
 #include "documents/documents.h"
+#include "tests/cost/library_calls.h"
 
 namespace veyruna {
 namespace {

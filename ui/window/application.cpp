@@ -11,8 +11,8 @@ namespace veyruna::ui {
 
 namespace {
 
-constexpr int cascade = 24;      // from one window to the next, to the right and down
-constexpr QSize grip(300, 100);  // as much of a new window is on the screen at least
+constexpr int cascade = 24;              // from one window to the next, to the right and down
+constexpr QSize leastInSight(300, 100);  // as much of a new window is on the screen at least
 
 }  // namespace
 
@@ -39,7 +39,7 @@ MainView* VeyrunaAstroApp::openWindow() {
     Placement beside = other->placement();
     beside.frame.translate(cascade, cascade);
     const QRect room = other->screen()->availableGeometry();
-    if (!room.contains(QRect(beside.frame.topLeft(), grip))) {
+    if (!room.contains(QRect(beside.frame.topLeft(), leastInSight))) {
       beside.frame.moveTo(room.topLeft());
     }
     window->openAt(beside);
