@@ -213,6 +213,12 @@ void AstronomyModel::deleteCity(QUuid id) {
   }
 }
 
+bool AstronomyModel::inputsHaveChanged() const {
+  return lastHoroscopeBasetime_ &&
+         (*lastHoroscopeBasetime_ != baseTime() || lastHoroscopeLatitude_ != effectiveLatitude() ||
+          lastHoroscopeLongitude_ != effectiveLongitude());
+}
+
 void AstronomyModel::setHoroscopeBlackAndWhite(bool isBlackAndWhite) {
   assign(horoscopeBlackAndWhite_, isBlackAndWhite, &AstronomyModel::horoscopeBlackAndWhiteChanged);
 }

@@ -157,6 +157,9 @@ class AstronomyModel : public QObject {
   }
   [[nodiscard]] double lastHoroscopeLatitude() const { return lastHoroscopeLatitude_; }
   [[nodiscard]] double lastHoroscopeLongitude() const { return lastHoroscopeLongitude_; }
+  /// Whether moment or place of the inputs are no longer those of the last calculation. False
+  /// before the first.
+  [[nodiscard]] bool inputsHaveChanged() const;
   /// Not stored. The caller redraws the horoscope.
   void setHoroscopeBlackAndWhite(bool isBlackAndWhite);
 

@@ -78,12 +78,9 @@ void CalculateArea::showError() {
 }
 
 void CalculateArea::showDifference() {
-  const bool differs = model_.lastHoroscopeBasetime() &&
-                       (*model_.lastHoroscopeBasetime() != model_.baseTime() ||
-                        model_.lastHoroscopeLatitude() != model_.effectiveLatitude() ||
-                        model_.lastHoroscopeLongitude() != model_.effectiveLongitude());
-  difference_->setText(differs ? tr("The inputs have changed since this was calculated.")
-                               : QString());
+  difference_->setText(model_.inputsHaveChanged()
+                           ? tr("The inputs have changed since this was calculated.")
+                           : QString());
 }
 
 }  // namespace veyruna::ui

@@ -2,6 +2,7 @@
 
 #include <QFileInfo>
 
+#include "ui/window/changed_inputs.h"
 #include "ui/window/export_notice.h"
 #include "ui/window/save_dialog.h"
 #include "ui/window/window_state.h"
@@ -11,6 +12,7 @@ namespace veyruna::ui {
 ExportCommands::ExportCommands(model::AstronomyModel& model, const PageEngine& engine,
                                WindowState& state, ExportNotice& notice, QWidget& window)
     : QObject(&window),
+      model_(model),
       exporter_(model, engine.renderPdf),
       state_(state),
       notice_(notice),
@@ -31,29 +33,33 @@ void ExportCommands::exportPdf(exports::OutputTab tab) {
 
 template <class Content>
 void ExportCommands::ask(const Content& content, const QString& typeName, const QString& suffix) {
+  notice_.dismissFailure();
   askWhereToSave(window_,
                  {content.message, state_.exportFolder(), content.proposedName, typeName, suffix},
-                 [this, content](const QString& path) {
-                   notice_.showSaving(path);
-                   exporter_.save(content, path, reportTo(path));
+                 [this, content, remark = changedInputsRemark(model_)](const QString& path) {
+                   notice_.showProgress(tr("Saving %1 …").arg(QFileInfo(path).fileName()));
+                   exporter_.save(content, path, reportTo(path, remark));
                  });
 }
 
-exports::Saved ExportCommands::reportTo(const QString& path) {
-  return [window = QPointer<ExportCommands>(this), path](const std::optional<QString>& error) {
-    if (window) {
-      window->report(path, error);
-    }
-  };
+exports::Saved ExportCommands::reportTo(const QString& path, const QString& remark) {
+  return
+      [window = QPointer<ExportCommands>(this), path, remark](const std::optional<QString>& error) {
+        if (window) {
+          window->report(QFileInfo(path), remark, error);
+        }
+      };
 }
 
-void ExportCommands::report(const QString& path, const std::optional<QString>& error) {
+void ExportCommands::report(const QFileInfo& file, const QString& remark,
+                            const std::optional<QString>& error) {
   if (error) {
-    notice_.showFailure(path, *error);
+    // The reason first: what does not fit is cut at the end.
+    notice_.showFailure(tr("Not saved: %1 (%2)").arg(*error, file.fileName()));
   } else {
     // Only a folder that could be written to is offered again.
-    state_.setExportFolder(QFileInfo(path).absolutePath());
-    notice_.showSaved(path);
+    state_.setExportFolder(file.absolutePath());
+    notice_.showSuccess(joined(tr("Saved %1").arg(file.fileName()), remark), file.absolutePath());
   }
 }
 

@@ -8,6 +8,8 @@
 #include "model/astronomy_model.h"
 #include "ui/outputs/page_engine.h"
 
+class QFileInfo;
+
 namespace veyruna::ui {
 
 class ExportNotice;
@@ -31,9 +33,10 @@ class ExportCommands final : public QObject {
  private:
   template <class Content>
   void ask(const Content& content, const QString& typeName, const QString& suffix);
-  [[nodiscard]] exports::Saved reportTo(const QString& path);
-  void report(const QString& path, const std::optional<QString>& error);
+  [[nodiscard]] exports::Saved reportTo(const QString& path, const QString& remark);
+  void report(const QFileInfo& file, const QString& remark, const std::optional<QString>& error);
 
+  const model::AstronomyModel& model_;
   exports::DocumentExporter exporter_;
   WindowState& state_;
   ExportNotice& notice_;

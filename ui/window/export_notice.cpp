@@ -2,7 +2,6 @@
 
 #include <QAccessible>
 #include <QDesktopServices>
-#include <QFileInfo>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -40,38 +39,40 @@ ExportNotice::ExportNotice(QWidget* parent)
 
   timeout_.setSingleShot(true);
   timeout_.setInterval(shown);
-  connect(&timeout_, &QTimer::timeout, this, [this] {
-    say(QString());
-    openFolder_->hide();
-  });
+  connect(&timeout_, &QTimer::timeout, this, [this] { say(QString()); });
   connect(openFolder_, &QPushButton::clicked, this,
           [this] { QDesktopServices::openUrl(QUrl::fromLocalFile(folder_)); });
 }
 
-void ExportNotice::showSaving(const QString& path) {
-  timeout_.stop();
-  openFolder_->hide();
-  say(tr("Saving %1 …").arg(QFileInfo(path).fileName()));
+void ExportNotice::showProgress(const QString& line) {
+  say(line);
 }
 
-void ExportNotice::showSaved(const QString& path) {
-  folder_ = QFileInfo(path).absolutePath();
-  say(tr("Saved %1").arg(QFileInfo(path).fileName()));
-  openFolder_->show();
+void ExportNotice::showSuccess(const QString& line, const QString& folder) {
+  say(line);
+  folder_ = folder;
+  openFolder_->setVisible(!folder.isEmpty());
   timeout_.start();
 }
 
-void ExportNotice::showFailure(const QString& path, const QString& reason) {
-  openFolder_->hide();
-  // The reason first: what does not fit is cut at the end.
-  say(tr("Not saved: %1 (%2)").arg(reason, QFileInfo(path).fileName()));
+void ExportNotice::showFailure(const QString& line) {
+  say(line);
+  isFailure_ = true;
   QPalette colors = palette();
   colors.setColor(QPalette::WindowText, warningColor(colors));
   line_->setPalette(colors);
-  timeout_.start();
+}
+
+void ExportNotice::dismissFailure() {
+  if (isFailure_) {
+    say(QString());
+  }
 }
 
 void ExportNotice::say(const QString& line) {
+  timeout_.stop();
+  openFolder_->hide();
+  isFailure_ = false;
   line_->setPalette({});
   line_->setText(line);
   // Not as markup, whatever the file is called.

@@ -8,20 +8,22 @@ class QPushButton;
 
 namespace veyruna::ui {
 
-/// How an export goes and how it ended: a line in the window's status bar that goes after a few
-/// seconds, with a way to the folder of what was saved. It takes its room all the time, so that
-/// nothing moves.
+/// How an export or a print goes and how it ended: a line in the window's status bar, with a way to
+/// the folder of what was saved. It takes its room all the time, so that nothing moves.
 class ExportNotice final : public QWidget {
   Q_OBJECT
 
  public:
   explicit ExportNotice(QWidget* parent = nullptr);
 
-  /// The file is being made; stays until it is known how that ends.
-  void showSaving(const QString& path);
-  void showSaved(const QString& path);
-  /// The reason in plain words, without a full stop of its own or with one.
-  void showFailure(const QString& path, const QString& reason);
+  /// Stays until it is known how that ends.
+  void showProgress(const QString& line);
+  /// Goes after a few seconds. `folder` is where the file is, if there is one.
+  void showSuccess(const QString& line, const QString& folder = {});
+  /// Stays until it is dismissed.
+  void showFailure(const QString& line);
+  /// The person has gone on to something else: a failure goes.
+  void dismissFailure();
 
  private:
   void say(const QString& line);
@@ -30,6 +32,7 @@ class ExportNotice final : public QWidget {
   QPushButton* openFolder_;
   QTimer timeout_;
   QString folder_;
+  bool isFailure_ = false;
 };
 
 }  // namespace veyruna::ui

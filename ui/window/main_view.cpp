@@ -9,6 +9,7 @@
 #include <QShortcut>
 #include <QSplitter>
 #include <QStatusBar>
+#include <functional>
 
 #include "ui/outputs/detailed_view.h"
 #include "ui/sidebar/sidebar_view.h"
@@ -16,6 +17,7 @@
 #include "ui/window/export_notice.h"
 #include "ui/window/help_menu_view.h"
 #include "ui/window/manual.h"
+#include "ui/window/print_command.h"
 #include "ui/window/product.h"
 #include "ui/window/tab_selector.h"
 #include "ui/window/window_state.h"
@@ -39,15 +41,16 @@ MainView::MainView(model::AstronomyModel& model, const PageEngine& engine, Windo
       tabs_(new TabSelector(this)),
       sidebar_(new SidebarView(model)),
       output_(new DetailedView(model, engine)),
-      columns_(new QSplitter) {
+      columns_(new QSplitter),
+      notice_(new ExportNotice) {
   setWindowTitle(product().title);
   setAttribute(Qt::WA_DeleteOnClose);
   setContextMenuPolicy(Qt::NoContextMenu);  // which would offer to hide the toolbar
   addToolBar(tabs_);
   makeColumns();
-  auto* const notice = new ExportNotice;
-  statusBar()->addWidget(notice, 1);
-  exports_ = new ExportCommands(model, engine, state, *notice, *this);
+  statusBar()->addWidget(notice_, 1);
+  exports_ = new ExportCommands(model, engine, state, *notice_, *this);
+  print_ = new PrintCommand(model, engine, *notice_, *this);
   makeMenus();
 
   connect(tabs_, &TabSelector::chosen, this, &MainView::selectTab);
@@ -56,6 +59,8 @@ MainView::MainView(model::AstronomyModel& model, const PageEngine& engine, Windo
           [this] { exports_->exportNative(selectedTab_); });
   connect(sidebar_, &SidebarView::pdfExportRequested, this,
           [this] { exports_->exportPdf(selectedTab_); });
+  connect(&model, &model::AstronomyModel::isCalculatingChanged, notice_,
+          &ExportNotice::dismissFailure);
   selectTab(OutputTab::starMap);
   if (const auto placement = state_.placement()) {
     openAt(*placement);
@@ -104,21 +109,37 @@ void MainView::selectTab(OutputTab tab) {
   tabs_->setTab(tab);
   sidebar_->setTab(tab);
   output_->setTab(tab);
+  notice_->dismissFailure();
+  const bool isSaved = tab != OutputTab::location;
+  saveNative_->setText(exports::isChart(tab) ? tr("&Save as SVG…") : tr("&Save as Text…"));
+  for (QAction* const action : {saveNative_, savePdf_, printAction_}) {
+    action->setEnabled(isSaved);
+    action->setStatusTip(isSaved ? QString() : tr("This tab has nothing to save or print."));
+  }
 }
 
 void MainView::makeMenus() {
-  const auto add = [this](QMenu* menu, const QString& title, const char* keys, auto signal) {
-    QAction* const action = menu->addAction(title, this, [this, signal] {
+  const auto add = [this](QMenu* menu, const QString& title, const char* keys, const auto& act) {
+    QAction* const action = menu->addAction(title, this, [this, act] {
       sidebar_->commit();
-      (this->*signal)();
+      std::invoke(act, this);
     });
     action->setShortcut(QKeySequence(QString::fromLatin1(keys)));
+    return action;
   };
   QMenu* const program = menuBar()->addMenu(QLatin1Char('&') + labelOf(product().name));
   add(program, tr("&About %1").arg(labelOf(product().name)), "", &MainView::aboutRequested);
   add(program, tr("&Quit"), "Ctrl+Q", &MainView::quitRequested);
   QMenu* const file = menuBar()->addMenu(tr("&File"));
   add(file, tr("&New Window"), "Ctrl+N", &MainView::newWindowRequested);
+  file->addSeparator();
+  saveNative_ = add(file, QString(), "Ctrl+S",
+                    [](MainView* view) { view->exports_->exportNative(view->selectedTab_); });
+  savePdf_ = add(file, tr("Save as P&DF…"), "Ctrl+Shift+S",
+                 [](MainView* view) { view->exports_->exportPdf(view->selectedTab_); });
+  printAction_ = add(file, tr("&Print…"), "Ctrl+P",
+                     [](MainView* view) { view->print_->print(view->selectedTab_); });
+  file->addSeparator();
   add(file, tr("&Close"), "Ctrl+W", &QWidget::close);
   menuBar()->addMenu(new HelpMenuView(this));
   connect(new QShortcut(QKeySequence::HelpContents, this), &QShortcut::activated, this,

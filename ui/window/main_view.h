@@ -13,6 +13,8 @@ namespace veyruna::ui {
 
 class DetailedView;
 class ExportCommands;
+class ExportNotice;
+class PrintCommand;
 class SidebarView;
 class TabSelector;
 class WindowState;
@@ -57,7 +59,12 @@ class MainView final : public QMainWindow {
   SidebarView* sidebar_;
   DetailedView* output_;
   QSplitter* columns_;
-  ExportCommands* exports_;
+  ExportNotice* notice_;
+  ExportCommands* exports_ = nullptr;
+  PrintCommand* print_ = nullptr;
+  QAction* saveNative_ = nullptr;
+  QAction* savePdf_ = nullptr;
+  QAction* printAction_ = nullptr;
   Placement placement_;
   exports::OutputTab selectedTab_ = exports::OutputTab::starMap;
 };

@@ -5,6 +5,7 @@
 #include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenuBar>
 #include <QMessageBox>
 #include <QTimer>
 
@@ -258,6 +259,128 @@ TEST_F(Exports, AFolderThatCouldNotBeWrittenToIsNotOfferedAgain) {
   confirm(dialog);
   EXPECT_TRUE(notice().startsWith(QStringLiteral("Not saved: "))) << notice().toStdString();
   EXPECT_EQ(state.exportFolder(), folder.path());
+}
+
+TEST_F(Exports, ThePlatformsOwnDialogReplacesNothingUnasked) {
+  // Such a dialog asks about the name as it was typed, and knows nothing of the suffix.
+  const QString path = disk.filePath(QStringLiteral("old.svg"));
+  QFile old(path);
+  ASSERT_TRUE(old.open(QIODevice::WriteOnly));
+  old.write("old");
+  old.close();
+  QFileDialog* const dialog = ask("nativeExportButton");
+  auto asked = answerQuestionWith(QMessageBox::No);
+  Q_EMIT dialog->fileSelected(disk.filePath(QStringLiteral("old")));
+  EXPECT_TRUE(*asked);
+  EXPECT_EQ(contentOf(path), QByteArray("old"));
+  EXPECT_EQ(notice(), QString());
+  asked = answerQuestionWith(QMessageBox::Yes);
+  Q_EMIT dialog->fileSelected(disk.filePath(QStringLiteral("old")));
+  EXPECT_TRUE(*asked);
+  EXPECT_EQ(contentOf(path), model.starMapSVG().toUtf8());
+  // What it has asked about is not asked again.
+  asked = answerQuestionWith(QMessageBox::No);
+  Q_EMIT dialog->fileSelected(path);
+  QCoreApplication::processEvents();
+  EXPECT_FALSE(*asked);
+  dialog->reject();
+}
+
+TEST_F(Exports, TheResultSaysWhereTheInputsHaveChangedSinceTheCalculation) {
+  model.setYear(3);
+  model.setDayIndex(6);
+  calculate();
+  save("nativeExportButton", QStringLiteral("sky.svg"));
+  EXPECT_EQ(notice(), QStringLiteral("Saved sky.svg"));
+  model.setYear(900);
+  save("nativeExportButton", QStringLiteral("then.svg"));
+  EXPECT_EQ(notice(), QStringLiteral("Saved then.svg. It holds 003-01-07, Wendmark; the inputs "
+                                     "have changed"));
+  // What counts is what was on the screen when the command was chosen.
+  window.selectTab(OutputTab::horoscope);
+  save("pdfButton", QStringLiteral("wheel.pdf"));
+  model.setYear(3);
+  drawn->pdfs[0].completion(QByteArray("%PDF-"));
+  EXPECT_TRUE(notice().endsWith(QStringLiteral("the inputs have changed")));
+  // A place without a name is told by its coordinates.
+  model.setManualLatDeg(12.25);
+  calculate();
+  model.setManualLatDeg(13.25);
+  save("nativeExportButton", QStringLiteral("place.svg"));
+  EXPECT_TRUE(notice().contains(QStringLiteral("It holds 003-01-07, 12.25° N   20.90° W;")))
+      << notice().toStdString();
+}
+
+TEST_F(Exports, BeforeTheFirstCalculationNoInputsHaveChanged) {
+  tests::FakeModel fresh;
+  fresh.model.setYear(900);
+  EXPECT_FALSE(fresh.model.inputsHaveChanged());
+}
+
+TEST_F(Exports, AFailureStaysUntilTheNextAction) {
+  const auto failAgain = [this] {
+    save("nativeExportButton", QStringLiteral("/proc/sky.svg"));
+    EXPECT_TRUE(notice().startsWith(QStringLiteral("Not saved: "))) << notice().toStdString();
+  };
+  failAgain();
+  // Longer than a success does.
+  for (const auto* const timer : window.findChildren<QTimer*>()) {
+    EXPECT_FALSE(timer->isActive() && timer->interval() > 1000);
+  }
+  press("tab2");
+  EXPECT_EQ(notice(), QString());
+  failAgain();
+  calculate();
+  EXPECT_EQ(notice(), QString());
+  failAgain();
+  ask("pdfButton")->reject();
+  EXPECT_EQ(notice(), QString());
+  // Only a failure: what is being written is still said.
+  save("pdfButton", QStringLiteral("wheel.pdf"));
+  press("tab1");
+  EXPECT_EQ(notice(), QStringLiteral("Saving wheel.pdf …"));
+}
+
+TEST_F(Exports, TheFileMenuSavesWhatTheTabShows) {
+  QTest::keyClick(&window, Qt::Key_S, Qt::ControlModifier);
+  EXPECT_TRUE(nameField(find<QFileDialog>("saveDialog"))->text().endsWith(QStringLiteral(".svg")));
+  find<QFileDialog>("saveDialog")->reject();
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  comeBack();
+  window.selectTab(OutputTab::sunMoon);
+  type("yearStepper", QStringLiteral("901"));
+  QTest::keyClick(&window, Qt::Key_S, Qt::ControlModifier);
+  EXPECT_TRUE(nameField(find<QFileDialog>("saveDialog"))->text().endsWith(QStringLiteral(".txt")));
+  EXPECT_EQ(model.year(), 901);
+  find<QFileDialog>("saveDialog")->reject();
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  comeBack();
+  QTest::keyClick(&window, Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier);
+  EXPECT_TRUE(nameField(find<QFileDialog>("saveDialog"))->text().endsWith(QStringLiteral(".pdf")));
+}
+
+TEST_F(Exports, TheFileMenuFollowsTheTab) {
+  const QList<QAction*> file = window.menuBar()->actions().at(1)->menu()->actions();
+  const auto entry = [&file](Qt::Key key, Qt::KeyboardModifiers modifiers) {
+    const auto found = std::find_if(file.begin(), file.end(), [&](const QAction* action) {
+      return action->shortcut() == QKeySequence(key | modifiers);
+    });
+    return found == file.end() ? nullptr : *found;
+  };
+  QAction* const native = entry(Qt::Key_S, Qt::ControlModifier);
+  QAction* const pdf = entry(Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier);
+  QAction* const print = entry(Qt::Key_P, Qt::ControlModifier);
+  ASSERT_TRUE(native != nullptr && pdf != nullptr && print != nullptr);
+  for (const OutputTab tab : exports::outputTabs) {
+    window.selectTab(tab);
+    EXPECT_EQ(native->text().remove(QLatin1Char('&')), exports::isChart(tab)
+                                                           ? QStringLiteral("Save as SVG…")
+                                                           : QStringLiteral("Save as Text…"));
+    for (const QAction* const action : {native, pdf, print}) {
+      EXPECT_EQ(action->isEnabled(), tab != OutputTab::location);
+      EXPECT_EQ(action->statusTip().isEmpty(), tab != OutputTab::location);
+    }
+  }
 }
 
 TEST_F(Exports, TheNoticeGoesAfterAFewSeconds) {

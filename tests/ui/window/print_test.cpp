@@ -1,0 +1,138 @@
+// Printing through the real window and a print command that only writes down what it is given.
+#include <QComboBox>
+#include <QDir>
+#include <QFile>
+#include <QLabel>
+#include <QPushButton>
+#include <QSpinBox>
+
+#include "tests/ui/shown_window.h"
+#include "ui/window/print_sheet.h"
+
+namespace veyruna::ui {
+namespace {
+
+struct Printing : testing::Test, tests::ShownWindow {
+  QDir programs{folder.path()};
+  QByteArray usualPath = qgetenv("PATH");
+
+  Printing() {
+    qputenv("PATH", folder.path().toUtf8());  // no print command but these
+    calculate();
+  }
+  ~Printing() override { qputenv("PATH", usualPath); }
+
+  void install(const char* name, const QByteArray& script) {
+    QFile file(programs.filePath(QString::fromLatin1(name)));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("#!/bin/sh\nPATH=/usr/bin:/bin\ncd '" + folder.path().toUtf8() + "'\n" + script);
+    file.close();
+    ASSERT_TRUE(file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
+  }
+  void installPrinters() {
+    install("lpstat",
+            "[ \"$1\" = -e ] && printf 'Attic\\nStudy\\n'\n"
+            "[ \"$1\" = -d ] && echo 'system default destination: Study'\nexit 0\n");
+    install("lp", "printf '%s\\n' \"$@\" > arguments; cat > pages\n");
+  }
+  void askToPrint() { QTest::keyClick(&window, Qt::Key_P, Qt::ControlModifier); }
+  QString notice() { return find<QLabel>("exportNotice")->text(); }
+  bool comesToSay(const QString& beginning) {
+    return QTest::qWaitFor([&] { return notice().startsWith(beginning); }, 60'000);
+  }
+  PrintSheet* sheet() {
+    PrintSheet* found = nullptr;
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&] {
+          found = window.findChild<PrintSheet*>();
+          return found != nullptr && found->isVisible();
+        },
+        60'000));
+    return found;
+  }
+  QByteArray contentOf(const char* name) {
+    QFile file(programs.filePath(QString::fromLatin1(name)));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(no file)");
+  }
+};
+
+TEST_F(Printing, ThePagesOfThePdfGoToThePrinterThatWasChosen) {
+  installPrinters();
+  window.selectTab(exports::OutputTab::horoscope);
+  askToPrint();
+  PrintSheet* const question = sheet();
+  ASSERT_NE(question, nullptr);
+  EXPECT_EQ(question->windowModality(), Qt::WindowModal);
+  auto* const printer = question->findChild<QComboBox*>(QStringLiteral("printer"));
+  EXPECT_EQ(printer->count(), 2);
+  EXPECT_EQ(printer->currentText(), QStringLiteral("Study"));
+  printer->setCurrentText(QStringLiteral("Attic"));
+  question->findChild<QSpinBox*>(QStringLiteral("copies"))->setValue(3);
+  QTest::keyClick(question, Qt::Key_Return);
+  ASSERT_EQ(drawn->pdfs.size(), 1);
+  EXPECT_TRUE(drawn->pdfs[0].html.contains(model.horoscopeSVG()));
+  EXPECT_TRUE(notice().startsWith(QStringLiteral("Printing Horoscope - ")));
+  drawn->pdfs[0].completion(QByteArray("%PDF-wheel"));
+  EXPECT_TRUE(comesToSay(QStringLiteral("Sent to Attic: Horoscope - "))) << notice().toStdString();
+  EXPECT_EQ(contentOf("pages"), QByteArray("%PDF-wheel"));
+  EXPECT_EQ(QString::fromUtf8(contentOf("arguments")),
+            QStringLiteral("-d\nAttic\n-n\n3\n-t\nHoroscope - 40.50°N 20.90°W - 720-01-01 12-00\n"
+                           "-o\nfit-to-page\n"));
+}
+
+TEST_F(Printing, NothingIsPrintedWhereThePersonCancels) {
+  installPrinters();
+  askToPrint();
+  QTest::keyClick(sheet(), Qt::Key_Escape);
+  EXPECT_EQ(drawn->pdfs.size(), 0);
+  EXPECT_EQ(notice(), QString());
+}
+
+TEST_F(Printing, WithoutAPrintCommandItSaysSo) {
+  askToPrint();
+  EXPECT_EQ(notice(), QStringLiteral("Not printed: this computer has no print command (lp)"));
+}
+
+TEST_F(Printing, WithoutAPrinterItSaysSo) {
+  installPrinters();
+  install("lpstat", "exit 0\n");
+  askToPrint();
+  EXPECT_TRUE(comesToSay(QStringLiteral("Not printed: no printer is set up")));
+  install("lpstat", "echo 'lpstat: Scheduler is not running.' >&2; exit 1\n");
+  askToPrint();
+  EXPECT_TRUE(comesToSay(QStringLiteral("Not printed: lpstat: Scheduler is not running.")));
+  ASSERT_TRUE(programs.remove(QStringLiteral("lpstat")));
+  askToPrint();
+  EXPECT_TRUE(comesToSay(QStringLiteral("Not printed: lpstat cannot be started")));
+}
+
+TEST_F(Printing, AFailureIsSaid) {
+  installPrinters();
+  install("lp", "cat > /dev/null; echo 'lp: The printer is on fire.' >&2; exit 1\n");
+  askToPrint();
+  sheet()->accept();
+  ASSERT_EQ(drawn->pdfs.size(), 1);
+  drawn->pdfs[0].completion(QByteArray("%PDF-"));
+  EXPECT_TRUE(comesToSay(QStringLiteral("Not printed: lp: The printer is on fire.")));
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  comeBack();
+  askToPrint();
+  sheet()->accept();
+  ASSERT_EQ(drawn->pdfs.size(), 2);
+  drawn->pdfs[1].completion(exports::RenderFailure{QStringLiteral("It could not be drawn.")});
+  EXPECT_EQ(notice(), QStringLiteral("Not printed: It could not be drawn."));
+}
+
+TEST_F(Printing, TheResultSaysWhereTheInputsHaveChanged) {
+  installPrinters();
+  model.setYear(900);
+  askToPrint();
+  sheet()->accept();
+  drawn->pdfs[0].completion(QByteArray("%PDF-"));
+  EXPECT_TRUE(comesToSay(QStringLiteral("Sent to Study: Star Map - ")));
+  EXPECT_TRUE(
+      notice().endsWith(QStringLiteral(". It holds 720-01-01, Wendmark; the inputs have changed")));
+}
+
+}  // namespace
+}  // namespace veyruna::ui

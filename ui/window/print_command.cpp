@@ -1,0 +1,118 @@
+#include "ui/window/print_command.h"
+
+#include <QFileInfo>
+#include <QPointer>
+#include <QProcess>
+#include <QStandardPaths>
+
+#include "ui/window/changed_inputs.h"
+#include "ui/window/export_notice.h"
+#include "ui/window/print_sheet.h"
+
+namespace veyruna::ui {
+
+PrintCommand::PrintCommand(const model::AstronomyModel& model, const PageEngine& engine,
+                           ExportNotice& notice, QWidget& window)
+    : QObject(&window),
+      model_(model),
+      exporter_(model, engine.renderPdf),
+      renderPdf_(engine.renderPdf),
+      notice_(notice),
+      window_(window) {}
+
+void PrintCommand::print(exports::OutputTab tab) {
+  const auto content = exporter_.pdf(tab);
+  if (!content) {
+    return;
+  }
+  notice_.dismissFailure();
+  const Order order{*content, QFileInfo(content->proposedName).completeBaseName(),
+                    changedInputsRemark(model_)};
+  if (QStandardPaths::findExecutable(QStringLiteral("lp")).isEmpty()) {
+    fail(tr("this computer has no print command (lp)"));
+    return;
+  }
+  run(QStringLiteral("lpstat"), {QStringLiteral("-e")}, {},
+      [this, order](const QString& names, const QString& failure) {
+        const QStringList printers = names.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+        if (printers.isEmpty()) {
+          fail(failure.isEmpty() ? tr("no printer is set up") : failure);
+          return;
+        }
+        run(QStringLiteral("lpstat"), {QStringLiteral("-d")}, {},
+            [this, order, printers](const QString& line, const QString& /*failure*/) {
+              // "system default destination: NAME", or that there is none.
+              askForPrinter(order, printers, line.section(QStringLiteral(": "), 1).trimmed());
+            });
+      });
+}
+
+void PrintCommand::askForPrinter(const Order& order, const QStringList& printers,
+                                 const QString& usual) {
+  auto* const sheet = new PrintSheet(printers, usual, &window_);
+  connect(sheet, &QDialog::accepted, this,
+          [this, sheet, order] { render(order, sheet->printer(), sheet->copies()); });
+  sheet->open();
+}
+
+void PrintCommand::render(const Order& order, const QString& printer, int copies) {
+  notice_.showProgress(tr("Printing %1 …").arg(order.title));
+  renderPdf_(order.content.html, order.content.pageSizePoints,
+             [self = QPointer<PrintCommand>(this), order, printer,
+              copies](const exports::PdfResult& result) {
+               if (self == nullptr) {
+                 return;
+               }
+               if (const auto* const failure = std::get_if<exports::RenderFailure>(&result)) {
+                 self->fail(failure->description);
+               } else {
+                 self->hand(std::get<QByteArray>(result), order, printer, copies);
+               }
+             });
+}
+
+void PrintCommand::hand(const QByteArray& pdf, const Order& order, const QString& printer,
+                        int copies) {
+  // The pages are of the documents' own sizes; the printer fits them to its paper.
+  run(QStringLiteral("lp"),
+      {QStringLiteral("-d"), printer, QStringLiteral("-n"), QString::number(copies),
+       QStringLiteral("-t"), order.title, QStringLiteral("-o"), QStringLiteral("fit-to-page")},
+      pdf, [this, order, printer](const QString& /*request*/, const QString& failure) {
+        if (failure.isEmpty()) {
+          notice_.showSuccess(joined(tr("Sent to %1: %2").arg(printer, order.title), order.remark));
+        } else {
+          fail(failure);
+        }
+      });
+}
+
+void PrintCommand::run(const QString& program, const QStringList& arguments,
+                       const QByteArray& input, const Answered& answered) {
+  auto* const process = new QProcess(this);
+  QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+  environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C"));  // its answers are read
+  process->setProcessEnvironment(environment);
+  connect(process, &QProcess::errorOccurred, this, [=](QProcess::ProcessError error) {
+    if (error == QProcess::FailedToStart) {
+      process->deleteLater();
+      answered({}, tr("%1 cannot be started").arg(program));
+    }
+  });
+  connect(process, &QProcess::finished, this, [=](int status, QProcess::ExitStatus ending) {
+    process->deleteLater();
+    const QString said = QString::fromLocal8Bit(process->readAllStandardError()).simplified();
+    const bool isDone = status == 0 && ending == QProcess::NormalExit;
+    const QString failure = said.isEmpty() ? tr("%1 failed").arg(program) : said;
+    answered(QString::fromLocal8Bit(process->readAllStandardOutput()),
+             isDone ? QString() : failure);
+  });
+  process->start(program, arguments);
+  process->write(input);
+  process->closeWriteChannel();
+}
+
+void PrintCommand::fail(const QString& reason) {
+  notice_.showFailure(tr("Not printed: %1").arg(reason));
+}
+
+}  // namespace veyruna::ui
