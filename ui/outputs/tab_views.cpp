@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <algorithm>
+#include <optional>
 
 #include "astro/invariant.h"
 #include "ui/controls/named.h"
@@ -70,6 +71,16 @@ QWidget* makeSunMoon(AstronomyModel& model, const PageEngine& /*engine*/) {
          [&model, view] { view->show(model.basicTableHourly(), model.basicTableMonthly()); });
   follow(model, view, {Document::nextFullMoon, Document::nextNewMoon},
          [&model, view] { view->showMoons(model.nextFullMoonLabel(), model.nextNewMoonLabel()); });
+  // Nothing is calculated by it. Where no inputs name the moment, they stay as they are.
+  const auto setMoment = [&model](std::optional<double> baseTime) {
+    if (baseTime) {
+      model.setMoment(*baseTime);
+    }
+  };
+  QObject::connect(view, &TablesView::fullMoonChosen, &model,
+                   [&model, setMoment] { setMoment(model.nextFullMoonBaseTime()); });
+  QObject::connect(view, &TablesView::newMoonChosen, &model,
+                   [&model, setMoment] { setMoment(model.nextNewMoonBaseTime()); });
   return view;
 }
 

@@ -66,6 +66,27 @@ TEST_F(Views, TheTablesShowTheirTexts) {
   EXPECT_GE(table()->blockCount(), 360);
 }
 
+TEST_F(Views, SetPutsTheNextMoonsIntoTheInputsAndCalculatesNothing) {
+  press("tab4");
+  EXPECT_FALSE(find<QWidget>("setFullMoon")->isEnabled());
+  EXPECT_FALSE(find<QWidget>("setNewMoon")->isEnabled());
+  calculate();
+  const QString table = model.basicTableHourly();
+  const double fullMoon = model.nextFullMoonBaseTime().value();
+  const double newMoon = model.nextNewMoonBaseTime().value();
+  constexpr double minute = 1.0 / 1440.0;
+  for (const bool isLocal : {false, true}) {
+    model.setUseLocalTime(isLocal);
+    press("setFullMoon");
+    EXPECT_NEAR(model.baseTime(), fullMoon, minute);
+    press("setNewMoon");
+    EXPECT_NEAR(model.baseTime(), newMoon, minute);
+  }
+  EXPECT_FALSE(model.isCalculating());
+  EXPECT_EQ(tasks.count(), 0U);
+  EXPECT_EQ(model.basicTableHourly(), table);
+}
+
 TEST_F(Views, ATableIsReadOnlyUnwrappedAndScrollsBothWays) {
   calculate();
   press("tab5");
