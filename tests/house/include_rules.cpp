@@ -24,6 +24,7 @@ const std::map<std::string, Room, std::less<>>& rooms() {
       {"charts", {{"astro", "reports"}, Libraries::standard}},
       {"documents", {{"astro", "reports", "charts"}, Libraries::standard}},
       {"model", {{"astro", "reports", "charts", "documents", "files"}, Libraries::any}},
+      {"drawing", {{"astro"}, Libraries::any}},
       {"export", {{"astro", "reports", "charts", "documents", "files", "model"}, Libraries::any}},
       {"cli", {{"astro", "reports", "charts", "documents", "files", "model"}, Libraries::any}},
       {"ui/controls", {{"astro"}, Libraries::any}},
