@@ -48,6 +48,7 @@ struct Entry {
   Kind kind = Kind::label;
   reports::TableSize size;  ///< of a table; of anything else, nothing
   std::string (*write)(const astro::Observer& observer, const reports::TableSize& size) = nullptr;
+  int columnHeadingLines = 0;  ///< how many of its first lines head its columns
 };
 
 /// Every document, in their order.

@@ -5,6 +5,7 @@
 #include <system_error>
 #include <utility>
 
+#include "drawing/svg_reader.h"
 #include "files/file_writer.h"
 
 namespace veyruna::exports {
@@ -40,9 +41,8 @@ FailureSink standardOutput() {
   };
 }
 
-DocumentExporter::DocumentExporter(const model::AstronomyModel& model, PdfRenderer renderer,
-                                   FailureSink failures)
-    : model_(model), renderer_(std::move(renderer)), failures_(std::move(failures)) {}
+DocumentExporter::DocumentExporter(const model::AstronomyModel& model, FailureSink failures)
+    : model_(model), failures_(std::move(failures)) {}
 
 std::optional<PdfExport> DocumentExporter::pdf(OutputTab tab) const {
   return pdfExport(model_, tab);
@@ -57,16 +57,15 @@ void DocumentExporter::save(const PdfExport& content, const QString& path,
   if (path.isEmpty()) {
     return;
   }
-  renderer_(content.html, content.pageSizePoints,
-            [path, saved, failures = failures_](const PdfResult& result) {
-              if (const auto* failure = std::get_if<RenderFailure>(&result)) {
-                conclude(failures, QStringLiteral("Error rendering PDF: "), failure->description,
-                         saved);
-                return;
-              }
-              conclude(failures, QStringLiteral("Error writing PDF: "),
-                       written(path, std::get<QByteArray>(result)), saved);
-            });
+  QByteArray pdf;
+  try {
+    pdf = pdfOf(content);
+  } catch (const drawing::PictureError& error) {
+    conclude(failures_, QStringLiteral("Error rendering PDF: "), QString::fromUtf8(error.what()),
+             saved);
+    return;
+  }
+  conclude(failures_, QStringLiteral("Error writing PDF: "), written(path, pdf), saved);
 }
 
 void DocumentExporter::save(const NativeExport& content, const QString& path,

@@ -6,7 +6,6 @@
 
 #include "export/export_content.h"
 #include "export/output_tab.h"
-#include "export/pdf_result.h"
 #include "model/astronomy_model.h"
 
 namespace veyruna::exports {
@@ -21,19 +20,18 @@ FailureSink standardOutput();
 using Saved = std::function<void(const std::optional<QString>& error)>;
 
 /// Saves what the tabs show. An export has two steps: take the content when the command is chosen,
-/// save it when a destination is known. The model must outlive the exporter; an export that is on
-/// its way needs neither.
+/// save it when a destination is known. The model must outlive the exporter.
 class DocumentExporter {
  public:
-  DocumentExporter(const model::AstronomyModel& model, PdfRenderer renderer,
-                   FailureSink failures = standardOutput());
+  explicit DocumentExporter(const model::AstronomyModel& model,
+                            FailureSink failures = standardOutput());
 
   /// What the tab shows now; nothing for the location.
   [[nodiscard]] std::optional<PdfExport> pdf(OutputTab tab) const;
   [[nodiscard]] std::optional<NativeExport> native(OutputTab tab) const;
 
-  /// Renders and writes the PDF; `saved` is called once, later. An empty path is a dialog that was
-  /// cancelled: nothing happens and `saved` is not called.
+  /// Draws and writes the PDF; `saved` is called once, before this returns. An empty path is a
+  /// dialog that was cancelled: nothing happens and `saved` is not called.
   void save(const PdfExport& content, const QString& path, const Saved& saved = {}) const;
 
   /// Writes the text as UTF-8; `saved` is called once, before this returns. An empty path likewise.
@@ -41,7 +39,6 @@ class DocumentExporter {
 
  private:
   const model::AstronomyModel& model_;
-  PdfRenderer renderer_;
   FailureSink failures_;
 };
 

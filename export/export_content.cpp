@@ -2,9 +2,11 @@
 
 #include <QStringList>
 
+#include "export/chart_files.h"
 #include "export/chart_page.h"
 #include "export/file_names.h"
 #include "export/report_page.h"
+#include "export/report_pages.h"
 
 namespace veyruna::exports {
 
@@ -31,12 +33,13 @@ QString chartSvg(const AstronomyModel& model, const TabEntry& tab) {
   return model.text(tab.sections.front().document);
 }
 
-QString reportHtml(const AstronomyModel& model, const TabEntry& tab) {
-  QList<ReportSection> sections;
+Report reportOf(const AstronomyModel& model, const TabEntry& tab) {
+  Report report{tab.reportTitle.toString(), metaText(model), {}};
   for (const TabSection& section : tab.sections) {
-    sections.append({headingOf(section.document), model.text(section.document)});
+    report.sections.append({headingOf(section.document), model.text(section.document),
+                            documents::entryOf(section.document).columnHeadingLines});
   }
-  return reportDocument(tab.reportTitle.toString(), metaText(model), sections);
+  return report;
 }
 
 /// One table as it is; several under their headings between em dashes.
@@ -63,10 +66,30 @@ std::optional<PdfExport> pdfExport(const AstronomyModel& model, OutputTab tab) {
   if (entry.sections.empty()) {
     return std::nullopt;
   }
-  return PdfExport{isChart(tab) ? chartPage(chartSvg(model, entry)) : reportHtml(model, entry),
-                   entry.pageSizePoints,
-                   proposedFileName(model, entry.filePrefix, pdfFile.extension),
-                   pdfFile.message.toString()};
+  const QString what = isChart(tab) ? title(tab) : entry.reportTitle.toString();
+  PdfExport document;
+  document.tab = tab;
+  if (isChart(tab)) {
+    document.svg = chartSvg(model, entry);
+  } else {
+    document.report = reportOf(model, entry);
+  }
+  document.pageSizePoints = entry.pageSizePoints;
+  document.information = {what + QStringLiteral(", ") + model.dateLabel(),
+                          QStringLiteral("Veyruna Astro " VEYRUNA_VERSION)};
+  document.proposedName = proposedFileName(model, entry.filePrefix, pdfFile.extension);
+  document.message = pdfFile.message.toString();
+  return document;
+}
+
+QByteArray pdfOf(const PdfExport& document) {
+  return isChart(document.tab)
+             ? chartPdf(document.svg.toUtf8(), document.pageSizePoints, document.information)
+             : reportPdf(document.report, document.information);
+}
+
+QString htmlOf(const PdfExport& document) {
+  return isChart(document.tab) ? chartPage(document.svg) : reportDocument(document.report);
 }
 
 std::optional<NativeExport> nativeExport(const AstronomyModel& model, OutputTab tab) {

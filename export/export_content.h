@@ -5,19 +5,30 @@
 #include <optional>
 
 #include "export/output_tab.h"
+#include "export/pdf_document.h"
+#include "export/report.h"
 #include "model/astronomy_model.h"
 
 /// What is saved, as values: they hold what was on screen when the command was chosen, whatever
 /// the model shows by the time a place on disk has been found.
 namespace veyruna::exports {
 
-/// A document to be rendered as PDF.
+/// A document to be printed.
 struct PdfExport {
-  QString html;
+  OutputTab tab = OutputTab::count;
+  QString svg;    ///< of a tab that shows a chart
+  Report report;  ///< of a tab that shows tables
   QSizeF pageSizePoints;
+  PdfInformation information;
   QString proposedName;
   QString message;  ///< what the save dialog asks
 };
+
+/// The PDF file. Throws drawing::PictureError where a chart cannot be read.
+QByteArray pdfOf(const PdfExport& document);
+
+/// The same as a page of HTML that needs no other file.
+QString htmlOf(const PdfExport& document);
 
 /// What a native file holds.
 enum class NativeFormat { svg, text };

@@ -36,14 +36,13 @@ QString escaped(QString text) {
       .replace(u'>', QStringLiteral("&gt;"));
 }
 
-QString reportDocument(const QString& title, const QString& meta,
-                       const QList<ReportSection>& sections) {
+QString reportDocument(const Report& report) {
   QStringList parts;
-  for (const ReportSection& section : sections) {
+  for (const ReportSection& section : report.sections) {
     parts.append(sectionHtml(section));
   }
-  return reportHead + escaped(title) + QStringLiteral("</h1>\n<div class=\"meta\">") +
-         escaped(meta) + QStringLiteral("</div>\n") + parts.join(u'\n') + closing;
+  return reportHead + escaped(report.title) + QStringLiteral("</h1>\n<div class=\"meta\">") +
+         escaped(report.meta) + QStringLiteral("</div>\n") + parts.join(u'\n') + closing;
 }
 
 }  // namespace veyruna::exports

@@ -11,6 +11,7 @@
 
 #include "export/chart_page.h"
 #include "export/report_page.h"
+#include "tests/export/pdf_reader.h"
 #include "tests/model/disk.h"
 #include "tests/model/observed.h"
 
@@ -20,7 +21,6 @@ namespace {
 using namespace Qt::StringLiterals;
 using exports::DocumentExporter;
 using exports::OutputTab;
-using exports::RenderFailure;
 using tests::bytesIn;
 
 /// The positions list as reports write it.
@@ -34,21 +34,9 @@ QString positionsTable(const QList<model::BodyPosition>& positions) {
   return QString::fromStdString(reports::positionsTableText(rows));
 }
 
-/// An exporter over the first reference whose renderer answers when it is told to.
+/// An exporter over the first reference.
 class Exporting : public testing::Test {
  protected:
-  struct Rendering {
-    QString html;
-    QSizeF pageSizePoints;
-    exports::PdfCompletion completion;
-  };
-
-  exports::PdfRenderer renderer() {
-    return
-        [this](const QString& html, const QSizeF& size, const exports::PdfCompletion& completion) {
-          renderings.push_back({html, size, completion});
-        };
-  }
   exports::Saved saved() {
     return [this](const std::optional<QString>& error) {
       outcomes.push_back(error.value_or(u"saved"_s));
@@ -56,12 +44,10 @@ class Exporting : public testing::Test {
   }
 
   tests::ObservedModel world{tests::referenceCases().front()};
-  std::vector<Rendering> renderings;
   QStringList failures;
   QStringList outcomes;
   tests::Folder folder;
-  std::optional<DocumentExporter> exporter{std::in_place, world.model, renderer(),
-                                           [this](const QString& line) { failures.append(line); }};
+  DocumentExporter exporter{world.model, [this](const QString& line) { failures.append(line); }};
 };
 
 TEST(Tabs, HaveTheirTitlesInOrder) {
@@ -90,33 +76,35 @@ TEST_F(Exporting, PdfsOfTheTabs) {
       {OutputTab::starMap, exports::chartPage(model.starMapSVG()), {720, 720}, u"Star Map"_s},
       {OutputTab::horoscope, exports::chartPage(model.horoscopeSVG()), {1440, 760}, u"Horoscope"_s},
       {OutputTab::planets,
-       exports::reportDocument(u"Planet Positions"_s, meta,
-                               {{u"Positions"_s, positionsTable(model.positions())}}),
+       exports::reportDocument(
+           {u"Planet Positions"_s, meta, {{u"Positions"_s, positionsTable(model.positions())}}}),
        {612, 792},
        u"Planets"_s},
       {OutputTab::sunMoon,
        exports::reportDocument(
-           u"Sun & Moon"_s, meta,
-           {{u"Hourly"_s, model.basicTableHourly()}, {u"Monthly"_s, model.basicTableMonthly()}}),
+           {u"Sun & Moon"_s,
+            meta,
+            {{u"Hourly"_s, model.basicTableHourly()}, {u"Monthly"_s, model.basicTableMonthly()}}}),
        {612, 792},
        u"Sun & Moon"_s},
       {OutputTab::positions,
        exports::reportDocument(
-           u"Conjunctions"_s, meta,
-           {{u"Daily"_s, model.conjunctionDaily()}, {u"Yearly"_s, model.conjunctionYearly()}}),
+           {u"Conjunctions"_s,
+            meta,
+            {{u"Daily"_s, model.conjunctionDaily()}, {u"Yearly"_s, model.conjunctionYearly()}}}),
        {612, 792},
        u"Positions"_s},
   };
   for (const Expected& expected : all) {
-    const auto content = exporter->pdf(expected.tab);
+    const auto content = exporter.pdf(expected.tab);
     ASSERT_TRUE(content);
-    EXPECT_EQ(content->html, expected.html);
+    EXPECT_EQ(exports::htmlOf(*content), expected.html);
     EXPECT_EQ(content->pageSizePoints, expected.points);
     EXPECT_EQ(content->proposedName,
               expected.prefix + u" - 40.50°N 20.90°W - 720-01-01 12-00.pdf"_s);
     EXPECT_EQ(content->message, u"Choose where to save the PDF file"_s);
   }
-  EXPECT_FALSE(exporter->pdf(OutputTab::location));
+  EXPECT_FALSE(exporter.pdf(OutputTab::location));
 }
 
 TEST_F(Exporting, TextsOfTheTabs) {
@@ -145,17 +133,17 @@ TEST_F(Exporting, TextsOfTheTabs) {
        u"Positions"_s + at + u"txt"_s, textMessage},
   };
   for (const Expected& expected : all) {
-    const auto content = exporter->native(expected.tab);
+    const auto content = exporter.native(expected.tab);
     ASSERT_TRUE(content);
     EXPECT_EQ(content->text, expected.text);
     EXPECT_EQ(content->proposedName, expected.name);
     EXPECT_EQ(content->message, expected.message);
     EXPECT_EQ(content->format, exports::isChart(expected.tab) ? exports::NativeFormat::svg
                                                               : exports::NativeFormat::text);
-    exporter->save(*content, folder / content->proposedName, saved());
+    exporter.save(*content, folder / content->proposedName, saved());
     EXPECT_EQ(bytesIn(folder / content->proposedName), expected.text.toUtf8());
   }
-  EXPECT_FALSE(exporter->native(OutputTab::location));
+  EXPECT_FALSE(exporter.native(OutputTab::location));
   EXPECT_EQ(outcomes.join(u'|'), u"saved|saved|saved|saved|saved"_s);
   EXPECT_EQ(folder.names().size(), 5);
   EXPECT_TRUE(failures.isEmpty());
@@ -163,7 +151,7 @@ TEST_F(Exporting, TextsOfTheTabs) {
 
 TEST_F(Exporting, SectionsOfTheReports) {
   const auto headings = [this](OutputTab tab) {
-    QStringList found = exporter->pdf(tab)->html.split(u"<h2>"_s).mid(1);
+    QStringList found = exports::htmlOf(*exporter.pdf(tab)).split(u"<h2>"_s).mid(1);
     for (QString& heading : found) {
       heading = heading.section(u"</h2>"_s, 0, 0);
     }
@@ -172,19 +160,22 @@ TEST_F(Exporting, SectionsOfTheReports) {
   EXPECT_EQ(headings(OutputTab::planets), u"Positions"_s);
   EXPECT_EQ(headings(OutputTab::sunMoon), u"Hourly|Monthly"_s);
   EXPECT_EQ(headings(OutputTab::positions), u"Daily|Yearly"_s);
-  EXPECT_TRUE(exporter->pdf(OutputTab::positions)->html.contains(u"<h1>Conjunctions</h1>"_s));
+  EXPECT_TRUE(
+      exports::htmlOf(*exporter.pdf(OutputTab::positions)).contains(u"<h1>Conjunctions</h1>"_s));
 }
 
 TEST_F(Exporting, PlaceNameInReportAndFileName) {
   world.selectPlaceCalled(u"Salt & <Sand>"_s);
-  const auto content = exporter->pdf(OutputTab::planets);
-  EXPECT_TRUE(content->html.contains(u"OST   Salt &amp; &lt;Sand&gt;</div>"_s));
+  const auto content = exporter.pdf(OutputTab::planets);
+  EXPECT_TRUE(exports::htmlOf(*content).contains(u"OST   Salt &amp; &lt;Sand&gt;</div>"_s));
   EXPECT_EQ(content->proposedName, u"Planets - Salt & <Sand> - 720-01-01 12-00.pdf"_s);
 }
 
 TEST(ExportingEarly, GivesEmptyDocuments) {
   const tests::FakeModel world;
-  EXPECT_EQ(exports::pdfExport(world.model, OutputTab::starMap)->html, exports::chartPage({}));
+  EXPECT_EQ(exports::htmlOf(*exports::pdfExport(world.model, OutputTab::starMap)),
+            exports::chartPage({}));
+  EXPECT_FALSE(exports::pdfOf(*exports::pdfExport(world.model, OutputTab::starMap)).isEmpty());
   EXPECT_EQ(exports::nativeExport(world.model, OutputTab::horoscope)->text, QString());
   EXPECT_EQ(exports::nativeExport(world.model, OutputTab::sunMoon)->text,
             u"— Hourly —\n\n\n\n— Monthly —\n\n"_s);
@@ -194,45 +185,46 @@ TEST(ExportingEarly, GivesEmptyDocuments) {
 }
 
 TEST_F(Exporting, SavesWhatWasShownWhenItWasChosen) {
-  const auto svg = exporter->native(OutputTab::starMap);
-  const auto pdf = exporter->pdf(OutputTab::planets);
+  const auto svg = exporter.native(OutputTab::starMap);
+  const auto pdf = exporter.pdf(OutputTab::planets);
   const QString shown = world.model.starMapSVG();
-  const QString html = pdf->html;
+  const QByteArray bytes = tests::withoutDates(exports::pdfOf(*pdf));
   world.model.setHour(3.0);
   world.calculate();
   ASSERT_NE(world.model.starMapSVG(), shown);
-  exporter->save(*svg, folder / svg->proposedName);
+  exporter.save(*svg, folder / svg->proposedName);
   EXPECT_EQ(bytesIn(folder / svg->proposedName), shown.toUtf8());
-  exporter->save(*pdf, folder / pdf->proposedName);
-  ASSERT_EQ(renderings.size(), 1U);
-  EXPECT_EQ(renderings.front().html, html);
+  exporter.save(*pdf, folder / pdf->proposedName);
+  EXPECT_EQ(tests::withoutDates(bytesIn(folder / pdf->proposedName)), bytes);
 }
 
 TEST_F(Exporting, DoesNothingWithoutADestination) {
-  exporter->save(*exporter->native(OutputTab::starMap), {}, saved());
-  exporter->save(*exporter->pdf(OutputTab::starMap), {}, saved());
-  EXPECT_TRUE(renderings.empty());
+  exporter.save(*exporter.native(OutputTab::starMap), {}, saved());
+  exporter.save(*exporter.pdf(OutputTab::starMap), {}, saved());
+  EXPECT_TRUE(folder.names().isEmpty());
   EXPECT_TRUE(outcomes.isEmpty());
   EXPECT_TRUE(failures.isEmpty());
 }
 
 TEST_F(Exporting, TellsEachFailureUnderItsPrefix) {
   const QString path = folder / u"gone/file"_s;
-  exporter->save(*exporter->native(OutputTab::horoscope), path, saved());
-  exporter->save(*exporter->native(OutputTab::planets), path, saved());
-  exporter->save(*exporter->pdf(OutputTab::planets), path, saved());
-  renderings.front().completion(QByteArray("%PDF"));
-  exporter->save(*exporter->pdf(OutputTab::planets), path, saved());
-  renderings.back().completion(RenderFailure{u"no pages"_s});
+  exporter.save(*exporter.native(OutputTab::horoscope), path, saved());
+  exporter.save(*exporter.native(OutputTab::planets), path, saved());
+  exporter.save(*exporter.pdf(OutputTab::planets), path, saved());
+  auto broken = exporter.pdf(OutputTab::starMap);
+  broken->svg = u"<svg"_s;
+  exporter.save(*broken, folder / u"a.pdf"_s, saved());
   const QString gone = u"No such file or directory"_s;
   EXPECT_EQ(failures.join(u'\n'), u"Error saving SVG: "_s + gone + u"\nError saving text: "_s +
                                       gone + u"\nError writing PDF: "_s + gone +
-                                      u"\nError rendering PDF: no pages"_s);
-  EXPECT_EQ(outcomes.join(u'\n'), QStringList({gone, gone, gone, u"no pages"_s}).join(u'\n'));
+                                      u"\nError rendering PDF: "_s + outcomes.last());
+  EXPECT_TRUE(outcomes.last().startsWith(u"line 1: "_s)) << outcomes.last().toStdString();
+  EXPECT_TRUE(folder.names().isEmpty());
+  EXPECT_EQ(outcomes.join(u'\n'), QStringList({gone, gone, gone, outcomes.last()}).join(u'\n'));
 }
 
 TEST_F(Exporting, FailuresGoToStandardOutput) {
-  const DocumentExporter plain(world.model, renderer());
+  const DocumentExporter plain(world.model);
   testing::internal::CaptureStdout();
   plain.save(*plain.native(OutputTab::planets), folder / u"gone/°"_s);
   EXPECT_EQ(testing::internal::GetCapturedStdout(),
@@ -261,13 +253,37 @@ TEST_F(Exporting, AFailureIsInAPipeAtOnce) {
   EXPECT_EQ(received, "Error saving text: °\n"_ba);
 }
 
-TEST_F(Exporting, OutlivesWhoAskedForIt) {
-  const QString path = folder / u"late.pdf"_s;
-  exporter->save(*exporter->pdf(OutputTab::planets), path, saved());
-  exporter.reset();
-  renderings.front().completion(QByteArray("%PDF late"));
-  EXPECT_EQ(bytesIn(path), QByteArray("%PDF late"));
-  EXPECT_EQ(outcomes.join(u'|'), u"saved"_s);
+TEST_F(Exporting, PdfsSayWhatTheyHoldAndOfWhen) {
+  const auto chart = exporter.pdf(OutputTab::horoscope);
+  EXPECT_EQ(chart->information.title, u"Horoscope, 720-01-01 12:00 OST"_s);
+  EXPECT_TRUE(chart->information.program.startsWith(u"Veyruna Astro "_s));
+  EXPECT_EQ(exporter.pdf(OutputTab::positions)->information.title,
+            u"Conjunctions, 720-01-01 12:00 OST"_s);
+}
+
+TEST_F(Exporting, PdfsOfTablesRepeatTheHeadingsOfTheirColumns) {
+  const auto linesAbove = [this](OutputTab tab) {
+    QList<int> lines;
+    const auto document = exporter.pdf(tab);
+    for (const exports::ReportSection& section : document->report.sections) {
+      lines.append(section.columnHeadingLines);
+    }
+    return lines;
+  };
+  EXPECT_EQ(linesAbove(OutputTab::planets), QList<int>({2}));
+  EXPECT_EQ(linesAbove(OutputTab::sunMoon), QList<int>({1, 1}));
+  EXPECT_EQ(linesAbove(OutputTab::positions), QList<int>({2, 2}));
+}
+
+TEST_F(Exporting, PdfsAreWritten) {
+  for (const OutputTab tab : exports::outputTabs) {
+    if (const auto content = exporter.pdf(tab)) {
+      const QString path = folder / content->proposedName;
+      exporter.save(*content, path, saved());
+      EXPECT_TRUE(bytesIn(path).startsWith("%PDF-")) << path.toStdString();
+    }
+  }
+  EXPECT_EQ(outcomes.join(u'|'), u"saved|saved|saved|saved|saved"_s);
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-// The pages PDFs are rendered from, to the character.
+// What is saved as HTML, to the character.
 #include <gtest/gtest.h>
 
 #include "export/chart_page.h"
@@ -38,8 +38,9 @@ svg { display: block; width: 100%; height: 100%; }
 }
 
 TEST(Report, HoldsTitleMomentAndSections) {
-  EXPECT_EQ(exports::reportDocument(u"A & B"_s, u"720-01-01   <Ebb>"_s,
-                                    {{u"One > two"_s, u"x < y\nz\n"_s}, {u"Three"_s, {}}}),
+  EXPECT_EQ(exports::reportDocument({u"A & B"_s,
+                                     u"720-01-01   <Ebb>"_s,
+                                     {{u"One > two"_s, u"x < y\nz\n"_s}, {u"Three"_s, {}}}}),
             uR"(<!DOCTYPE html>
 <html>
 <head>
@@ -66,7 +67,7 @@ z
 }
 
 TEST(Report, MayHaveNoSections) {
-  EXPECT_TRUE(exports::reportDocument(u"T"_s, u"M"_s, {})
+  EXPECT_TRUE(exports::reportDocument({u"T"_s, u"M"_s, {}})
                   .endsWith(u"<h1>T</h1>\n<div class=\"meta\">M</div>\n\n</body>\n</html>"_s));
 }
 

@@ -2,9 +2,6 @@
 
 #include <QProcess>
 #include <QRegularExpression>
-#include <optional>
-
-#include "export/pdf_exporter.h"
 
 namespace veyruna::tests {
 
@@ -34,20 +31,6 @@ std::vector<QStringList> matches(const QString& pattern, const QString& text) {
 }
 
 }  // namespace
-
-QByteArray rendered(const QString& html, const QSizeF& pageSizePoints) {
-  std::optional<exports::PdfResult> result;
-  exports::PDFExporter::start(html, pageSizePoints,
-                              [&](const exports::PdfResult& pdf) { result = pdf; });
-  exports::PDFExporter::waitForAll();
-  if (!result) {
-    throw std::runtime_error("no answer");
-  }
-  if (const auto* failure = std::get_if<exports::RenderFailure>(&*result)) {
-    throw std::runtime_error(failure->description.toStdString());
-  }
-  return std::get<QByteArray>(*result);
-}
 
 QStringList squeezedLines(const QString& text) {
   QStringList lines;
@@ -90,6 +73,19 @@ std::vector<PdfReader::Word> PdfReader::words() const {
 
 QStringList PdfReader::lines() const {
   return squeezedLines(outputOf(u"pdftotext"_s, {u"-layout"_s, path(), u"-"_s}));
+}
+
+QStringList PdfReader::rawLines() const {
+  return squeezedLines(outputOf(u"pdftotext"_s, {u"-raw"_s, path(), u"-"_s}));
+}
+
+QString PdfReader::information(const QString& name) const {
+  for (const QString& line : outputOf(u"pdfinfo"_s, {path()}).split(u'\n')) {
+    if (line.startsWith(name + u':')) {
+      return line.mid(name.size() + 1).trimmed();
+    }
+  }
+  return {};
 }
 
 QStringList PdfReader::embeddings() const {

@@ -7,13 +7,10 @@
 #include <QStringList>
 #include <vector>
 
-#include "export/pdf_result.h"
 #include "tests/model/disk.h"
+#include "tests/support/pdf_dates.h"
 
 namespace veyruna::tests {
-
-/// Renders a document and waits. Throws where that fails.
-QByteArray rendered(const QString& html, const QSizeF& pageSizePoints);
 
 /// The text without the blanks at the ends of its lines, runs of blanks as one, and no empty lines.
 QStringList squeezedLines(const QString& text);
@@ -38,6 +35,10 @@ class PdfReader {
   [[nodiscard]] std::vector<Word> words() const;
   /// squeezedLines of the text laid out as on the pages.
   [[nodiscard]] QStringList lines() const;
+  /// squeezedLines of the text in the order of the file.
+  [[nodiscard]] QStringList rawLines() const;
+  /// What the file says of itself under a name, such as "Title".
+  [[nodiscard]] QString information(const QString& name) const;
   /// For every font whether it is embedded: "yes" or "no".
   [[nodiscard]] QStringList embeddings() const;
   /// For every picture its size in pixels: "7x5".

@@ -122,7 +122,7 @@ TEST_P(EveryTabSaved, HoldsItsDocumentsInBothForms) {
       const QString text = world.model.text(section.document);
       EXPECT_FALSE(text.isEmpty());
       EXPECT_TRUE(native->text.contains(text));
-      EXPECT_TRUE(pdf->html.contains(text));
+      EXPECT_TRUE(exports::htmlOf(*pdf).contains(text));
     }
     if (native) {
       EXPECT_TRUE(native->proposedName.startsWith(tab.filePrefix));
@@ -130,7 +130,7 @@ TEST_P(EveryTabSaved, HoldsItsDocumentsInBothForms) {
       EXPECT_TRUE(pdf->proposedName.startsWith(tab.filePrefix));
       EXPECT_TRUE(pdf->proposedName.endsWith(u".pdf"));
       EXPECT_EQ(pdf->pageSizePoints, tab.pageSizePoints);
-      EXPECT_EQ(pdf->html.contains(u"<h1>"_s), !exports::isChart(tab.tab));
+      EXPECT_EQ(exports::htmlOf(*pdf).contains(u"<h1>"_s), !exports::isChart(tab.tab));
     }
   }
 }

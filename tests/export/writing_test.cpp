@@ -23,7 +23,7 @@ const QString newText(20'000, u'n');
 /// Saves a text as a tab's; why not, in plain words.
 std::optional<QString> saved(const QString& path, const QString& text) {
   const tests::FakeModel world;
-  const DocumentExporter exporter(world.model, {}, [](const QString& /*line*/) {});
+  const DocumentExporter exporter(world.model, [](const QString& /*line*/) {});
   std::optional<QString> error = u"never told"_s;
   exporter.save(exports::NativeExport{text, exports::NativeFormat::text, {}, {}, {}}, path,
                 [&error](const std::optional<QString>& told) { error = told; });

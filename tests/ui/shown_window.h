@@ -9,18 +9,16 @@
 
 #include "tests/model/fakes.h"
 #include "tests/support/patience.h"
-#include "tests/ui/recording_engine.h"
 #include "ui/window/main_view.h"
 #include "ui/window/window_state.h"
 
 namespace veyruna::tests {
 
-/// The real window, shown, with an engine that draws nothing and a model whose calculations wait.
+/// The real window, shown, with a model whose calculations wait.
 struct ShownWindow : FakeModel {
   QTemporaryDir folder;
-  std::shared_ptr<Drawn> drawn = std::make_shared<Drawn>();
   ui::WindowState state{folder.filePath(QStringLiteral("window.ini"))};
-  ui::MainView window{model, recordingEngine(drawn), state};
+  ui::MainView window{model, state};
 
   ShownWindow() {
     window.setAttribute(Qt::WA_DeleteOnClose, false);

@@ -13,8 +13,6 @@
 #include <QTimer>
 #include <cstdio>
 
-#include "export/sealed_page.h"
-#include "ui/outputs/web_page_engine.h"
 #include "ui/window/about_view.h"
 #include "ui/window/application.h"
 #include "ui/window/main_view.h"
@@ -64,7 +62,6 @@ int main(int argc, char** argv) {
     std::fputs("window_pictures FOLDER WIDTH HEIGHT light|dark\n", stderr);
     return 2;
   }
-  veyruna::exports::prepareWebEngine();
   const QApplication application(argc, argv);
   QApplication::setApplicationName(veyruna::ui::product().name);
   QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
@@ -75,7 +72,7 @@ int main(int argc, char** argv) {
   }
 
   veyruna::ui::VeyrunaAstroApp program(
-      veyruna::model::AstronomyModel::standardSurroundings(), veyruna::ui::webPageEngine(),
+      veyruna::model::AstronomyModel::standardSurroundings(),
       QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
           QStringLiteral("/window.ini"));
   auto& model = program.model();
@@ -86,8 +83,8 @@ int main(int argc, char** argv) {
   model.setUseLocalTime(true);
   veyruna::ui::MainView* const window = program.openWindow();
   window->setGeometry(QRect(QPoint(), size));
-  constexpr int untilDrawn = 1500;  // the first chart starts the engine
-  wait(2 * untilDrawn);
+  constexpr int untilDrawn = 1000;
+  wait(untilDrawn);
   bool isSaved = true;
   for (const auto& [tab, name] : {std::pair{OutputTab::starMap, "star-map"},
                                   {OutputTab::horoscope, "horoscope"},

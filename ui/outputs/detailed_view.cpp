@@ -10,7 +10,7 @@
 
 namespace veyruna::ui {
 
-DetailedView::DetailedView(model::AstronomyModel& model, const PageEngine& engine, QWidget* parent)
+DetailedView::DetailedView(model::AstronomyModel& model, QWidget* parent)
     : QWidget(parent),
       caption_(named(new QLabel, "caption", tr("Moment and place of what is shown"))),
       tabs_(new QStackedWidget) {
@@ -23,7 +23,7 @@ DetailedView::DetailedView(model::AstronomyModel& model, const PageEngine& engin
   column->addWidget(caption_);
   column->addWidget(tabs_, 1);
   for (const TabView& view : tabViews) {
-    tabs_->addWidget(view.make(model, engine));
+    tabs_->addWidget(view.make(model));
   }
   const auto showCaption = [this, &model] { caption_->setText(calculatedCaption(model)); };
   connect(&model, &model::AstronomyModel::isCalculatingChanged, this, showCaption);

@@ -4,7 +4,6 @@
 
 #include "export/output_tab.h"
 #include "model/astronomy_model.h"
-#include "ui/outputs/page_engine.h"
 
 class QLabel;
 class QStackedWidget;
@@ -17,7 +16,7 @@ class DetailedView final : public QWidget {
   Q_OBJECT
 
  public:
-  DetailedView(model::AstronomyModel& model, const PageEngine& engine, QWidget* parent = nullptr);
+  explicit DetailedView(model::AstronomyModel& model, QWidget* parent = nullptr);
 
   void setTab(exports::OutputTab tab);
 

@@ -2,55 +2,53 @@
 
 #include <QPaintEvent>
 #include <QPainter>
-#include <QTimer>
-#include <QVBoxLayout>
 
-#include "export/chart_page.h"
-#include "ui/controls/named.h"
-#include "ui/controls/shades.h"
+#include "drawing/svg_reader.h"
 
 namespace veyruna::ui {
 
-namespace {
-
-constexpr QColor paper(0xe4, 0xe2, 0xde);
-
-}  // namespace
-
-SVGView::SVGView(const PageEngine& engine, const QString& accessibleName, QWidget* parent)
-    : QWidget(parent), makeView_(engine.makeView), layout_(new QVBoxLayout(this)) {
+SVGView::SVGView(const QString& accessibleName, QWidget* parent) : QWidget(parent) {
   setAccessibleName(accessibleName);
-  layout_->setContentsMargins({});
+  setAttribute(Qt::WA_OpaquePaintEvent);  // nothing shows through paper
 }
 
 void SVGView::show(const QString& svg) {
-  svg_ = svg;
-  if (page_ != nullptr) {
-    load();
+  if (svg == svg_) {
+    return;
   }
+  svg_ = svg;
+  fault_.clear();
+  picture_ = {};
+  try {
+    picture_ = drawing::readSvg(svg.toUtf8());
+  } catch (const drawing::PictureError& error) {
+    fault_ = tr("This chart cannot be shown: %1").arg(QString::fromStdString(error.what()));
+  }
+  painted_ = {};
+  update();
 }
 
 void SVGView::paintEvent(QPaintEvent* event) {
-  // The charts are drawn in inks for paper; on a dark desktop they get a sheet of it.
-  if (isDark(palette())) {
-    QPainter(this).fillRect(event->rect(), paper);
+  // The screen's own pixels: a scale factor makes the chart finer, not coarser.
+  const QSize pixels = (QSizeF(size()) * devicePixelRatioF()).toSize();
+  if (painted_.size() != pixels || painted_.devicePixelRatioF() != devicePixelRatioF()) {
+    painted_ = QImage(pixels, QImage::Format_RGB32);
+    painted_.setDevicePixelRatio(devicePixelRatioF());
+    paintChart();
   }
-  if (!isPageDue_) {
-    isPageDue_ = true;
-    QTimer::singleShot(0, this, &SVGView::makePage);
-  }
+  QPainter(this).drawImage(event->rect(), painted_,
+                           QRectF(QPointF(event->rect().topLeft()) * devicePixelRatioF(),
+                                  QSizeF(event->rect().size()) * devicePixelRatioF()));
 }
 
-void SVGView::makePage() {
-  page_ = named(makeView_(), "chart", accessibleName());
-  layout_->addWidget(page_);
-  load();
-}
-
-void SVGView::load() {
-  if (svg_ != loaded_) {
-    loaded_ = svg_;
-    page_->setHtml(exports::chartPage(svg_));
+void SVGView::paintChart() {
+  painted_.fill(Qt::white);
+  QPainter painter(&painted_);
+  if (fault_.isEmpty()) {
+    painter_.paint(painter, picture_, rect(), drawing::Medium::pixels);
+  } else {
+    painter.setPen(Qt::black);
+    painter.drawText(rect(), Qt::AlignCenter | Qt::TextWordWrap, fault_);
   }
 }
 

@@ -1,37 +1,33 @@
 #pragma once
 
+#include <QImage>
 #include <QWidget>
 
-#include "ui/outputs/page_engine.h"
-
-class QVBoxLayout;
+#include "drawing/picture_painter.h"
 
 namespace veyruna::ui {
 
-/// A chart, scaled to the view. What draws it is made when the chart is first to be seen, after the
-/// window's first paint.
+/// A chart on white paper, as large as fits into the view, centred.
 class SVGView : public QWidget {
   Q_OBJECT
 
  public:
-  SVGView(const PageEngine& engine, const QString& accessibleName, QWidget* parent = nullptr);
+  explicit SVGView(const QString& accessibleName, QWidget* parent = nullptr);
 
-  /// Shows a chart; the same chart again costs nothing.
+  /// Shows a chart; the same chart again costs nothing. A text that is no chart is said to be none.
   void show(const QString& svg);
 
  protected:
   void paintEvent(QPaintEvent* event) override;
 
  private:
-  void makePage();
-  void load();
+  void paintChart();
 
-  std::function<PageView*()> makeView_;
-  QVBoxLayout* layout_;
-  PageView* page_ = nullptr;
-  bool isPageDue_ = false;
   QString svg_;
-  QString loaded_;
+  drawing::Picture picture_;
+  QString fault_;  ///< why there is no picture; empty where there is one
+  drawing::PicturePainter painter_;
+  QImage painted_;  ///< the view as it was painted last; none where something has changed since
 };
 
 }  // namespace veyruna::ui

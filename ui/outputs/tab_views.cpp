@@ -46,18 +46,18 @@ QWidget* followingChart(AstronomyModel& model, Document document, SVGView* view,
   return view;
 }
 
-QWidget* makeStarMap(AstronomyModel& model, const PageEngine& engine) {
-  return followingChart(model, Document::starMap, new StarMapView(engine),
+QWidget* makeStarMap(AstronomyModel& model) {
+  return followingChart(model, Document::starMap, new StarMapView,
                         QCoreApplication::translate("TabViews", "The sky above the horizon, %1"));
 }
 
-QWidget* makeHoroscope(AstronomyModel& model, const PageEngine& engine) {
-  return followingChart(model, Document::horoscope, new HoroscopeView(engine),
+QWidget* makeHoroscope(AstronomyModel& model) {
+  return followingChart(model, Document::horoscope, new HoroscopeView,
                         QCoreApplication::translate(
                             "TabViews", "The wheel of the ecliptic with its interpretation, %1"));
 }
 
-QWidget* makePlanets(AstronomyModel& model, const PageEngine& /*engine*/) {
+QWidget* makePlanets(AstronomyModel& model) {
   auto* const view = new PlanetsView;
   const auto show = [&model, view] { view->show(model.positions()); };
   QObject::connect(&model, &AstronomyModel::positionsChanged, view, show);
@@ -65,7 +65,7 @@ QWidget* makePlanets(AstronomyModel& model, const PageEngine& /*engine*/) {
   return view;
 }
 
-QWidget* makeSunMoon(AstronomyModel& model, const PageEngine& /*engine*/) {
+QWidget* makeSunMoon(AstronomyModel& model) {
   auto* const view = new TablesView;
   follow(model, view, {Document::hourly, Document::monthly},
          [&model, view] { view->show(model.basicTableHourly(), model.basicTableMonthly()); });
@@ -84,14 +84,14 @@ QWidget* makeSunMoon(AstronomyModel& model, const PageEngine& /*engine*/) {
   return view;
 }
 
-QWidget* makePositions(AstronomyModel& model, const PageEngine& /*engine*/) {
+QWidget* makePositions(AstronomyModel& model) {
   auto* const view = new PositionsView;
   follow(model, view, {Document::daily, Document::yearly},
          [&model, view] { view->show(model.conjunctionDaily(), model.conjunctionYearly()); });
   return view;
 }
 
-QWidget* makeLocation(AstronomyModel& model, const PageEngine& /*engine*/) {
+QWidget* makeLocation(AstronomyModel& model) {
   return named(new MapLocationPickerView(model, pictureFile(QStringLiteral(":/tamsorel.jpg"))),
                "locationTab", QCoreApplication::translate("TabViews", "Map"));
 }

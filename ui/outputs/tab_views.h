@@ -5,7 +5,6 @@
 
 #include "export/output_tab.h"
 #include "model/astronomy_model.h"
-#include "ui/outputs/page_engine.h"
 
 namespace veyruna::ui {
 
@@ -15,7 +14,7 @@ struct TabView {
   exports::OutputTab tab = exports::OutputTab::count;
   const char* icon = nullptr;        ///< of the program's own set
   const char* manualPage = nullptr;  ///< a whole page: not every desktop opens a file at an anchor
-  QWidget* (*make)(model::AstronomyModel& model, const PageEngine& engine) = nullptr;
+  QWidget* (*make)(model::AstronomyModel& model) = nullptr;
 };
 
 /// One for every tab, in their order.

@@ -17,8 +17,8 @@ constexpr QSize leastInSight(300, 100);  // as much of a new window is on the sc
 }  // namespace
 
 VeyrunaAstroApp::VeyrunaAstroApp(model::AstronomyModel::Surroundings surroundings,
-                                 PageEngine engine, const QString& statePath)
-    : model_(std::move(surroundings)), engine_(std::move(engine)), state_(statePath) {}
+                                 const QString& statePath)
+    : model_(std::move(surroundings)), state_(statePath) {}
 
 VeyrunaAstroApp::~VeyrunaAstroApp() {
   for (const QPointer<MainView>& window : windows_) {
@@ -28,7 +28,7 @@ VeyrunaAstroApp::~VeyrunaAstroApp() {
 }
 
 MainView* VeyrunaAstroApp::openWindow() {
-  auto* const window = new MainView(model_, engine_, state_);
+  auto* const window = new MainView(model_, state_);
   windows_.removeAll(nullptr);
   windows_.append(window);
   connect(window, &MainView::newWindowRequested, this, &VeyrunaAstroApp::openWindow);

@@ -5,7 +5,6 @@
 #include <QPointer>
 
 #include "model/astronomy_model.h"
-#include "ui/outputs/page_engine.h"
 #include "ui/window/window_state.h"
 
 namespace veyruna::ui {
@@ -18,8 +17,7 @@ class VeyrunaAstroApp final : public QObject {
   Q_OBJECT
 
  public:
-  VeyrunaAstroApp(model::AstronomyModel::Surroundings surroundings, PageEngine engine,
-                  const QString& statePath);
+  VeyrunaAstroApp(model::AstronomyModel::Surroundings surroundings, const QString& statePath);
   /// Deletes the windows that are still open: none outlives the model.
   ~VeyrunaAstroApp() override;
   VeyrunaAstroApp(const VeyrunaAstroApp&) = delete;
@@ -36,7 +34,6 @@ class VeyrunaAstroApp final : public QObject {
 
  private:
   model::AstronomyModel model_;
-  PageEngine engine_;
   WindowState state_;
   QList<QPointer<MainView>> windows_;
   QPointer<AboutView> about_;

@@ -9,11 +9,11 @@
 
 namespace veyruna::ui {
 
-ExportCommands::ExportCommands(model::AstronomyModel& model, const PageEngine& engine,
-                               WindowState& state, ExportNotice& notice, QWidget& window)
+ExportCommands::ExportCommands(model::AstronomyModel& model, WindowState& state,
+                               ExportNotice& notice, QWidget& window)
     : QObject(&window),
       model_(model),
-      exporter_(model, engine.renderPdf),
+      exporter_(model),
       state_(state),
       notice_(notice),
       window_(window) {}
@@ -34,21 +34,13 @@ void ExportCommands::exportPdf(exports::OutputTab tab) {
 template <class Content>
 void ExportCommands::ask(const Content& content, const QString& typeName, const QString& suffix) {
   notice_.dismissFailure();
-  askWhereToSave(window_,
-                 {content.message, state_.exportFolder(), content.proposedName, typeName, suffix},
-                 [this, content, remark = changedInputsRemark(model_)](const QString& path) {
-                   notice_.showProgress(tr("Saving %1 …").arg(QFileInfo(path).fileName()));
-                   exporter_.save(content, path, reportTo(path, remark));
-                 });
-}
-
-exports::Saved ExportCommands::reportTo(const QString& path, const QString& remark) {
-  return
-      [window = QPointer<ExportCommands>(this), path, remark](const std::optional<QString>& error) {
-        if (window) {
-          window->report(QFileInfo(path), remark, error);
-        }
-      };
+  askWhereToSave(
+      window_, {content.message, state_.exportFolder(), content.proposedName, typeName, suffix},
+      [this, content, remark = changedInputsRemark(model_)](const QString& path) {
+        exporter_.save(content, path, [this, path, remark](const std::optional<QString>& error) {
+          report(QFileInfo(path), remark, error);
+        });
+      });
 }
 
 void ExportCommands::report(const QFileInfo& file, const QString& remark,

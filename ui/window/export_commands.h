@@ -1,12 +1,10 @@
 #pragma once
 
 #include <QObject>
-#include <QPointer>
 
 #include "export/document_exporter.h"
 #include "export/output_tab.h"
 #include "model/astronomy_model.h"
-#include "ui/outputs/page_engine.h"
 
 class QFileInfo;
 
@@ -16,15 +14,14 @@ class ExportNotice;
 class WindowState;
 
 /// The two export commands of a window: what the tab shows is taken when the command is chosen,
-/// then the person is asked where it goes, then it is written and the notice says how that ended. A
-/// writing that has begun ends well without the window.
+/// then the person is asked where it goes, then it is written and the notice says how that ended.
 class ExportCommands final : public QObject {
   Q_OBJECT
 
  public:
   /// The dialogs open over `window`.
-  ExportCommands(model::AstronomyModel& model, const PageEngine& engine, WindowState& state,
-                 ExportNotice& notice, QWidget& window);
+  ExportCommands(model::AstronomyModel& model, WindowState& state, ExportNotice& notice,
+                 QWidget& window);
 
   /// Saves what the tab shows, as it is or as PDF; for the location both do nothing.
   void exportNative(exports::OutputTab tab);
@@ -33,7 +30,6 @@ class ExportCommands final : public QObject {
  private:
   template <class Content>
   void ask(const Content& content, const QString& typeName, const QString& suffix);
-  [[nodiscard]] exports::Saved reportTo(const QString& path, const QString& remark);
   void report(const QFileInfo& file, const QString& remark, const std::optional<QString>& error);
 
   const model::AstronomyModel& model_;

@@ -3,11 +3,8 @@
 #include <cstdio>
 #include <string_view>
 
-#include "export/pdf_exporter.h"
-#include "export/sealed_page.h"
 #include "ui/controls/icons.h"
 #include "ui/controls/program.h"
-#include "ui/outputs/web_page_engine.h"
 #include "ui/window/application.h"
 #include "ui/window/product.h"
 
@@ -36,18 +33,14 @@ int main(int argc, char** argv) {
   if (answersOnTerminal(argc, argv)) {
     return 0;
   }
-  veyruna::exports::prepareWebEngine();
-  QCoreApplication::setAttribute(Qt::AA_DisableShaderDiskCache);
   const QApplication application(argc, argv);
   QApplication::setApplicationName(veyruna::ui::product().name);
   QApplication::setDesktopFileName(QStringLiteral("veyruna-astro"));
   QApplication::setWindowIcon(veyruna::ui::programIcon());
   veyruna::ui::VeyrunaAstroApp program(
-      veyruna::model::AstronomyModel::standardSurroundings(), veyruna::ui::webPageEngine(),
+      veyruna::model::AstronomyModel::standardSurroundings(),
       QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
           QStringLiteral("/VeyrunaAstro/window.ini"));
   program.openWindow();
-  const int status = QApplication::exec();
-  veyruna::exports::PDFExporter::waitForAll();
-  return status;
+  return QApplication::exec();
 }

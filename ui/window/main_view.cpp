@@ -34,13 +34,12 @@ constexpr QSize decoration(16, 40);  // left for edges and title bar while nothi
 
 }  // namespace
 
-MainView::MainView(model::AstronomyModel& model, const PageEngine& engine, WindowState& state,
-                   QWidget* parent)
+MainView::MainView(model::AstronomyModel& model, WindowState& state, QWidget* parent)
     : QMainWindow(parent),
       state_(state),
       tabs_(new TabSelector(this)),
       sidebar_(new SidebarView(model)),
-      output_(new DetailedView(model, engine)),
+      output_(new DetailedView(model)),
       columns_(new QSplitter),
       notice_(new ExportNotice) {
   setWindowTitle(product().title);
@@ -49,8 +48,8 @@ MainView::MainView(model::AstronomyModel& model, const PageEngine& engine, Windo
   addToolBar(tabs_);
   makeColumns();
   statusBar()->addWidget(notice_, 1);
-  exports_ = new ExportCommands(model, engine, state, *notice_, *this);
-  print_ = new PrintCommand(model, engine, *notice_, *this);
+  exports_ = new ExportCommands(model, state, *notice_, *this);
+  print_ = new PrintCommand(model, *notice_, *this);
   makeMenus();
 
   connect(tabs_, &TabSelector::chosen, this, &MainView::selectTab);

@@ -4,7 +4,6 @@
 
 #include "export/output_tab.h"
 #include "model/astronomy_model.h"
-#include "ui/outputs/page_engine.h"
 #include "ui/window/placement.h"
 
 class QSplitter;
@@ -24,8 +23,7 @@ class MainView final : public QMainWindow {
   Q_OBJECT
 
  public:
-  MainView(model::AstronomyModel& model, const PageEngine& engine, WindowState& state,
-           QWidget* parent = nullptr);
+  MainView(model::AstronomyModel& model, WindowState& state, QWidget* parent = nullptr);
 
   [[nodiscard]] exports::OutputTab selectedTab() const { return selectedTab_; }
 

@@ -1,24 +1,19 @@
 #include "ui/window/print_command.h"
 
 #include <QFileInfo>
-#include <QPointer>
 #include <QProcess>
 #include <QStandardPaths>
 
+#include "drawing/svg_reader.h"
 #include "ui/window/changed_inputs.h"
 #include "ui/window/export_notice.h"
 #include "ui/window/print_sheet.h"
 
 namespace veyruna::ui {
 
-PrintCommand::PrintCommand(const model::AstronomyModel& model, const PageEngine& engine,
-                           ExportNotice& notice, QWidget& window)
-    : QObject(&window),
-      model_(model),
-      exporter_(model, engine.renderPdf),
-      renderPdf_(engine.renderPdf),
-      notice_(notice),
-      window_(window) {}
+PrintCommand::PrintCommand(const model::AstronomyModel& model, ExportNotice& notice,
+                           QWidget& window)
+    : QObject(&window), model_(model), exporter_(model), notice_(notice), window_(window) {}
 
 void PrintCommand::print(exports::OutputTab tab) {
   const auto content = exporter_.pdf(tab);
@@ -57,18 +52,11 @@ void PrintCommand::askForPrinter(const Order& order, const QStringList& printers
 
 void PrintCommand::render(const Order& order, const QString& printer, int copies) {
   notice_.showProgress(tr("Printing %1 …").arg(order.title));
-  renderPdf_(order.content.html, order.content.pageSizePoints,
-             [self = QPointer<PrintCommand>(this), order, printer,
-              copies](const exports::PdfResult& result) {
-               if (self == nullptr) {
-                 return;
-               }
-               if (const auto* const failure = std::get_if<exports::RenderFailure>(&result)) {
-                 self->fail(failure->description);
-               } else {
-                 self->hand(std::get<QByteArray>(result), order, printer, copies);
-               }
-             });
+  try {
+    hand(exports::pdfOf(order.content), order, printer, copies);
+  } catch (const drawing::PictureError& error) {
+    fail(QString::fromUtf8(error.what()));
+  }
 }
 
 void PrintCommand::hand(const QByteArray& pdf, const Order& order, const QString& printer,

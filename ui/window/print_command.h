@@ -5,7 +5,6 @@
 
 #include "export/document_exporter.h"
 #include "model/astronomy_model.h"
-#include "ui/outputs/page_engine.h"
 
 namespace veyruna::ui {
 
@@ -18,8 +17,7 @@ class PrintCommand final : public QObject {
 
  public:
   /// The question for the printer opens over `window`.
-  PrintCommand(const model::AstronomyModel& model, const PageEngine& engine, ExportNotice& notice,
-               QWidget& window);
+  PrintCommand(const model::AstronomyModel& model, ExportNotice& notice, QWidget& window);
 
   /// Does nothing for the location.
   void print(exports::OutputTab tab);
@@ -41,7 +39,6 @@ class PrintCommand final : public QObject {
 
   const model::AstronomyModel& model_;
   exports::DocumentExporter exporter_;
-  exports::PdfRenderer renderPdf_;
   ExportNotice& notice_;
   QWidget& window_;
 };

@@ -87,7 +87,7 @@ TEST_F(Application, AStateThatIsNonsenseIsAFirstStart) {
       "[General]\nframe=@Rect(0 0 -4 2000000000)\nsize=nonsense\nisMaximized=maybe\n"
       "sidebarWidth=-7\nexportFolder=/nowhere/at/all\n");
   file.close();
-  VeyrunaAstroApp again(surroundings(), tests::recordingEngine(), statePath);
+  VeyrunaAstroApp again(surroundings(), statePath);
   const MainView* const window = again.openWindow();
   EXPECT_GE(window->width(), window->minimumSizeHint().width());
   EXPECT_NE(again.state().exportFolder(), QStringLiteral("/nowhere/at/all"));

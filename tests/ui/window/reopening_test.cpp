@@ -15,7 +15,7 @@ struct Reopening : testing::Test, tests::FakeWorld {
 
   /// Starts the program, lets `use` have its window, and ends it.
   void run(const std::function<void(MainView&)>& use) {
-    VeyrunaAstroApp program(surroundings(), tests::recordingEngine(), statePath);
+    VeyrunaAstroApp program(surroundings(), statePath);
     MainView* const window = program.openWindow();
     tests::turnEventLoop();
     use(*window);

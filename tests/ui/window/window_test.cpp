@@ -6,7 +6,6 @@
 #include <gtest/gtest.h>
 
 #include "tests/model/fakes.h"
-#include "tests/ui/recording_engine.h"
 #include "ui/window/main_view.h"
 #include "ui/window/window_state.h"
 
@@ -15,11 +14,11 @@ namespace {
 
 using exports::OutputTab;
 
-/// A window that is never shown: no web engine starts.
+/// A window that is never shown.
 struct Window : testing::Test, tests::FakeModel {
   QTemporaryDir folder;
   WindowState state{folder.filePath(QStringLiteral("window.ini"))};
-  MainView window{model, tests::recordingEngine(), state};
+  MainView window{model, state};
 
   [[nodiscard]] QString nativeExportText() const {
     return window.findChild<QAbstractButton*>(QStringLiteral("nativeExportButton"))

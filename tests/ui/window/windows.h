@@ -6,7 +6,6 @@
 #include <gtest/gtest.h>
 
 #include "tests/model/fakes.h"
-#include "tests/ui/recording_engine.h"
 #include "ui/window/application.h"
 #include "ui/window/main_view.h"
 
@@ -16,7 +15,7 @@ namespace veyruna::tests {
 struct Windows : testing::Test, FakeWorld {
   QTemporaryDir folder;
   QString statePath = folder.filePath(QStringLiteral("sub/window.ini"));
-  ui::VeyrunaAstroApp program{surroundings(), recordingEngine(), statePath};
+  ui::VeyrunaAstroApp program{surroundings(), statePath};
 
   ~Windows() override {
     QApplication::closeAllWindows();

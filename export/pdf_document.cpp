@@ -1,0 +1,29 @@
+#include "export/pdf_document.h"
+
+#include <QBuffer>
+#include <QPainter>
+#include <QPdfWriter>
+
+namespace veyruna::exports {
+
+QByteArray pdfDocument(const PdfInformation& information, const QSizeF& pageSizePoints,
+                       const std::function<void(QPainter& painter, QPdfWriter& writer)>& paint) {
+  constexpr int pointsPerInch = 72;
+  constexpr int dotsPerPoint = 10;  // as fine as a printer draws
+  QByteArray bytes;
+  QBuffer buffer(&bytes);
+  buffer.open(QIODevice::WriteOnly);
+  QPdfWriter writer(&buffer);
+  writer.setTitle(information.title);
+  writer.setCreator(information.program);
+  writer.setResolution(pointsPerInch * dotsPerPoint);
+  writer.setPageSize(QPageSize(pageSizePoints, QPageSize::Point, QString(), QPageSize::ExactMatch));
+  writer.setPageMargins(QMarginsF());
+  QPainter painter(&writer);
+  painter.scale(dotsPerPoint, dotsPerPoint);
+  paint(painter, writer);
+  painter.end();
+  return bytes;
+}
+
+}  // namespace veyruna::exports
