@@ -35,7 +35,8 @@ const std::map<std::string, Room, std::less<>>& rooms() {
         Libraries::any}},
       {"ui/sidebar", {{"astro", "model", "export", "ui/controls"}, Libraries::any}},
       {"ui/window",
-       {{"astro", "model", "export", "ui/controls", "ui/map", "ui/outputs", "ui/sidebar"},
+       {{"astro", "drawing", "model", "export", "ui/controls", "ui/map", "ui/outputs",
+         "ui/sidebar"},
         Libraries::any}},
   };
   return all;
