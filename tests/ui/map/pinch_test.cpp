@@ -132,7 +132,10 @@ TEST_F(PinchedPicker, BrokenOffItLeavesNothing) {
   EXPECT_EQ(shownZoom(), 1.0);
   fingers(Qt::EndNativeGesture);
   EXPECT_EQ(view->zoom(), 1.0);
-  fingers(Qt::ZoomNativeGesture, 0.5);  // not every platform says that a pinch begins
+  fingers(Qt::ZoomNativeGesture, 1.0);
+  view->hide();
+  view->show();
+  fingers(Qt::ZoomNativeGesture, 0.5);  // not every platform says that a pinch ends and begins
   EXPECT_EQ(shownZoom(), 1.5);
 }
 
