@@ -7,11 +7,18 @@ namespace veyruna::astro {
 /// The end of every search for a moment, in days: about 8.6 seconds.
 inline constexpr double phaseToleranceDays = 0.0001;
 
-/// Halves the interval from `low` to `high` until it is no longer than phaseToleranceDays and
+/// The two ends of what is searched; `low` may be the later one.
+struct Interval {
+  double low;
+  double high;
+};
+
+/// Halves the interval until it is no longer than phaseToleranceDays and
 /// returns the middle of what is left. `crossingIsBefore(t)` says whether the moment sought lies in
 /// the half that ends at `t`. Ends also where neighbouring doubles leave nothing to halve.
 template <class CrossingIsBefore>
-double bisect(double low, double high, CrossingIsBefore crossingIsBefore) {
+double bisect(const Interval& interval, CrossingIsBefore crossingIsBefore) {
+  auto [low, high] = interval;
   double middle = (low + high) / 2.0;
   while (std::abs(high - low) > phaseToleranceDays) {
     if (crossingIsBefore(middle)) {
@@ -28,11 +35,11 @@ double bisect(double low, double high, CrossingIsBefore crossingIsBefore) {
   return middle;
 }
 
-/// The moment between `low` and `high` at which `signAt(t)` (only its sign counts) changes.
+/// The moment of the interval at which `signAt(t)` (only its sign counts) changes.
 /// `signAtLow` is its value at `low`. An exact zero moves the low end, for good.
 template <class SignAt>
-double bisectSignChange(double low, double high, double signAtLow, SignAt signAt) {
-  return bisect(low, high, [&](double t) {
+double bisectSignChange(const Interval& interval, double signAtLow, SignAt signAt) {
+  return bisect(interval, [&](double t) {
     const double sign = signAt(t);
     const bool changesBefore = (signAtLow < 0.0 && sign > 0.0) || (signAtLow > 0.0 && sign < 0.0);
     if (!changesBefore) {

@@ -49,8 +49,8 @@ std::optional<CalendarFields> fieldsAt(double baseTime) {
 
 }  // namespace
 
-double standardBaseTime(std::int64_t year, std::int64_t monthIndex, std::int64_t dayIndex,
-                        double hour) {
+double standardBaseTime(const CalendarReading& reading) {
+  const auto& [year, monthIndex, dayIndex, hour] = reading;
   const double wholeHours = std::trunc(hour);
   const double wholeMinutes = std::trunc((hour - std::floor(hour)) * 60.0);
   // The sum runs from left to right; in doubles, so that no stored year can overflow it.

@@ -18,25 +18,23 @@ inline constexpr std::array<std::string_view, monthsPerYear> monthNames = {
     "Brenwic", "Tolma",  "Dovri", "Ambro", "Fiskel", "Ulvenhar",
     "Cendo",   "Virela", "Grend", "Oskam", "Rulig",  "Thaven"};
 
-/// Base time of a clock reading in standard time. `monthIndex` counts from 0 to 11, `dayIndex` from
-/// 0 to 29, `hour` from 0 to 24 with a fraction whose seconds are dropped. Nothing is clamped: what
-/// lies outside simply continues the sum.
-double standardBaseTime(std::int64_t year, std::int64_t monthIndex, std::int64_t dayIndex,
-                        double hour);
-
-/// A clock reading of the calendar: the arguments of standardBaseTime.
+/// A clock reading of the calendar. What lies outside its ranges simply continues the sum of
+/// standardBaseTime; nothing is clamped.
 struct CalendarReading {
   std::int64_t year;        ///< from 1
   std::int64_t monthIndex;  ///< 0 to 11
   std::int64_t dayIndex;    ///< 0 to 29
-  double hour;              ///< below 24, as hourOfClock
+  double hour;              ///< 0 to 24, with a fraction
 
   friend bool operator==(const CalendarReading&, const CalendarReading&) = default;
 };
 
-/// What calendarLabel reads at a base time; standardBaseTime of it has the same label. Nothing
-/// before the first midnight (−0.5), whose fields no calendar has, or for what calendarLabel does
-/// not take.
+/// Base time of a clock reading in standard time. The seconds of its hour are dropped.
+double standardBaseTime(const CalendarReading& reading);
+
+/// What calendarLabel reads at a base time, its hour below 24 as hourOfClock; standardBaseTime of
+/// it has the same label. Nothing before the first midnight (−0.5), whose fields no calendar has,
+/// or for what calendarLabel does not take.
 std::optional<CalendarReading> calendarReading(double baseTime);
 
 /// "720-01-01 12:00 OST": the standard-time reading of a base time, rounded to the second and then

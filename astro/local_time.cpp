@@ -34,12 +34,11 @@ std::int64_t localMinutes(const Observer& observer) {
 
 }  // namespace
 
-double localBaseTime(std::int64_t year, std::int64_t monthIndex, std::int64_t dayIndex, double hour,
-                     double longitude) {
+double localBaseTime(const CalendarReading& reading, double longitude) {
   constexpr int mostSteps = 10;
   constexpr double toleranceRadians = 1e-5;
-  const double wantedHourAngle = (hour - 12.0) * pi / 12.0;
-  double t = standardBaseTime(year, monthIndex, dayIndex, hour);
+  const double wantedHourAngle = (reading.hour - 12.0) * pi / 12.0;
+  double t = standardBaseTime(reading);
   for (int step = 0; step < mostSteps; ++step) {
     const double excess =
         wrappedToHalfTurns(sunHourAngle({.baseTime = t, .longitude = longitude}) - wantedHourAngle);
@@ -61,9 +60,8 @@ std::optional<CalendarReading> localCalendarReading(const Observer& observer) {
   // Near half a day from standard time the day may be either neighbour's.
   for (const double candidate : {day, day - 1.0, day + 1.0}) {
     const std::optional<CalendarReading> reading = calendarReading(candidate + partOfDay - 0.5);
-    if (reading && std::abs(localBaseTime(reading->year, reading->monthIndex, reading->dayIndex,
-                                          reading->hour, observer.longitude) -
-                            baseTime) < 1.0 / minutesPerDay) {
+    if (reading &&
+        std::abs(localBaseTime(*reading, observer.longitude) - baseTime) < 1.0 / minutesPerDay) {
       return reading;
     }
   }

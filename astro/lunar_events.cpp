@@ -50,12 +50,14 @@ std::string_view eventCode(double separation) {
   return {};
 }
 
-/// Whether sun and moon can be aligned at any moment of [start, start + step]. Both move uniformly,
-/// so the elongation at the start tells; the margin covers rounding.
-bool alignmentIsPossible(double start, double step) {
-  constexpr double margin = 1e-4;
-  const double reach = (moonMeanMotion - sunMeanMotion) * twoPi * std::abs(step) + margin;
-  const double separation = std::abs(elongation(start, newMoonElongation));
+/// How far the elongation can come in a step of this many days; both bodies move uniformly.
+double reachOf(double step) {
+  constexpr double roundingMargin = 1e-4;
+  return (moonMeanMotion - sunMeanMotion) * twoPi * std::abs(step) + roundingMargin;
+}
+
+/// Whether sun and moon, parted so far, can become aligned by moving so far against each other.
+bool alignmentIsPossible(double separation, double reach) {
   return separation < partialSolarLimit + reach || separation > penumbralLunarLimit - reach;
 }
 
@@ -77,7 +79,7 @@ std::string lunarEventText(double t) {
 
 std::string nodeEclipseEvent(double start, double step) {
   requireInvariant(std::isfinite(step), "an interval ends at some time", step);
-  if (!alignmentIsPossible(start, step)) {
+  if (!alignmentIsPossible(std::abs(elongation(start, newMoonElongation)), reachOf(step))) {
     return {};
   }
   const double atStart = moonLatitude(start);
@@ -88,7 +90,7 @@ std::string nodeEclipseEvent(double start, double step) {
   if (atStart * moonLatitude(end) >= 0.0) {
     return {};
   }
-  return lunarEventText(bisectSignChange(start, end, atStart, moonLatitude));
+  return lunarEventText(bisectSignChange({start, end}, atStart, moonLatitude));
 }
 
 }  // namespace veyruna::astro

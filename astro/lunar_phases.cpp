@@ -10,7 +10,8 @@ double elongation(double t, double target) {
   return wrappedToHalfTurns(moonLongitude(t) - sunLongitude(t) - target);
 }
 
-double nextPhase(double start, double target) {
+double nextPhase(const PhaseSearch& search) {
+  const auto [start, target] = search;
   constexpr int mostDays = 64;
   double low = start;
   double high = start + 1.0;
@@ -24,7 +25,7 @@ double nextPhase(double start, double target) {
     high = high + 1.0;
     atHigh = elongation(high, target);
   }
-  return bisect(low, high, [target](double t) { return elongation(t, target) >= 0.0; });
+  return bisect({low, high}, [target = target](double t) { return elongation(t, target) >= 0.0; });
 }
 
 }  // namespace veyruna::astro

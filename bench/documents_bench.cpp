@@ -15,7 +15,7 @@ namespace veyruna {
 namespace {
 
 /// The moment and place of a first start.
-const double baseTime = astro::standardBaseTime(720, 0, 0, 12.0);
+const double baseTime = astro::standardBaseTime({720, 0, 0, 12.0});
 constexpr double latitude = 40.5 * astro::pi / 180.0;
 constexpr double longitude = -20.9 * astro::pi / 180.0;
 
@@ -48,7 +48,8 @@ std::string labels() {
   std::string text = astro::calendarLabel(baseTime);
   for (const double target : {astro::fullMoonElongation, astro::newMoonElongation}) {
     text += astro::calendarLabelWithLocalClock(
-        {.baseTime = astro::nextPhase(baseTime, target), .longitude = longitude});
+        {.baseTime = astro::nextPhase({.start = baseTime, .elongation = target}),
+         .longitude = longitude});
   }
   return text;
 }

@@ -23,9 +23,16 @@ std::string_view takeUntil(std::string_view& rest, char separator) {
   throw CatalogueError("catalogue line \"" + std::string(line) + "\": " + std::string(accepted));
 }
 
+/// A file's text, and the header line it must have.
+struct Table {
+  std::string_view csv;
+  std::string_view header;
+};
+
 /// Calls `readRow` for the fields of every line under the header.
 template <class ReadRow>
-void forEachRow(std::string_view csv, std::string_view header, ReadRow readRow) {
+void forEachRow(const Table& table, ReadRow readRow) {
+  auto [csv, header] = table;
   const std::string_view first = takeUntil(csv, '\n');
   if (first != header) {
     refuse(first, "the first line must be \"" + std::string(header) + "\"");
@@ -64,7 +71,7 @@ bool isColor(std::string_view text) {
 
 std::vector<FixedStar> readStars(std::string_view csv) {
   std::vector<FixedStar> stars;
-  forEachRow(csv, "name,frame,color,phi,theta,magnitude",
+  forEachRow({.csv = csv, .header = "name,frame,color,phi,theta,magnitude"},
              [&stars](std::string_view line, const Fields& fields) {
                const bool isEquatorial = fields[1] == "equatorial";
                if (!isEquatorial && fields[1] != "ecliptic") {
@@ -82,9 +89,10 @@ std::vector<FixedStar> readStars(std::string_view csv) {
 
 std::vector<LineNames> readLineNames(std::string_view csv) {
   std::vector<LineNames> names;
-  forEachRow(csv, "from,to", [&names](std::string_view /*line*/, const Fields& fields) {
-    names.emplace_back(fields[0], fields[1]);
-  });
+  forEachRow({.csv = csv, .header = "from,to"},
+             [&names](std::string_view /*line*/, const Fields& fields) {
+               names.emplace_back(fields[0], fields[1]);
+             });
   return names;
 }
 

@@ -57,13 +57,13 @@ astro::Observer observerOf(const Typed& typed) {
             .latitude = latitude,
             .longitude = longitude};
   }
-  const std::int64_t year = readWholeNumber("--year", typed.year, firstYear, lastYear);
-  const std::int64_t monthIndex = readMonthIndex(typed.month);
-  const std::int64_t dayIndex = readWholeNumber("--day", typed.day, 1, astro::daysPerMonth) - 1;
-  const double hour = readHour(typed.hour);
-  const double baseTime = typed.isLocal
-                              ? astro::localBaseTime(year, monthIndex, dayIndex, hour, longitude)
-                              : astro::standardBaseTime(year, monthIndex, dayIndex, hour);
+  const astro::CalendarReading reading{
+      .year = readWholeNumber("--year", typed.year, firstYear, lastYear),
+      .monthIndex = readMonthIndex(typed.month),
+      .dayIndex = readWholeNumber("--day", typed.day, 1, astro::daysPerMonth) - 1,
+      .hour = readHour(typed.hour)};
+  const double baseTime =
+      typed.isLocal ? astro::localBaseTime(reading, longitude) : astro::standardBaseTime(reading);
   return {.baseTime = checkedBaseTime(baseTime, "--year: " + inQuotes(typed.year)),
           .latitude = latitude,
           .longitude = longitude};

@@ -49,7 +49,7 @@ std::string date(const Observer& observer, const TableSize& /*size*/) {
 
 std::string nextMoon(const Observer& observer, double elongation) {
   return astro::calendarLabelWithLocalClock(
-      observer.at(astro::nextPhase(observer.baseTime, elongation)));
+      observer.at(astro::nextPhase({.start = observer.baseTime, .elongation = elongation})));
 }
 
 std::string nextFullMoon(const Observer& observer, const TableSize& /*size*/) {

@@ -168,14 +168,17 @@ double AstronomyModel::effectiveLongitude() const {
 }
 
 double AstronomyModel::baseTime() const {
-  const double standard =
-      astro::standardBaseTime(date_.year, date_.monthIndex, date_.dayIndex, date_.hour);
+  const astro::CalendarReading reading{.year = date_.year,
+                                       .monthIndex = date_.monthIndex,
+                                       .dayIndex = date_.dayIndex,
+                                       .hour = date_.hour};
+  const double standard = astro::standardBaseTime(reading);
   const double longitude = effectiveLongitude();
   if (!date_.useLocalTime || !isMomentWithinReach(standard) ||
       !isPlaceWithinReach(0.0, longitude)) {
     return standard;
   }
-  return astro::localBaseTime(date_.year, date_.monthIndex, date_.dayIndex, date_.hour, longitude);
+  return astro::localBaseTime(reading, longitude);
 }
 
 astro::Observer AstronomyModel::observer() const {

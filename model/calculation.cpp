@@ -25,11 +25,12 @@ bool isHeld(Document document) {
 
 CalculationResult calculate(const CalculationInput& input) {
   const double baseTime = input.observer.baseTime;
-  CalculationResult result{input,
-                           {},
-                           reports::positionRows(input.observer),
-                           astro::nextPhase(baseTime, astro::fullMoonElongation),
-                           astro::nextPhase(baseTime, astro::newMoonElongation)};
+  CalculationResult result{
+      input,
+      {},
+      reports::positionRows(input.observer),
+      astro::nextPhase({.start = baseTime, .elongation = astro::fullMoonElongation}),
+      astro::nextPhase({.start = baseTime, .elongation = astro::newMoonElongation})};
   for (const documents::Entry& entry : documents::allDocuments) {
     if (isHeld(entry.document)) {
       textIn(result.texts, entry.document) = textOf(entry.document, input);

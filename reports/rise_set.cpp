@@ -101,8 +101,8 @@ void RiseSetSearch::appendEvent(std::string& out, double start, double step) {
   if (atStart * atEnd >= 0.0) {
     return;
   }
-  const double crossing =
-      astro::bisectSignChange(start, end, atStart, [this](double t) { return signOfAltitude(t); });
+  const double crossing = astro::bisectSignChange({start, end}, atStart,
+                                                  [this](double t) { return signOfAltitude(t); });
   appendEventText(out, atStart < 0.0 ? body_.riseCode : body_.setCode, crossing);
 }
 

@@ -48,7 +48,7 @@ TEST_P(ReferenceDocuments, DateLabel) {
 
 TEST_P(ReferenceDocuments, NextMoons) {
   const auto label = [this](double target) {
-    return line(astro::calendarLabelWithLocalClock(observer.at(astro::nextPhase(t, target))));
+    return line(astro::calendarLabelWithLocalClock(observer.at(astro::nextPhase({t, target}))));
   };
   EXPECT_TRUE(isGolden(at.goldenName("moons.txt"),
                        label(astro::fullMoonElongation) + label(astro::newMoonElongation)));

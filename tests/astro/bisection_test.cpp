@@ -17,7 +17,7 @@ using astro::phaseToleranceDays;
 TEST(Bisection, EndsWithinATenThousandthOfADay) {
   EXPECT_EQ(phaseToleranceDays, 0.0001);
   const double wanted = 0.7234567;
-  EXPECT_NEAR(bisect(0.0, 1.0, [&](double t) { return t >= wanted; }), wanted,
+  EXPECT_NEAR(bisect({0.0, 1.0}, [&](double t) { return t >= wanted; }), wanted,
               phaseToleranceDays / 2.0);
 }
 
@@ -27,10 +27,10 @@ TEST(Bisection, ADayTakesFourteenHalvingsAndAQuarterTwelve) {
     ++halvings;
     return t >= 0.1;
   };
-  bisect(0.0, 1.0, counted);
+  bisect({0.0, 1.0}, counted);
   EXPECT_EQ(halvings, 14);
   halvings = 0;
-  bisect(0.0, 0.25, counted);
+  bisect({0.0, 0.25}, counted);
   EXPECT_EQ(halvings, 12);
 }
 
@@ -39,20 +39,20 @@ TEST(Bisection, AnIntervalAsLongAsTheToleranceIsNotHalved) {
     ADD_FAILURE() << "nothing is left to halve";
     return true;
   };
-  EXPECT_EQ(bisect(0.0, phaseToleranceDays, unexpected), phaseToleranceDays / 2.0);
-  EXPECT_EQ(bisect(5.0, 5.0, unexpected), 5.0);
+  EXPECT_EQ(bisect({0.0, phaseToleranceDays}, unexpected), phaseToleranceDays / 2.0);
+  EXPECT_EQ(bisect({5.0, 5.0}, unexpected), 5.0);
 }
 
 TEST(Bisection, AnIntervalTurnedAroundIsHalvedToo) {
-  EXPECT_NEAR(bisectSignChange(1.0, 0.0, 0.5, [](double t) { return t - 0.3; }), 0.3,
+  EXPECT_NEAR(bisectSignChange({1.0, 0.0}, 0.5, [](double t) { return t - 0.3; }), 0.3,
               phaseToleranceDays);
 }
 
 TEST(Bisection, AnExactZeroMovesTheLowEndForGood) {
   // From a zero on, no product is below zero any more, so the search runs to the high end.
   const auto zeroInTheMiddle = [](double t) { return t == 0.5 ? 0.0 : t - 0.5; };
-  EXPECT_NEAR(bisectSignChange(0.0, 1.0, -0.5, zeroInTheMiddle), 1.0, phaseToleranceDays);
-  EXPECT_NEAR(bisectSignChange(0.0, 1.0, 0.0, [](double t) { return t - 0.3; }), 1.0,
+  EXPECT_NEAR(bisectSignChange({0.0, 1.0}, -0.5, zeroInTheMiddle), 1.0, phaseToleranceDays);
+  EXPECT_NEAR(bisectSignChange({0.0, 1.0}, 0.0, [](double t) { return t - 0.3; }), 1.0,
               phaseToleranceDays);
 }
 
@@ -60,7 +60,7 @@ TEST(Bisection, EndsWhereNeighbouringDoublesLeaveNothingToHalve) {
   for (const double start : {1e13, 1e15, 1e17, 1e300, -1e300}) {
     const double end = std::nextafter(std::nextafter(start, 1e308), 1e308);
     for (const bool before : {true, false}) {
-      const double middle = bisect(start, end, [before](double) { return before; });
+      const double middle = bisect({start, end}, [before](double) { return before; });
       EXPECT_GE(middle, start);
       EXPECT_LE(middle, end);
     }
@@ -69,8 +69,8 @@ TEST(Bisection, EndsWhereNeighbouringDoublesLeaveNothingToHalve) {
 
 TEST(Bisection, EndsOverTheWholeRangeOfDoubles) {
   const auto sign = [](double t) { return t < 12345.0 ? -1.0 : 1.0; };
-  EXPECT_NEAR(bisectSignChange(-1e300, 1e300, -1.0, sign), 12345.0, phaseToleranceDays);
-  EXPECT_TRUE(std::isinf(bisect(1.5e308, 1.7e308, [](double) { return false; })));
+  EXPECT_NEAR(bisectSignChange({-1e300, 1e300}, -1.0, sign), 12345.0, phaseToleranceDays);
+  EXPECT_TRUE(std::isinf(bisect({1.5e308, 1.7e308}, [](double) { return false; })));
 }
 
 double literalLoop(double low, double high, double wanted) {
@@ -91,7 +91,7 @@ RC_GTEST_PROP(Bisection, IsThePlainLoopBitForBit, ()) {
   const double high = low + *rc::gen::element(0.25, 1.0, 30.0);
   const double wanted = low + (high - low) * *tests::between(0.001, 0.999);
   const auto fromWanted = [wanted](double t) { return t - wanted; };
-  RC_ASSERT(bisectSignChange(low, high, low - wanted, fromWanted) ==
+  RC_ASSERT(bisectSignChange({low, high}, low - wanted, fromWanted) ==
             literalLoop(low, high, wanted));
 }
 
@@ -100,7 +100,7 @@ RC_GTEST_PROP(Bisection, FindsTheMomentTheMoonCrossesTheEcliptic, ()) {
   const double end = start + 10.0;
   const double atStart = astro::moonLatitude(start);
   RC_PRE(atStart * astro::moonLatitude(end) < 0.0);
-  const double crossing = bisectSignChange(start, end, atStart, astro::moonLatitude);
+  const double crossing = bisectSignChange({start, end}, atStart, astro::moonLatitude);
   RC_ASSERT(astro::moonLatitude(crossing - phaseToleranceDays) *
                 astro::moonLatitude(crossing + phaseToleranceDays) <=
             0.0);

@@ -19,7 +19,7 @@ std::string written(int hours, int minutes, int hourDigits) {
 }
 
 std::string labelAt(double hour) {
-  return calendarLabel(standardBaseTime(720, 0, 0, hour));
+  return calendarLabel(standardBaseTime({720, 0, 0, hour}));
 }
 
 TEST(Clock, EveryMinuteOfTheDayReadsBack) {

@@ -41,7 +41,7 @@ double minutesApart(double a, double b) {
 double localAheadAt(double t) {
   const double hour = std::floor((t + 0.5 - std::floor(t + 0.5)) * 24.0);
   const auto day = static_cast<std::int64_t>(std::floor(t + 0.5));
-  return (standardBaseTime(1, 0, day, hour) - localBaseTime(1, 0, day, hour, 0.0)) * 1440.0;
+  return (standardBaseTime({1, 0, day, hour}) - localBaseTime({1, 0, day, hour}, 0.0)) * 1440.0;
 }
 
 /// The base time at which the mean sun stands that many quarters of the ecliptic after year 300.
@@ -71,18 +71,18 @@ TEST(LocalTime, BetweenThemTheTiltMakesUpToEightMinutes) {
 
 TEST(LocalTime, TheSameHourHalfAWorldAwayIsHalfADayAway) {
   for (const double hour : {0.0, 6.0, 12.5, 23.75}) {
-    const double east = localBaseTime(720, 3, 4, hour, inRadians(90.0));
-    const double west = localBaseTime(720, 3, 4, hour, inRadians(-90.0));
+    const double east = localBaseTime({720, 3, 4, hour}, inRadians(90.0));
+    const double west = localBaseTime({720, 3, 4, hour}, inRadians(-90.0));
     EXPECT_NEAR(west - east, 0.5, 0.001);
-    const double zero = localBaseTime(720, 3, 4, hour, 0.0);
-    const double seam = localBaseTime(720, 3, 4, hour, inRadians(180.0));
+    const double zero = localBaseTime({720, 3, 4, hour}, 0.0);
+    const double seam = localBaseTime({720, 3, 4, hour}, inRadians(180.0));
     EXPECT_NEAR(std::abs(seam - zero), 0.5, 0.001);
   }
 }
 
 TEST(LocalTime, AtLocalNoonTheSunStandsInTheSouth) {
   const double longitude = inRadians(25.3);
-  const double t = localBaseTime(1243, 6, 18, 12.0, longitude);
+  const double t = localBaseTime({1243, 6, 18, 12.0}, longitude);
   const astro::Vec3D sun = astro::toHorizon(astro::Sun(t).eq, {t, inRadians(60.0), longitude});
   EXPECT_NEAR(tests::apart(sun.phi, 0.0), 0.0, 1e-4);
   EXPECT_EQ(localClockLabel({.baseTime = t, .longitude = longitude}), "12:00");
@@ -103,7 +103,7 @@ TEST(LocalTime, TheLabelOfAPhaseCarriesBothClocks) {
 
 TEST(LocalTime, TheMinuteBeforeMidnightRoundsToMidnight) {
   // A clock never reads 24:00.
-  const double midnight = localBaseTime(720, 0, 0, 24.0, 0.5);
+  const double midnight = localBaseTime({720, 0, 0, 24.0}, 0.5);
   EXPECT_EQ(localClockLabel({.baseTime = midnight, .longitude = 0.5}), "00:00");
   EXPECT_EQ(localClockLabel({.baseTime = midnight - 10.0 / 86400.0, .longitude = 0.5}), "00:00");
   EXPECT_EQ(localClockLabel({.baseTime = midnight - 50.0 / 86400.0, .longitude = 0.5}), "23:59");
@@ -112,8 +112,9 @@ TEST(LocalTime, TheMinuteBeforeMidnightRoundsToMidnight) {
 RC_GTEST_PROP(LocalTime, TheLocalClockReadsTheHourAskedFor, ()) {
   const double hour = *tests::between(0.0, 24.0);
   const double longitude = *tests::longitudes();
-  const double t = localBaseTime(*tests::wholeBetween(1, 3000), *tests::wholeBetween(0, 11),
-                                 *tests::wholeBetween(0, 29), hour, longitude);
+  const double t = localBaseTime({*tests::wholeBetween(1, 3000), *tests::wholeBetween(0, 11),
+                                  *tests::wholeBetween(0, 29), hour},
+                                 longitude);
   // The search ends within 1e-5 rad, a seventh of a second; the rest is the rounding to minutes.
   RC_ASSERT(
       std::abs(minutesApart(minutesOf(localClockLabel({.baseTime = t, .longitude = longitude})),
@@ -123,8 +124,8 @@ RC_GTEST_PROP(LocalTime, TheLocalClockReadsTheHourAskedFor, ()) {
 RC_GTEST_PROP(LocalTime, LiesWithinHalfADayAndTheTiltOfTheStandardHour, ()) {
   const std::int64_t year = *tests::wholeBetween(1, 3000);
   const double hour = *tests::between(0.0, 24.0);
-  const double local = localBaseTime(year, 5, 6, hour, *tests::longitudes());
-  RC_ASSERT(std::abs(local - standardBaseTime(year, 5, 6, hour)) < 0.51);
+  const double local = localBaseTime({year, 5, 6, hour}, *tests::longitudes());
+  RC_ASSERT(std::abs(local - standardBaseTime({year, 5, 6, hour})) < 0.51);
 }
 
 RC_GTEST_PROP(LocalTime, FifteenDegreesAreAnHour, ()) {
@@ -148,7 +149,7 @@ RC_GTEST_PROP(LocalTime, TheClockReadsTheHourAngleOfTheSun, ()) {
 }
 
 double baseTimeOf(const astro::CalendarReading& reading, double longitude) {
-  return localBaseTime(reading.year, reading.monthIndex, reading.dayIndex, reading.hour, longitude);
+  return localBaseTime(reading, longitude);
 }
 
 RC_GTEST_PROP(LocalTime, AReadingGivesBackItsMomentWithinAMinute, ()) {
@@ -181,7 +182,7 @@ RC_GTEST_PROP(LocalTime, AnEnteredMinuteIsReadBack, ()) {
 }
 
 TEST(LocalTime, MidnightIsReadAsTheDayThatBegins) {
-  const double midnight = localBaseTime(720, 0, 0, 24.0, 0.5);
+  const double midnight = localBaseTime({720, 0, 0, 24.0}, 0.5);
   EXPECT_EQ(localCalendarReading({.baseTime = midnight, .longitude = 0.5}),
             (astro::CalendarReading{720, 0, 1, 0.0}));
   EXPECT_EQ(localCalendarReading({.baseTime = midnight - 10.0 / 86400.0, .longitude = 0.5}),
@@ -191,7 +192,7 @@ TEST(LocalTime, MidnightIsReadAsTheDayThatBegins) {
 }
 
 TEST(LocalTime, BeforeTheFirstLocalMidnightNothingIsRead) {
-  const double first = localBaseTime(1, 0, 0, 0.0, -1.0);
+  const double first = localBaseTime({1, 0, 0, 0.0}, -1.0);
   EXPECT_GT(first, -0.5);
   EXPECT_EQ(localCalendarReading({.baseTime = first + 1e-4, .longitude = -1.0}),
             (astro::CalendarReading{1, 0, 0, 0.0}));

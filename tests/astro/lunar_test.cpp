@@ -28,7 +28,7 @@ constexpr double synodicMonth = astro::twoPi / gainPerDay;
 /// The earliest moment, to the last bit, from which on the elongation is no longer below `wanted`.
 /// The search begins at the new moon after `start`.
 double whenElongationReaches(double wanted, double start) {
-  const double middle = nextPhase(start, newMoonElongation) + wanted / gainPerDay;
+  const double middle = nextPhase({start, newMoonElongation}) + wanted / gainPerDay;
   double before = middle - 0.01;
   double after = middle + 0.01;
   EXPECT_LT(elongation(before, 0.0), wanted);
@@ -98,7 +98,7 @@ TEST(LunarEvent, FarFromNewAndFullMoonNothingIsPrinted) {
 RC_GTEST_PROP(LunarEvent, TextIsCodeMomentAndSignedElongation, ()) {
   const double aroundPhase = *tests::between(-0.2, 0.2);
   const double target = *rc::gen::element(newMoonElongation, fullMoonElongation);
-  const double t = nextPhase(*tests::momentsWithin(1e6), target) + aroundPhase;
+  const double t = nextPhase({*tests::momentsWithin(1e6), target}) + aroundPhase;
   const std::string text = lunarEventText(t);
   if (!text.empty()) {
     RC_ASSERT(text.substr(5) ==
@@ -118,7 +118,7 @@ RC_GTEST_PROP(Elongation, LiesInHalfATurnEitherWayAndIsTheDifference, ()) {
 RC_GTEST_PROP(NextPhase, IsThatPhaseAndTheFirstAfterTheStart, ()) {
   const double start = *tests::momentsWithin(1e6);
   const double target = *rc::gen::element(newMoonElongation, fullMoonElongation, -1.0, 0.5);
-  const double t = nextPhase(start, target);
+  const double t = nextPhase({start, target});
   RC_ASSERT(t > start);
   RC_ASSERT(t - start <= synodicMonth + astro::phaseToleranceDays);
   // The middle of an interval of 0.0001 days is at most half of it from the phase.
@@ -126,17 +126,17 @@ RC_GTEST_PROP(NextPhase, IsThatPhaseAndTheFirstAfterTheStart, ()) {
 }
 
 TEST(NextPhase, PhasesFollowEachOtherByAMonth) {
-  double t = nextPhase(258840.0, fullMoonElongation);
+  double t = nextPhase({258840.0, fullMoonElongation});
   for (int month = 0; month < 100; ++month) {
-    const double next = nextPhase(t + 1.0, fullMoonElongation);
+    const double next = nextPhase({t + 1.0, fullMoonElongation});
     EXPECT_NEAR(next - t, synodicMonth, astro::phaseToleranceDays);
     t = next;
   }
 }
 
 TEST(NextPhase, FullAndNewMoonAreHalfAMonthApart) {
-  const double full = nextPhase(1000.0, fullMoonElongation);
-  EXPECT_NEAR(nextPhase(full, newMoonElongation) - full, synodicMonth / 2.0,
+  const double full = nextPhase({1000.0, fullMoonElongation});
+  EXPECT_NEAR(nextPhase({full, newMoonElongation}) - full, synodicMonth / 2.0,
               astro::phaseToleranceDays);
 }
 
@@ -146,14 +146,14 @@ TEST(NextPhase, AskedExactlyAtAPhaseItIsThatPhase) {
     newMoon = whenElongationReaches(0.0, newMoon + 1.0);
   }
   ASSERT_EQ(elongation(newMoon, 0.0), 0.0);
-  const double t = nextPhase(newMoon, newMoonElongation);
+  const double t = nextPhase({newMoon, newMoonElongation});
   EXPECT_GE(t, newMoon);
   EXPECT_LE(t, newMoon + astro::phaseToleranceDays);
 }
 
 TEST(NextPhase, AskedJustAfterAPhaseItIsTheNextOne) {
   const double newMoon = whenElongationReaches(0.0, 500.0);
-  EXPECT_NEAR(nextPhase(newMoon + 0.001, newMoonElongation) - newMoon, synodicMonth,
+  EXPECT_NEAR(nextPhase({newMoon + 0.001, newMoonElongation}) - newMoon, synodicMonth,
               astro::phaseToleranceDays);
 }
 
@@ -195,7 +195,7 @@ TEST(NodeEclipse, TwoCrossingsInOneIntervalCancelOut) {
 TEST(NodeEclipse, ALatitudeNearZeroAtTheStartIsACrossingByItself) {
   const double quarter = quarterDayOfAnEclipse();
   const double crossing = astro::bisectSignChange(
-      quarter, quarter + 0.25, astro::moonLatitude(quarter), astro::moonLatitude);
+      {quarter, quarter + 0.25}, astro::moonLatitude(quarter), astro::moonLatitude);
   ASSERT_LT(std::abs(astro::moonLatitude(crossing)), 0.0001);
   EXPECT_EQ(nodeEclipseEvent(crossing, 0.25), lunarEventText(crossing));
   const double justBefore = crossing - 0.002;  // 6e-5 radians, and the crossing still ahead

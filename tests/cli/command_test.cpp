@@ -131,7 +131,7 @@ TEST(Command, ThePlaceAndTheMomentCount) {
 }
 
 TEST(Command, TablesOfOnesOwn) {
-  const double t = astro::standardBaseTime(1200, 2, 9, 18.25);
+  const double t = astro::standardBaseTime({1200, 2, 9, 18.25});
   const Words moment = words("--year 1200 --month Dovri --day 10 --hour 18.25 --lat 60S");
   EXPECT_EQ(documentOf(moment + words("ephemeris --rows 40 --step -2.5")),
             reports::ephemerisTable({t, -inRadians(60.0)}, {40, -2.5}));

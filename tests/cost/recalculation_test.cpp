@@ -20,7 +20,7 @@ constexpr std::size_t enoughCosines = 22'400;
 constexpr std::size_t enoughArcTangents = 7'950;
 
 TEST(Cost, TheDocumentsCallTheLibraryNoMoreOftenThanTheyNeed) {
-  const astro::Observer firstStart = {.baseTime = astro::standardBaseTime(720, 0, 0, 12.0),
+  const astro::Observer firstStart = {.baseTime = astro::standardBaseTime({720, 0, 0, 12.0}),
                                       .latitude = 40.5 * astro::pi / 180.0,
                                       .longitude = -20.9 * astro::pi / 180.0};
   for (const documents::Entry& entry : documents::allDocuments) {

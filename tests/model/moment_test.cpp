@@ -77,7 +77,7 @@ TEST(Moment, IsStoredOnceAndSignalsWhatChanges) {
   AstronomyModel& model = world.model;
   ChangeLog log(model);
   const std::size_t stored = world.settings->groups.size();
-  ASSERT_TRUE(model.setMoment(astro::standardBaseTime(721, 4, 9, 18.25)));
+  ASSERT_TRUE(model.setMoment(astro::standardBaseTime({721, 4, 9, 18.25})));
   EXPECT_EQ(log.taken(), (Names{"monthIndex", "dayIndex", "year", "hour"}));
   ASSERT_EQ(world.settings->groups.size(), stored + 1);
   EXPECT_EQ(world.settings->values[QStringLiteral("AstronomyModel.year")], QVariant(qint64{721}));
@@ -86,7 +86,7 @@ TEST(Moment, IsStoredOnceAndSignalsWhatChanges) {
   EXPECT_EQ(world.settings->values[QStringLiteral("AstronomyModel.dayIndex")], QVariant(qint64{9}));
   EXPECT_EQ(world.settings->values[QStringLiteral("AstronomyModel.hour")], QVariant(18.25));
 
-  ASSERT_TRUE(model.setMoment(astro::standardBaseTime(721, 4, 9, 19.0)));
+  ASSERT_TRUE(model.setMoment(astro::standardBaseTime({721, 4, 9, 19.0})));
   EXPECT_EQ(log.taken(), Names{"hour"});
   ASSERT_TRUE(model.setMoment(model.baseTime()));
   EXPECT_EQ(log.taken(), Names{});
@@ -95,7 +95,7 @@ TEST(Moment, IsStoredOnceAndSignalsWhatChanges) {
 TEST(Moment, EveryInputIsSetWhenTheFirstSignalComes) {
   FakeModel world;
   AstronomyModel& model = world.model;
-  const double moment = astro::standardBaseTime(721, 4, 9, 18.25);
+  const double moment = astro::standardBaseTime({721, 4, 9, 18.25});
   double heard = 0.0;
   QObject::connect(&model, &AstronomyModel::monthIndexChanged, &model,
                    [&] { heard = model.baseTime(); });
@@ -125,7 +125,7 @@ TEST(Moment, APlaceBeyondTheGlobeHasStandardTimeAlone) {
   AstronomyModel& model = world.model;
   model.setManualLongDeg(1e9);
   model.setUseLocalTime(true);
-  const double moment = astro::standardBaseTime(721, 4, 9, 18.25);
+  const double moment = astro::standardBaseTime({721, 4, 9, 18.25});
   ASSERT_TRUE(model.setMoment(moment));
   EXPECT_EQ(model.baseTime(), moment);
 }

@@ -66,9 +66,9 @@ TEST(EphemerisTable, ANightThatLastsAllMonthHasNoEvents) {
 }
 
 TEST(EphemerisTable, PhaseIsZeroAtNewAndOneAtFullMoon) {
-  const double newMoon = astro::nextPhase(258840.0, astro::newMoonElongation);
-  const double fullMoon = astro::nextPhase(258840.0, astro::fullMoonElongation);
-  const double quarter = astro::nextPhase(258840.0, astro::halfPi);
+  const double newMoon = astro::nextPhase({258840.0, astro::newMoonElongation});
+  const double fullMoon = astro::nextPhase({258840.0, astro::fullMoonElongation});
+  const double quarter = astro::nextPhase({258840.0, astro::halfPi});
   EXPECT_EQ(rowAt(newMoon, 0.0).substr(phaseColumn, 4), "0.00");
   EXPECT_EQ(rowAt(fullMoon, 0.0).substr(phaseColumn, 4), "1.00");
   EXPECT_EQ(rowAt(quarter, 0.0).substr(phaseColumn, 4), "0.50");

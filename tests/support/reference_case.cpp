@@ -23,8 +23,8 @@ std::string fileContent(const std::string& path) {
 }
 
 double ReferenceCase::baseTime() const {
-  return useLocalTime ? astro::localBaseTime(year, monthIndex, dayIndex, hour, longitude)
-                      : astro::standardBaseTime(year, monthIndex, dayIndex, hour);
+  return useLocalTime ? astro::localBaseTime({year, monthIndex, dayIndex, hour}, longitude)
+                      : astro::standardBaseTime({year, monthIndex, dayIndex, hour});
 }
 
 astro::Observer ReferenceCase::observer() const {

@@ -7,18 +7,17 @@
 
 namespace veyruna::ui {
 
-SegmentedPicker::SegmentedPicker(const char* name, const QStringList& titles,
-                                 const QStringList& spoken, QWidget* parent)
+SegmentedPicker::SegmentedPicker(const char* name, const QList<Segment>& segments, QWidget* parent)
     : QWidget(parent), segments_(new QButtonGroup(this)) {
   setObjectName(QString::fromLatin1(name));
   auto* const row = new QHBoxLayout(this);
   row->setContentsMargins({});
   row->setSpacing(0);
-  for (int segment = 0; segment < titles.size(); ++segment) {
-    const QString& title = titles[segment];
+  for (int segment = 0; segment < segments.size(); ++segment) {
+    const auto& [title, spoken] = segments[segment];
     auto* const button = new SegmentButton(title);
     button->setObjectName(objectName() + title);
-    button->setAccessibleName(spoken[segment]);
+    button->setAccessibleName(spoken);
     button->setCheckable(true);
     button->setAutoDefault(false);
     button->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);

@@ -13,10 +13,14 @@ class SegmentedPicker final : public QWidget {
   Q_OBJECT
 
  public:
-  /// The segments in order, by what is read on them and what is spoken for them; the first is
-  /// chosen. A segment's object name is the picker's with the segment's title.
-  SegmentedPicker(const char* name, const QStringList& titles, const QStringList& spoken,
-                  QWidget* parent = nullptr);
+  struct Segment {
+    QString title;   ///< what is read on it
+    QString spoken;  ///< what is spoken for it
+  };
+
+  /// The segments in order; the first is chosen. A segment's object name is the picker's with the
+  /// segment's title.
+  SegmentedPicker(const char* name, const QList<Segment>& segments, QWidget* parent = nullptr);
 
   /// Shows a choice, counted from 0; reports nothing.
   void setChosen(int segment);

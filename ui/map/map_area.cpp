@@ -154,7 +154,7 @@ void MapArea::drawMap(QPainter& painter, const QRectF& exposed) {
   for (const QRect& bare : QRegion(part) - image) {
     painter.fillRect(bare, ground);
   }
-  tiles_->draw(painter, image, view, part);
+  tiles_->draw(painter, {.image = image, .view = view, .exposed = part});
   stamps_.draw(painter, marks_, shown_, toDevice, view);
   painter.restore();
   isDrawn_ = true;

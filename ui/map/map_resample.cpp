@@ -49,11 +49,17 @@ Taps tapsOf(int shown, double scale, int length) {
   return taps;
 }
 
-std::vector<Taps> allTaps(int first, int count, double scale, int length) {
+/// Neighbouring pixels of the shown picture, in one direction.
+struct ShownPixels {
+  int first;
+  int count;
+};
+
+std::vector<Taps> allTaps(const ShownPixels& shown, double scale, int length) {
   std::vector<Taps> all;
-  all.reserve(static_cast<std::size_t>(count));
-  for (int i = 0; i < count; ++i) {
-    all.push_back(tapsOf(first + i, scale, length));
+  all.reserve(static_cast<std::size_t>(shown.count));
+  for (int i = 0; i < shown.count; ++i) {
+    all.push_back(tapsOf(shown.first + i, scale, length));
   }
   return all;
 }
@@ -95,9 +101,10 @@ void write(const float* row, int width, uchar* line) {
 void Resampler::draw(const QImage& source, QSizeF scale, QPoint first, QSize size, QImage& into) {
   astro::requireInvariant(size.width() <= longestRow,
                           "a piece of the map is at most 512 pixels wide");
-  const std::vector<Taps> columns = allTaps(first.x(), size.width(), scale.width(), source.width());
+  const std::vector<Taps> columns =
+      allTaps({.first = first.x(), .count = size.width()}, scale.width(), source.width());
   const std::vector<Taps> lines =
-      allTaps(first.y(), size.height(), scale.height(), source.height());
+      allTaps({.first = first.y(), .count = size.height()}, scale.height(), source.height());
   const int top = lines.front().pixels.front();
   const int bottom = lines.back().pixels.back();
   const auto indexOf = [top](int y) { return static_cast<std::size_t>(y - top); };

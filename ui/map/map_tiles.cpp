@@ -84,8 +84,8 @@ std::vector<MapTiles::Key> MapTiles::keysAround(const QRect& image, const QRect&
   return keys;
 }
 
-void MapTiles::draw(QPainter& painter, const QRect& image, const QRect& view,
-                    const QRect& exposed) {
+void MapTiles::draw(QPainter& painter, const Frame& frame) {
+  const auto& [image, view, exposed] = frame;
   const QRect part = (exposed & image).translated(-image.topLeft());
   if (!picture_) {
     return;

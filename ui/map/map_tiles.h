@@ -37,10 +37,16 @@ class MapTiles final : public QObject {
   void setPicture(std::shared_ptr<const MapPicture> picture);
   [[nodiscard]] bool hasPicture() const { return picture_ != nullptr; }
 
-  /// Draws what of the picture lies in `exposed` and has the tiles made that `view`, the part of
-  /// the device in sight, lacks. `image`: where the whole picture lies. The painter counts in
-  /// device pixels. Draws nothing before there is a picture.
-  void draw(QPainter& painter, const QRect& image, const QRect& view, const QRect& exposed);
+  /// A frame, in device pixels.
+  struct Frame {
+    QRect image;    ///< where the whole picture lies
+    QRect view;     ///< the part of the device in sight
+    QRect exposed;  ///< what is to be painted
+  };
+
+  /// Draws what of the picture is exposed and has the tiles made that the view lacks. The painter
+  /// counts in device pixels. Draws nothing before there is a picture.
+  void draw(QPainter& painter, const Frame& frame);
 
   /// Whether what was last in sight, and the tiles around it, is all there in full quality.
   [[nodiscard]] bool isComplete() const { return tiles_.size() == wanted_.size(); }

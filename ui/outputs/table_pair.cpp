@@ -19,7 +19,7 @@ TablePair::TablePair(const Texts& titles, QWidget* parent)
   tables->addWidget(second_);
 
   auto* const choice =
-      new SegmentedPicker("show", {titles.first, titles.second}, {titles.first, titles.second});
+      new SegmentedPicker("show", {{titles.first, titles.first}, {titles.second, titles.second}});
   auto* const row = new QHBoxLayout;
   row->addStretch();
   row->addWidget(choice);

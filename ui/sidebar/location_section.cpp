@@ -85,10 +85,10 @@ QWidget* LocationSection::makeManualFields() {
   auto* const fields = new QWidget;
   latitude_ = named(new AngleField(tr("Latitude"), 90.0, {u'N', u'S'}), "latitudeField",
                     tr("Latitude in degrees"));
-  northSouth_ = new SegmentedPicker("northSouth", {tr("N"), tr("S")}, {tr("North"), tr("South")});
+  northSouth_ = new SegmentedPicker("northSouth", {{tr("N"), tr("North")}, {tr("S"), tr("South")}});
   longitude_ = named(new AngleField(tr("Longitude"), 180.0, {u'E', u'W'}), "longitudeField",
                      tr("Longitude in degrees"));
-  eastWest_ = new SegmentedPicker("eastWest", {tr("E"), tr("W")}, {tr("East"), tr("West")});
+  eastWest_ = new SegmentedPicker("eastWest", {{tr("E"), tr("East")}, {tr("W"), tr("West")}});
   latitude_->setMinimumWidth(fieldWidth);
   longitude_->setMinimumWidth(fieldWidth);
   auto* const latitudeLabel = new QLabel(tr("L&atitude"));

@@ -19,8 +19,8 @@ bool agreesToReplace(QWidget* parent, const QString& path) {
 }
 
 QString withSuffix(const QString& path, const QString& suffix) {
-  const QString ending = QLatin1Char('.') + suffix;
-  return path.endsWith(ending, Qt::CaseInsensitive) ? path : path + ending;
+  const bool hasSuffix = path.endsWith(QLatin1Char('.') + suffix, Qt::CaseInsensitive);
+  return hasSuffix ? path : path + QLatin1Char('.') + suffix;
 }
 
 /// A save dialog that takes a typed name as it stands. Qt's own takes quotation marks for the ends

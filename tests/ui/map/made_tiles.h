@@ -39,7 +39,7 @@ struct MadeTiles : testing::Test {
   void draw(const QRect& image) { draw(tiles, image); }
   void draw(ui::MapTiles& some, const QRect& image) {
     QPainter painter(&frame);
-    some.draw(painter, image, frame.rect(), frame.rect());
+    some.draw(painter, {.image = image, .view = frame.rect(), .exposed = frame.rect()});
   }
   void makeAll() {
     while (tasks.count() > 0) {

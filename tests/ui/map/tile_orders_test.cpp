@@ -166,7 +166,8 @@ TEST_F(MadeTiles, RoughAndSharpThePictureIsInItsPlaceAndNothingBeside) {
 TEST_F(MadeTiles, OnlyWhatIsExposedIsDrawn) {
   frame.fill(Qt::magenta);
   QPainter painter(&frame);
-  tiles.draw(painter, {0, 0, 5000, 3784}, frame.rect(), {0, 0, 10, 10});
+  tiles.draw(painter,
+             {.image = {0, 0, 5000, 3784}, .view = frame.rect(), .exposed = {0, 0, 10, 10}});
   EXPECT_NE(frame.pixel(5, 5), QColor(Qt::magenta).rgb());
   EXPECT_EQ(frame.pixel(600, 5), QColor(Qt::magenta).rgb());
   EXPECT_EQ(frame.pixel(5, 300), QColor(Qt::magenta).rgb());
@@ -177,7 +178,7 @@ TEST_F(MadeTiles, WithoutAPictureNothingIsDrawnOrMade) {
   ui::MapTiles bare(tasks.executor());
   frame.fill(Qt::magenta);
   QPainter painter(&frame);
-  bare.draw(painter, {0, 0, 500, 378}, frame.rect(), frame.rect());
+  bare.draw(painter, {.image = {0, 0, 500, 378}, .view = frame.rect(), .exposed = frame.rect()});
   EXPECT_FALSE(bare.hasPicture());
   EXPECT_EQ(tasks.count(), 0U);
   EXPECT_EQ(frame.pixel(5, 5), QColor(Qt::magenta).rgb());
@@ -189,7 +190,8 @@ TEST_F(MadeTiles, ThoseNotBegunWhenTheyGoAreNotMade) {
   int delivered = 0;
   QObject::connect(going.get(), &ui::MapTiles::tileCame, [&delivered] { ++delivered; });
   QPainter painter(&frame);
-  going->draw(painter, {-1400, -900, 5000, 3784}, frame.rect(), frame.rect());
+  going->draw(painter,
+              {.image = {-1400, -900, 5000, 3784}, .view = frame.rect(), .exposed = frame.rect()});
   going.reset();
   makeAll();
   turnEventLoop();

@@ -41,7 +41,7 @@ std::shared_ptr<const MapPicture> somePicture() {
 
 void draw(MapTiles& tiles, QImage& frame, const QRect& image) {
   QPainter painter(&frame);
-  tiles.draw(painter, image, frame.rect(), frame.rect());
+  tiles.draw(painter, {.image = image, .view = frame.rect(), .exposed = frame.rect()});
 }
 
 TEST(MapTilesOnThreads, ComeWhateverIsAskedForMeanwhile) {
