@@ -168,7 +168,9 @@ RC_GTEST_PROP(LocalTime, AReadingAtTheSeamGivesBackItsMomentOrIsNone, ()) {
   const double longitude = *rc::gen::element(-1.0, 1.0) * *tests::between(3.0, astro::pi);
   const auto reading = localCalendarReading({.baseTime = t, .longitude = longitude});
   RC_CLASSIFY(!reading.has_value(), "no reading");
-  RC_ASSERT(!reading || std::abs(baseTimeOf(*reading, longitude) - t) * 1440.0 < 0.51);
+  if (reading) {  // RC_ASSERT looks at both sides of an "or"
+    RC_ASSERT(std::abs(baseTimeOf(*reading, longitude) - t) * 1440.0 < 0.51);
+  }
 }
 
 RC_GTEST_PROP(LocalTime, AnEnteredMinuteIsReadBack, ()) {
