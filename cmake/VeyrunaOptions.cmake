@@ -15,6 +15,10 @@ target_include_directories(veyruna_options INTERFACE ${PROJECT_SOURCE_DIR})
 # that lie on a rounding tie (2.0 - 0.3 m) and rise times that lie on a minute.
 target_compile_options(veyruna_options INTERFACE -ffp-contract=off -fno-fast-math)
 
+# In dev, sanitizer and fuzz builds the standard library checks what it is asked: an index beyond an
+# array or a view's end stops the program where it happens.
+target_compile_definitions(veyruna_options INTERFACE $<$<CONFIG:Debug>:_GLIBCXX_ASSERTIONS>)
+
 target_compile_options(
   veyruna_options
   INTERFACE -Wall
