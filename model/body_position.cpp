@@ -5,11 +5,11 @@ namespace veyruna::model {
 QList<BodyPosition> bodyPositions(std::span<const reports::PositionRow> rows,
                                   const IdSource& newId) {
   QList<BodyPosition> positions;
-  for (const reports::PositionRow& row : rows) {
-    positions.append({newId(), QString::fromStdString(row.name),
-                      QString::fromStdString(row.bodyType), charts::colorOfBody(row.name),
-                      QString::fromStdString(row.azimuth), QString::fromStdString(row.altitude),
-                      QString::fromStdString(row.ecLong), QString::fromStdString(row.sign)});
+  for (const auto& [name, bodyType, azimuth, altitude, ecLong, sign] : rows) {
+    positions.append({newId(), QString::fromStdString(name), QString::fromStdString(bodyType),
+                      charts::colorOfBody(name), QString::fromStdString(azimuth),
+                      QString::fromStdString(altitude), QString::fromStdString(ecLong),
+                      QString::fromStdString(sign)});
   }
   return positions;
 }

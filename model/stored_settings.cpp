@@ -40,24 +40,27 @@ QVariant toStored(qint64 number) {
   return number;
 }
 
-/// The one table of keys: calls `visit(key, field)` for every field of a group, in order.
+/// The one table of keys: calls `visit(key, field)` for every field of a group, in order. The names
+/// of all fields are bound, so that one that is left out does not compile.
 template <class Settings, class Visit>
 requires std::same_as<std::remove_const_t<Settings>, LocationSettings>
 void forEachField(Settings& location, Visit visit) {
-  visit("AstronomyModel.selectedCityID", location.selectedCityID);
-  visit("AstronomyModel.manualLatDeg", location.manualLatDeg);
-  visit("AstronomyModel.manualLongDeg", location.manualLongDeg);
-  visit("AstronomyModel.latNorth", location.latNorth);
-  visit("AstronomyModel.longWest", location.longWest);
+  auto& [selectedCityID, manualLatDeg, manualLongDeg, latNorth, longWest] = location;
+  visit("AstronomyModel.selectedCityID", selectedCityID);
+  visit("AstronomyModel.manualLatDeg", manualLatDeg);
+  visit("AstronomyModel.manualLongDeg", manualLongDeg);
+  visit("AstronomyModel.latNorth", latNorth);
+  visit("AstronomyModel.longWest", longWest);
 }
 template <class Settings, class Visit>
 requires std::same_as<std::remove_const_t<Settings>, DateSettings>
 void forEachField(Settings& date, Visit visit) {
-  visit("AstronomyModel.monthIndex", date.monthIndex);
-  visit("AstronomyModel.dayIndex", date.dayIndex);
-  visit("AstronomyModel.year", date.year);
-  visit("AstronomyModel.hour", date.hour);
-  visit("AstronomyModel.useLocalTime", date.useLocalTime);
+  auto& [monthIndex, dayIndex, year, hour, useLocalTime] = date;
+  visit("AstronomyModel.monthIndex", monthIndex);
+  visit("AstronomyModel.dayIndex", dayIndex);
+  visit("AstronomyModel.year", year);
+  visit("AstronomyModel.hour", hour);
+  visit("AstronomyModel.useLocalTime", useLocalTime);
 }
 
 template <class Settings>

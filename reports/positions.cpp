@@ -70,16 +70,17 @@ std::array<PositionRow, astro::bodyCount> positionRows(const astro::Observer& ob
 
 std::string positionsTableText(std::span<const PositionRow> rows) {
   std::string text(positionsHeader);
-  for (const PositionRow& row : rows) {
-    text += fittedName(row.name);
+  // Every field is named, so that one more does not compile until it is thought of here.
+  for (const auto& [name, bodyType, azimuth, altitude, ecLong, sign] : rows) {
+    text += fittedName(name);
     text += ' ';
-    text += row.azimuth;
+    text += azimuth;
     text += "    ";
-    text += row.altitude;
+    text += altitude;
     text += "    ";
-    text += row.ecLong;
+    text += ecLong;
     text += "      ";
-    text += row.sign;
+    text += sign;
     text += '\n';
   }
   return text;

@@ -8,6 +8,7 @@
 #include <QPainter>
 #include <QTableWidget>
 #include <algorithm>
+#include <array>
 #include <numeric>
 #include <vector>
 
@@ -39,9 +40,19 @@ QIcon markOf(BodyColor color) {
   return icon;
 }
 
-QStringList columnsOf(const BodyPosition& body) {
-  return {body.name, body.bodyType, body.azimuth, body.altitude, body.ecLong, body.sign};
-}
+struct Column {
+  const char* title;
+  QString BodyPosition::*text;
+  Qt::AlignmentFlag side;
+};
+constexpr std::array<Column, 6> columns = {{
+    {QT_TRANSLATE_NOOP("PlanetsView", "Body"), &BodyPosition::name, Qt::AlignLeft},
+    {QT_TRANSLATE_NOOP("PlanetsView", "Type"), &BodyPosition::bodyType, Qt::AlignLeft},
+    {QT_TRANSLATE_NOOP("PlanetsView", "Azimuth"), &BodyPosition::azimuth, Qt::AlignRight},
+    {QT_TRANSLATE_NOOP("PlanetsView", "Altitude"), &BodyPosition::altitude, Qt::AlignRight},
+    {QT_TRANSLATE_NOOP("PlanetsView", "Ec. Longitude"), &BodyPosition::ecLong, Qt::AlignRight},
+    {QT_TRANSLATE_NOOP("PlanetsView", "Sign"), &BodyPosition::sign, Qt::AlignLeft},
+}};
 
 }  // namespace
 
@@ -51,8 +62,10 @@ PlanetsView::PlanetsView(QWidget* parent)
 
 PlanetsView::PlanetsView(QTableWidget* table, QWidget* parent)
     : WithPlaceholder(table, tr("No Positions"), parent), table_(table) {
-  const QStringList titles = {tr("Body"),     tr("Type"),          tr("Azimuth"),
-                              tr("Altitude"), tr("Ec. Longitude"), tr("Sign")};
+  QStringList titles;
+  for (const Column& column : columns) {
+    titles.append(QCoreApplication::translate("PlanetsView", column.title));
+  }
   table_->setColumnCount(static_cast<int>(titles.size()));
   table_->setHorizontalHeaderLabels(titles);
   table_->verticalHeader()->hide();
@@ -73,13 +86,11 @@ PlanetsView::PlanetsView(QTableWidget* table, QWidget* parent)
 void PlanetsView::show(const QList<BodyPosition>& positions) {
   table_->setRowCount(static_cast<int>(positions.size()));
   for (int row = 0; row < positions.size(); ++row) {
-    const QStringList columns = columnsOf(positions[row]);
-    for (int column = 0; column < columns.size(); ++column) {
-      auto* const item = new QTableWidgetItem(columns[column]);
-      const bool isAngle = column >= 2 && column <= 4;
-      item->setTextAlignment(isAngle ? Qt::AlignRight | Qt::AlignVCenter
-                                     : Qt::AlignLeft | Qt::AlignVCenter);
-      table_->setItem(row, column, item);
+    int place = 0;
+    for (const auto& [title, text, side] : columns) {
+      auto* const item = new QTableWidgetItem(positions[row].*text);
+      item->setTextAlignment(side | Qt::AlignVCenter);
+      table_->setItem(row, place++, item);
     }
     table_->item(row, 0)->setIcon(markOf(positions[row].color));
   }

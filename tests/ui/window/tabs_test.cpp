@@ -5,6 +5,7 @@
 #include <QSet>
 #include <QStackedWidget>
 #include <QTableWidget>
+#include <algorithm>
 #include <gtest/gtest.h>
 
 #include "tests/ui/shown_window.h"
@@ -30,22 +31,25 @@ struct EveryTab : testing::Test, tests::ShownWindow {
     ASSERT_EQ(window.selectedTab(), tab.tab);
   }
 
-  /// Whether the view holds the document: as its chart's page, as a text, or cell by cell.
-  bool showsText(const QWidget* view, const QString& text) {
-    for (const auto* const shown : view->findChildren<QPlainTextEdit*>()) {
-      if (shown->toPlainText() == text) {
-        return true;
-      }
+  /// Whether the view holds the document: as its chart, as a text, or cell by cell.
+  bool shows(const QWidget* view, documents::Document document) {
+    const QString text = model.text(document);
+    if (documents::entryOf(document).kind == documents::Kind::chart) {
+      return looksLike(view, text);
     }
-    for (const auto* const table : view->findChildren<QTableWidget*>()) {
-      if (table->rowCount() == text.count(QLatin1Char('\n')) - 2 && holdsCells(*table, text)) {
-        return true;
-      }
-    }
-    return looksLike(view, text);
+    const auto texts = view->findChildren<QPlainTextEdit*>();
+    const auto tables = view->findChildren<QTableWidget*>();
+    return std::ranges::any_of(texts,
+                               [&](const auto* shown) { return shown->toPlainText() == text; }) ||
+           std::ranges::any_of(tables, [&](const auto* table) {
+             return table->rowCount() == text.count(QLatin1Char('\n')) - headerLines &&
+                    holdsCells(*table, text);
+           });
   }
 
  private:
+  static constexpr int headerLines = 2;  ///< of the positions' text
+
   /// Whether the view, or a part of it, is that chart to the pixel.
   static bool looksLike(const QWidget* view, const QString& svg) {
     const auto* const chart = qobject_cast<const SVGView*>(view);
@@ -58,14 +62,18 @@ struct EveryTab : testing::Test, tests::ShownWindow {
     return other.grab().toImage() == const_cast<SVGView*>(chart)->grab().toImage();
   }
 
-  /// Whether the text has every cell of the table but the kinds of bodies, which are not written.
+  /// Whether each row has what its line of the text says, and nothing else but the kind of body,
+  /// which is not written.
   static bool holdsCells(const QTableWidget& table, const QString& text) {
     constexpr int kindColumn = 1;
     for (int row = 0; row < table.rowCount(); ++row) {
+      QString cells;
       for (int column = 0; column < table.columnCount(); ++column) {
-        if (column != kindColumn && !text.contains(table.item(row, column)->text())) {
-          return false;
-        }
+        cells += column == kindColumn ? QString() : table.item(row, column)->text();
+      }
+      const QString line = text.section(QLatin1Char('\n'), headerLines + row, headerLines + row);
+      if (cells.remove(QLatin1Char(' ')) != QString(line).remove(QLatin1Char(' '))) {
+        return false;
       }
     }
     return true;
@@ -90,7 +98,7 @@ TEST_F(EveryTab, ShowsTheDocumentsItSaves) {
   for (const TabEntry& tab : exports::allTabs) {
     open(tab);
     for (const exports::TabSection& section : tab.sections) {
-      EXPECT_TRUE(showsText(shownView(), model.text(section.document)))
+      EXPECT_TRUE(shows(shownView(), section.document))
           << tab.title.toString().toStdString() << ": "
           << documents::entryOf(section.document).heading;
     }
@@ -106,7 +114,7 @@ TEST_F(EveryTab, FollowsTheNextCalculation) {
   for (const TabEntry& tab : exports::allTabs) {
     open(tab);
     for (const exports::TabSection& section : tab.sections) {
-      EXPECT_TRUE(showsText(shownView(), model.text(section.document)))
+      EXPECT_TRUE(shows(shownView(), section.document))
           << documents::entryOf(section.document).heading;
     }
   }
