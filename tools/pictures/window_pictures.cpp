@@ -13,14 +13,13 @@
 #include <QTimer>
 #include <cstdio>
 
+#include "ui/outputs/tab_views.h"
 #include "ui/window/about_view.h"
 #include "ui/window/application.h"
 #include "ui/window/main_view.h"
 #include "ui/window/product.h"
 
 namespace {
-
-using veyruna::exports::OutputTab;
 
 /// The look of a dark desktop.
 QPalette darkPalette() {
@@ -86,15 +85,11 @@ int main(int argc, char** argv) {
   constexpr int untilDrawn = 1000;
   wait(untilDrawn);
   bool isSaved = true;
-  for (const auto& [tab, name] : {std::pair{OutputTab::starMap, "star-map"},
-                                  {OutputTab::horoscope, "horoscope"},
-                                  {OutputTab::planets, "planets"},
-                                  {OutputTab::sunMoon, "sun-and-moon"},
-                                  {OutputTab::positions, "positions"},
-                                  {OutputTab::location, "location"}}) {
-    window->selectTab(tab);
+  for (const veyruna::ui::TabView& view : veyruna::ui::tabViews) {
+    window->selectTab(view.tab);
     wait(untilDrawn);
-    isSaved &= save(*window, folder.filePath(QStringLiteral("%1.png").arg(QLatin1String(name))));
+    const QString name = QString::fromLatin1(view.icon).replace(QLatin1Char('_'), QLatin1Char('-'));
+    isSaved &= save(*window, folder.filePath(QStringLiteral("window-%1.png").arg(name)));
   }
   // The map enlarged, about its middle: four steps and all of them.
   auto* const zoomIn = window->findChild<QAbstractButton*>(QStringLiteral("zoomInButton"));
