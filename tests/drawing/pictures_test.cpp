@@ -4,9 +4,8 @@
 
 #include "drawing/picture_painter.h"
 #include "drawing/svg_reader.h"
-#include "tests/support/picture_difference.h"
+#include "tests/support/golden_picture.h"
 #include "tests/support/reference_case.h"
-#include "tests/support/source_path.h"
 
 namespace veyruna::drawing {
 namespace {
@@ -23,26 +22,19 @@ QImage chart(const char* name, const char* moment, QSize size, double ratio) {
   return image;
 }
 
-QImage goldenPicture(const char* name) {
-  return QImage(QString::fromStdString(
-      tests::sourcePath(std::string("tests/export/golden/") + name + ".png")));
-}
-
 struct Pictures : testing::TestWithParam<const char*> {};
 
 TEST_P(Pictures, LookAsAnotherProgramDrawsThem) {
-  const QImage golden = goldenPicture(GetParam());
-  ASSERT_FALSE(golden.isNull());
+  const QSize size = QImage(tests::goldenPicturePath(GetParam())).size();
   for (const double ratio : {1.0, 1.5, 2.0}) {
-    const auto found =
-        tests::differenceOf(chart(GetParam(), "evening-local", golden.size(), ratio), golden, 4);
-    EXPECT_LT(found.different, 0.0001) << ratio;
-    EXPECT_LT(found.mean, 0.5) << ratio;
+    EXPECT_TRUE(tests::looksGolden(chart(GetParam(), "evening-local", size, ratio), GetParam(), 4,
+                                   {.mean = 0.5, .different = 0.0001}))
+        << ratio;
   }
 }
 
 TEST_P(Pictures, OfAnotherMomentLookDifferent) {
-  const QImage golden = goldenPicture(GetParam());
+  const QImage golden(tests::goldenPicturePath(GetParam()));
   const auto found =
       tests::differenceOf(chart(GetParam(), "first-start", golden.size(), 2.0), golden, 4);
   EXPECT_GT(found.different, 0.01);

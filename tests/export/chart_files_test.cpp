@@ -7,9 +7,8 @@
 
 #include "drawing/svg_reader.h"
 #include "tests/export/pdf_reader.h"
-#include "tests/support/picture_difference.h"
+#include "tests/support/golden_picture.h"
 #include "tests/support/reference_case.h"
-#include "tests/support/source_path.h"
 
 namespace veyruna {
 namespace {
@@ -43,10 +42,7 @@ struct ChartFiles : testing::TestWithParam<Chart> {
   [[nodiscard]] static PdfReader pdfOf(const std::string& folder) {
     return PdfReader(chartPdf(svgOf(GetParam(), momentOf(folder)), GetParam().points, information));
   }
-  [[nodiscard]] static QImage golden() {
-    return QImage(QString::fromStdString(
-        tests::sourcePath(std::string("tests/export/golden/") + GetParam().name + ".png")));
-  }
+  [[nodiscard]] static QImage golden() { return QImage(tests::goldenPicturePath(GetParam().name)); }
 };
 
 TEST_P(ChartFiles, IsOnePageOfExactlyItsSizeWithItsFontInIt) {
@@ -61,11 +57,8 @@ TEST_P(ChartFiles, IsOnePageOfExactlyItsSizeWithItsFontInIt) {
 }
 
 TEST_P(ChartFiles, LooksAsAnotherProgramDrawsTheChart) {
-  QImage picture = pdfOf("evening-local").picture(144);
-  ASSERT_EQ(picture.size(), golden().size());
-  const auto found = tests::differenceOf(picture, golden(), 8);
-  EXPECT_LT(found.mean, 1.0);
-  EXPECT_LT(found.different, 0.0005);
+  EXPECT_TRUE(tests::looksGolden(pdfOf("evening-local").picture(144), GetParam().name, 8,
+                                 {.mean = 1.0, .different = 0.0005}));
   // It is this moment's chart that looks so.
   EXPECT_GT(tests::differenceOf(pdfOf("first-start").picture(144), golden(), 8).different, 0.01);
 }
@@ -99,8 +92,7 @@ TEST_P(ChartFiles, AsAPictureIsAsWideAsAskedAndLooksTheSame) {
   const QByteArray svg = svgOf(GetParam(), momentOf("evening-local"));
   const int width = 2 * GetParam().points.width();
   const QImage picture = QImage::fromData(chartPng(svg, GetParam().points, width), "PNG");
-  ASSERT_EQ(picture.size(), golden().size());
-  EXPECT_LT(tests::differenceOf(picture, golden(), 4).different, 0.0001);
+  EXPECT_TRUE(tests::looksGolden(picture, GetParam().name, 4, {.mean = 0.5, .different = 0.0001}));
   EXPECT_EQ(QImage::fromData(chartPng(svg, GetParam().points, 333)).width(), 333);
 }
 
