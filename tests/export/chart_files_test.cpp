@@ -18,7 +18,8 @@ using exports::chartPdf;
 using exports::chartPng;
 using tests::PdfReader;
 
-const exports::PdfInformation information{u"Horoscope, 720-01-01"_s, u"Veyruna Astro 0.1.0"_s};
+const exports::PdfInformation horoscopeInformation{u"Horoscope, 720-01-01"_s,
+                                                   u"Veyruna Astro 0.1.0"_s};
 
 struct Chart {
   const char* name;
@@ -40,7 +41,8 @@ const tests::ReferenceCase& momentOf(const std::string& folder) {
 
 struct ChartFiles : testing::TestWithParam<Chart> {
   [[nodiscard]] static PdfReader pdfOf(const std::string& folder) {
-    return PdfReader(chartPdf(svgOf(GetParam(), momentOf(folder)), GetParam().points, information));
+    return PdfReader(
+        chartPdf(svgOf(GetParam(), momentOf(folder)), GetParam().points, horoscopeInformation));
   }
   [[nodiscard]] static QImage golden() { return QImage(tests::goldenPicturePath(GetParam().name)); }
 };
@@ -74,7 +76,8 @@ TEST_P(ChartFiles, HoldsEveryTextOfTheChartOnceAsWholeWords) {
     }
   }
   QStringList found;
-  for (const QString& line : PdfReader(chartPdf(svg, GetParam().points, information)).rawLines()) {
+  for (const QString& line :
+       PdfReader(chartPdf(svg, GetParam().points, horoscopeInformation)).rawLines()) {
     found += line.split(u' ');
   }
   expected.sort();
@@ -84,8 +87,8 @@ TEST_P(ChartFiles, HoldsEveryTextOfTheChartOnceAsWholeWords) {
 
 TEST_P(ChartFiles, IsTheSameForTheSameChart) {
   const QByteArray svg = svgOf(GetParam(), momentOf("south"));
-  EXPECT_EQ(tests::withoutDates(chartPdf(svg, GetParam().points, information)),
-            tests::withoutDates(chartPdf(svg, GetParam().points, information)));
+  EXPECT_EQ(tests::withoutDates(chartPdf(svg, GetParam().points, horoscopeInformation)),
+            tests::withoutDates(chartPdf(svg, GetParam().points, horoscopeInformation)));
 }
 
 TEST_P(ChartFiles, AsAPictureIsAsWideAsAskedAndLooksTheSame) {
@@ -104,19 +107,19 @@ INSTANTIATE_TEST_SUITE_P(
     });
 
 TEST(ChartFile, SaysWhatItIsAndWhoMadeIt) {
-  const PdfReader pdf(chartPdf(QByteArray(), {720, 720}, information));
+  const PdfReader pdf(chartPdf(QByteArray(), {720, 720}, horoscopeInformation));
   EXPECT_EQ(pdf.information(u"Title"_s), u"Horoscope, 720-01-01"_s);
   EXPECT_EQ(pdf.information(u"Creator"_s), u"Veyruna Astro 0.1.0"_s);
 }
 
 TEST(ChartFile, OfNoChartYetIsAnEmptyPage) {
-  const PdfReader pdf(chartPdf(QByteArray(), {720, 720}, information));
+  const PdfReader pdf(chartPdf(QByteArray(), {720, 720}, horoscopeInformation));
   EXPECT_EQ(pdf.pages().size(), 1U);
   EXPECT_TRUE(pdf.words().empty());
 }
 
 TEST(ChartFile, OfWhatIsNoChartIsRefused) {
-  EXPECT_THROW(chartPdf("<html/>", {720, 720}, information), drawing::PictureError);
+  EXPECT_THROW(chartPdf("<html/>", {720, 720}, horoscopeInformation), drawing::PictureError);
   EXPECT_THROW(chartPng("<html/>", {720, 720}, 720), drawing::PictureError);
 }
 

@@ -28,7 +28,7 @@ const QStringList placeKeys = {u"AstronomyModel.selectedCityID"_s, u"AstronomyMo
 const QStringList dateKeys = {u"AstronomyModel.monthIndex"_s, u"AstronomyModel.dayIndex"_s,
                               u"AstronomyModel.year"_s, u"AstronomyModel.hour"_s,
                               u"AstronomyModel.useLocalTime"_s};
-const QUuid someId(u"0a1b2c3d-4e5f-6789-abcd-ef0123456789"_s);
+const QUuid storedId(u"0a1b2c3d-4e5f-6789-abcd-ef0123456789"_s);
 
 struct Change {
   const char* field;
@@ -38,7 +38,7 @@ struct Change {
 
 const std::vector<Change>& changes() {
   static const std::vector<Change> all = {
-      {"selectedCityID", someId, placeKeys},
+      {"selectedCityID", storedId, placeKeys},
       {"manualLatDeg", 1.5, placeKeys},
       {"manualLongDeg", -2.5, placeKeys},
       {"latNorth", false, placeKeys},

@@ -7,12 +7,12 @@
 namespace veyruna::ui {
 namespace {
 
-constexpr double degree = astro::pi / 180.0;
+constexpr double radiansPerDegree = astro::pi / 180.0;
 
 struct Pick : testing::Test, tests::FakeModel {};
 
 TEST_F(Pick, RoundsToAThousandthOfADegree) {
-  pick({12.34567 * degree, -3.0004 * degree}, model);
+  pick({12.34567 * radiansPerDegree, -3.0004 * radiansPerDegree}, model);
   EXPECT_EQ(model.manualLatDeg(), 12.346);
   EXPECT_EQ(model.manualLongDeg(), 3.0);
   EXPECT_TRUE(model.latNorth());
@@ -21,7 +21,7 @@ TEST_F(Pick, RoundsToAThousandthOfADegree) {
 }
 
 TEST_F(Pick, TheHemispheresFollowTheSigns) {
-  pick({-1.0 * degree, 2.0 * degree}, model);
+  pick({-1.0 * radiansPerDegree, 2.0 * radiansPerDegree}, model);
   EXPECT_EQ(model.manualLatDeg(), 1.0);
   EXPECT_FALSE(model.latNorth());
   EXPECT_FALSE(model.longWest());
@@ -45,16 +45,16 @@ TEST_F(Pick, SetsLatitudeThenLongitudeThenFlagsThenSelection) {
   QObject::connect(&model, &AstronomyModel::longWestChanged, note("west"));
   QObject::connect(&model, &AstronomyModel::selectedCityIDChanged, note("selection"));
   settings->groups.clear();
-  pick({12.0 * degree, -3.0 * degree}, model);
+  pick({12.0 * radiansPerDegree, -3.0 * radiansPerDegree}, model);
   EXPECT_EQ(order.join(QLatin1Char(' ')).toStdString(), "latitude longitude north west selection");
   EXPECT_EQ(settings->groups.size(), 5U);
   EXPECT_FALSE(model.isCalculating());
 }
 
 TEST_F(Pick, StoresEvenWhatIsThereAlready) {
-  pick({12.0 * degree, -3.0 * degree}, model);
+  pick({12.0 * radiansPerDegree, -3.0 * radiansPerDegree}, model);
   settings->groups.clear();
-  pick({12.0 * degree, -3.0 * degree}, model);
+  pick({12.0 * radiansPerDegree, -3.0 * radiansPerDegree}, model);
   EXPECT_EQ(settings->groups.size(), 5U);
 }
 

@@ -17,7 +17,7 @@
 namespace veyruna::ui {
 namespace {
 
-constexpr double degree = astro::pi / 180.0;
+constexpr double oneDegree = astro::pi / 180.0;
 
 QString mapFile() {
   return QString::fromStdString(tests::sourcePath("resources/tamsorel.jpg"));
@@ -120,20 +120,20 @@ TEST(Tamsorel, TheGraticuleCrossesEveryFiveDegrees) {
   for (int latitude = 0; latitude <= 60; latitude += 5) {
     for (int longitude = -45; longitude <= 45; longitude += 5) {
       // Worked out here: 52.15 pixels to a degree of latitude, 470/9 to one of longitude.
-      const QPointF expected(1768.0 + longitude * 470.0 / 9.0 * std::cos(latitude * degree),
+      const QPointF expected(1768.0 + longitude * 470.0 / 9.0 * std::cos(latitude * oneDegree),
                              3194.0 - latitude * 52.15);
       if (expected.x() < 0.0) {
-        EXPECT_FALSE(pixelOf({latitude * degree, longitude * degree}));
+        EXPECT_FALSE(pixelOf({latitude * oneDegree, longitude * oneDegree}));
         continue;  // beyond the picture's western edge
       }
       ++crossings;
       const auto place = placeAtPixel(expected + QPointF(longitude < 0 ? 1e-6 : -1e-6, 0.0) +
                                       QPointF(0.0, latitude > 0 ? 1e-6 : -1e-6));
       ASSERT_TRUE(place) << latitude << ' ' << longitude;
-      EXPECT_NEAR(place->latitude / degree, latitude, 1e-6);
-      EXPECT_NEAR(place->longitude / degree, longitude, 1e-6);
-      const auto pixel = pixelOf({std::min(latitude * degree, northernmost),
-                                  std::clamp(longitude * degree, -easternmost, easternmost)});
+      EXPECT_NEAR(place->latitude / oneDegree, latitude, 1e-6);
+      EXPECT_NEAR(place->longitude / oneDegree, longitude, 1e-6);
+      const auto pixel = pixelOf({std::min(latitude * oneDegree, northernmost),
+                                  std::clamp(longitude * oneDegree, -easternmost, easternmost)});
       ASSERT_TRUE(pixel) << latitude << ' ' << longitude;
       EXPECT_NEAR(pixel->x(), expected.x(), 1e-9);
       EXPECT_NEAR(pixel->y(), expected.y(), 1e-9);
