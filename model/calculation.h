@@ -35,8 +35,8 @@ struct CalculationResult {
   CalculationInput input;
   Texts texts;  ///< of the documents that are held
   std::array<reports::PositionRow, astro::bodyCount> positions;
-  double nextFullMoonBaseTime;  ///< days
-  double nextNewMoonBaseTime;   ///< days
+  double nextFullMoonBaseTime = 0.0;  ///< days
+  double nextNewMoonBaseTime = 0.0;   ///< days
 };
 
 /// Computes everything. Safe from any thread.

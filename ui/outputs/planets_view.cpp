@@ -108,6 +108,7 @@ bool PlanetsView::eventFilter(QObject* watched, QEvent* event) {
 void PlanetsView::fitColumns() {
   const QAbstractItemView& texts = *table_;
   std::vector<int> widths;
+  widths.reserve(columns.size());
   for (int column = 0; column < table_->columnCount(); ++column) {
     widths.push_back(std::max(texts.sizeHintForColumn(column),
                               table_->horizontalHeader()->sectionSizeHint(column)));
@@ -125,11 +126,11 @@ void PlanetsView::copySelection() const {
     if (!table_->item(row, 0)->isSelected()) {
       continue;
     }
-    QStringList columns;
+    QStringList cells;
     for (int column = 0; column < table_->columnCount(); ++column) {
-      columns.append(table_->item(row, column)->text());
+      cells.append(table_->item(row, column)->text());
     }
-    lines.append(columns.join(QLatin1Char('\t')));
+    lines.append(cells.join(QLatin1Char('\t')));
   }
   if (lines.isEmpty()) {
     return;  // what was copied before stays
