@@ -92,7 +92,7 @@ Drawn drawnOf(MapTiles& tiles, const QRect& image, const QRect& view, const QRec
   Drawn drawn;
   CountingDevice device(view.size(), drawn);
   QPainter painter(&device);
-  tiles.draw(painter, image, view, exposed);
+  tiles.draw(painter, {.image = image, .view = view, .exposed = exposed});
   return drawn;
 }
 
