@@ -7,12 +7,10 @@
 namespace veyruna::ui {
 namespace {
 
-constexpr double radiansPerDegree = astro::pi / 180.0;
-
 struct Pick : testing::Test, tests::FakeModel {};
 
 TEST_F(Pick, RoundsToAThousandthOfADegree) {
-  pick({12.34567 * radiansPerDegree, -3.0004 * radiansPerDegree}, model);
+  pick({astro::radiansOf(12.34567), astro::radiansOf(-3.0004)}, model);
   EXPECT_EQ(model.manualLatDeg(), 12.346);
   EXPECT_EQ(model.manualLongDeg(), 3.0);
   EXPECT_TRUE(model.latNorth());
@@ -21,7 +19,7 @@ TEST_F(Pick, RoundsToAThousandthOfADegree) {
 }
 
 TEST_F(Pick, TheHemispheresFollowTheSigns) {
-  pick({-1.0 * radiansPerDegree, 2.0 * radiansPerDegree}, model);
+  pick({astro::radiansOf(-1.0), astro::radiansOf(2.0)}, model);
   EXPECT_EQ(model.manualLatDeg(), 1.0);
   EXPECT_FALSE(model.latNorth());
   EXPECT_FALSE(model.longWest());
@@ -45,16 +43,16 @@ TEST_F(Pick, SetsLatitudeThenLongitudeThenFlagsThenSelection) {
   QObject::connect(&model, &AstronomyModel::longWestChanged, note("west"));
   QObject::connect(&model, &AstronomyModel::selectedCityIDChanged, note("selection"));
   settings->groups.clear();
-  pick({12.0 * radiansPerDegree, -3.0 * radiansPerDegree}, model);
+  pick({astro::radiansOf(12.0), astro::radiansOf(-3.0)}, model);
   EXPECT_EQ(order.join(QLatin1Char(' ')).toStdString(), "latitude longitude north west selection");
   EXPECT_EQ(settings->groups.size(), 5U);
   EXPECT_FALSE(model.isCalculating());
 }
 
 TEST_F(Pick, StoresEvenWhatIsThereAlready) {
-  pick({12.0 * radiansPerDegree, -3.0 * radiansPerDegree}, model);
+  pick({astro::radiansOf(12.0), astro::radiansOf(-3.0)}, model);
   settings->groups.clear();
-  pick({12.0 * radiansPerDegree, -3.0 * radiansPerDegree}, model);
+  pick({astro::radiansOf(12.0), astro::radiansOf(-3.0)}, model);
   EXPECT_EQ(settings->groups.size(), 5U);
 }
 
