@@ -22,6 +22,7 @@ using namespace Qt::StringLiterals;
 using exports::DocumentExporter;
 using exports::OutputTab;
 using tests::bytesIn;
+using tests::reasonOf;
 
 /// The positions list as reports write it.
 QString positionsTable(const QList<model::BodyPosition>& positions) {
@@ -214,7 +215,7 @@ TEST_F(Exporting, TellsEachFailureUnderItsPrefix) {
   auto broken = exporter.pdf(OutputTab::starMap);
   broken->svg = u"<svg"_s;
   exporter.save(*broken, folder / u"a.pdf"_s, saved());
-  const QString gone = u"No such file or directory"_s;
+  const QString gone = reasonOf(ENOENT);
   EXPECT_EQ(failures.join(u'\n'), u"Error saving SVG: "_s + gone + u"\nError saving text: "_s +
                                       gone + u"\nError writing PDF: "_s + gone +
                                       u"\nError rendering PDF: "_s + outcomes.last());
@@ -228,7 +229,7 @@ TEST_F(Exporting, FailuresGoToStandardOutput) {
   testing::internal::CaptureStdout();
   plain.save(*plain.native(OutputTab::planets), folder / u"gone/°"_s);
   EXPECT_EQ(testing::internal::GetCapturedStdout(),
-            "Error saving text: No such file or directory\n");
+            "Error saving text: " + reasonOf(ENOENT).toStdString() + "\n");
 }
 
 /// A program that reads the failures must not have to wait for the window's end.

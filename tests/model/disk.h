@@ -12,6 +12,7 @@
 #include <stdexcept>
 #include <sys/mount.h>
 #include <sys/stat.h>
+#include <system_error>
 #include <unistd.h>
 
 #include "tests/model/printing.h"
@@ -19,6 +20,11 @@
 
 /// Files, users and file systems for the tests of what can go wrong with them.
 namespace veyruna::tests {
+
+/// Why the system refuses, as it says it in its language.
+inline QString reasonOf(int error) {
+  return QString::fromLocal8Bit(std::generic_category().message(error).c_str());
+}
 
 /// An empty folder of its own that everybody may read; gone at the end. In memory where the system
 /// has such a place: every save waits for the disk, and the tests save thousands of times.

@@ -111,7 +111,8 @@ RC_GTEST_PROP(MapLayout, AZoomKeepsWhatLiesUnderItsAnchor, ()) {
   const Framing before = someFraming();
   const QPointF anchor(someDouble(0, 3000), someDouble(0, 2000));
   const auto after = zoomedBy(someDouble(0, 3) + 0.5, before, anchor, view, range);
-  RC_PRE(after && after->zoom != range.least);
+  RC_PRE(after.has_value());
+  RC_PRE(after->zoom != range.least);
   const Layout from = layoutOf(view, before);
   const Layout to = layoutOf(view, *after);
   const auto part = [&anchor](const Layout& layout) {

@@ -9,8 +9,6 @@
 namespace veyruna::ui {
 namespace {
 
-constexpr double radiansPerDegree = astro::pi / 180.0;
-
 TEST(MapProjection, HasTheScalesOfItsDraughtsman) {
   EXPECT_EQ(pixelsPerLatitude, 2987.9749016072433);
   EXPECT_EQ(pixelsPerLongitude, 2992.1129301276324);
@@ -29,7 +27,7 @@ TEST(MapProjection, TheEquatorMeetsTheCentralMeridian) {
 TEST(MapProjection, TheNorthernEdgeIsSixtyDegrees) {
   const auto place = placeAtPixel({1768.0, 65.0});
   ASSERT_TRUE(place);
-  EXPECT_NEAR(place->latitude / radiansPerDegree, 60.0, 1e-12);
+  EXPECT_NEAR(astro::degreesOf(place->latitude), 60.0, 1e-12);
   EXPECT_FALSE(placeAtPixel({1768.0, 64.99}));
   EXPECT_FALSE(placeAtPixel({1768.0, 64.0}));
 }
@@ -44,12 +42,12 @@ TEST(MapProjection, TheEdgeRunsAlongTheSine) {
   // 45° west at 60° north: 2350 pixels at the equator, half of that here.
   const auto corner = placeAtPixel({593.0, 65.0});
   ASSERT_TRUE(corner);
-  EXPECT_NEAR(corner->longitude / radiansPerDegree, -45.0, 1e-9);
+  EXPECT_NEAR(astro::degreesOf(corner->longitude), -45.0, 1e-9);
   EXPECT_FALSE(placeAtPixel({592.9, 65.0}));
   EXPECT_FALSE(placeAtPixel({100.0, 100.0}));
   const auto east = placeAtPixel({4117.999, 3194.0});
   ASSERT_TRUE(east);
-  EXPECT_NEAR(east->longitude / radiansPerDegree, 45.0, 1e-3);
+  EXPECT_NEAR(astro::degreesOf(east->longitude), 45.0, 1e-3);
   EXPECT_FALSE(placeAtPixel({4118.001, 3194.0}));
 }
 
