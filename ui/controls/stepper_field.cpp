@@ -14,7 +14,7 @@ StepperField::StepperField(const QString& word, qint64 least, qint64 most, qint6
                            QWidget* parent)
     : QAbstractSpinBox(parent), word_(word), least_(least), most_(most), offset_(offset) {
   setFocusPolicy(Qt::StrongFocus);  // a wheel turned over it only scrolls
-  const QString accepted = tr("%1 %2 to %3").arg(word, textOf(least), textOf(most));
+  QString accepted = tr("%1 %2 to %3").arg(word, textOf(least), textOf(most));
   entry_ = new TypedEntry(*this, *lineEdit(),
                           {[this](const QString& text) { return read(text); },
                            [accepted](const QString& /*text*/) { return accepted; },

@@ -48,10 +48,10 @@ void ExportNotice::showProgress(const QString& line) {
   say(line);
 }
 
-void ExportNotice::showSuccess(const QString& line, const QString& folder) {
+void ExportNotice::showSuccess(const QString& line, const std::optional<QString>& folder) {
   say(line);
-  folder_ = folder;
-  openFolder_->setVisible(!folder.isEmpty());
+  folder_ = folder.value_or(QString());
+  openFolder_->setVisible(folder.has_value());
   timeout_.start();
 }
 

@@ -2,6 +2,7 @@
 
 #include <QTimer>
 #include <QWidget>
+#include <optional>
 
 class QLabel;
 class QPushButton;
@@ -19,7 +20,7 @@ class ExportNotice final : public QWidget {
   /// Stays until it is known how that ends.
   void showProgress(const QString& line);
   /// Goes after a few seconds. `folder` is where the file is, if there is one.
-  void showSuccess(const QString& line, const QString& folder = {});
+  void showSuccess(const QString& line, const std::optional<QString>& folder = std::nullopt);
   /// Stays until it is dismissed.
   void showFailure(const QString& line);
   /// The person has gone on to something else: a failure goes.
