@@ -18,10 +18,11 @@ class ChangeLog {
 
   explicit ChangeLog(model::AstronomyModel& model) {
     for (const auto& [name, signal] : signalsOfTheModel) {
-      QObject::connect(&model, signal, &model, [this, field = name] {
+      const auto note = [this, field = name] {
         names_.emplace_back(field);
         isHere_ = isHere_ && QThread::currentThread() == home_;
-      });
+      };
+      QObject::connect(&model, signal, &listener_, note, Qt::DirectConnection);
     }
   }
   ChangeLog(const ChangeLog&) = delete;
@@ -41,6 +42,8 @@ class ChangeLog {
   static constexpr std::size_t count() { return signalsOfTheModel.size(); }
 
  private:
+  QObject listener_;  ///< what is signalled after the log has gone, nobody hears
+
   using Model = model::AstronomyModel;
   struct Named {
     const char* name;
