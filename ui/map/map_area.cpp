@@ -15,7 +15,7 @@
 #include "ui/controls/named.h"
 #include "ui/map/map_marks.h"
 #include "ui/map/map_tiles.h"
-#include "ui/map/plain_key.h"
+#include "ui/controls/plain_key.h"
 #include "ui/map/translucent_label.h"
 
 namespace veyruna::ui {

@@ -17,7 +17,7 @@
 #include "ui/map/map_area.h"
 #include "ui/map/map_marks.h"
 #include "ui/map/map_pick.h"
-#include "ui/map/plain_key.h"
+#include "ui/controls/plain_key.h"
 
 namespace veyruna::ui {
 

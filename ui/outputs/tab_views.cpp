@@ -5,10 +5,10 @@
 #include <optional>
 
 #include "astro/invariant.h"
+#include "ui/charts/chart_views.h"
 #include "ui/controls/named.h"
 #include "ui/map/map_location_picker_view.h"
 #include "ui/outputs/calculated_caption.h"
-#include "ui/outputs/chart_views.h"
 #include "ui/outputs/planets_view.h"
 #include "ui/outputs/tables_view.h"
 

@@ -9,8 +9,8 @@
 #include <gtest/gtest.h>
 
 #include "tests/ui/shown_window.h"
+#include "ui/charts/svg_view.h"
 #include "ui/outputs/detailed_view.h"
-#include "ui/outputs/svg_view.h"
 #include "ui/outputs/tab_views.h"
 #include "ui/window/manual.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/outputs/svg_view.h"
+#include "ui/charts/svg_view.h"
 
 namespace veyruna::ui {
 

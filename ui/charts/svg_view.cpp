@@ -1,4 +1,4 @@
-#include "ui/outputs/svg_view.h"
+#include "ui/charts/svg_view.h"
 
 #include <QPaintEvent>
 #include <QPainter>

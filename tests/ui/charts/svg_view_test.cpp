@@ -1,5 +1,5 @@
 // A chart on its paper, as the window shows it.
-#include "ui/outputs/svg_view.h"
+#include "ui/charts/svg_view.h"
 
 #include <QImage>
 #include <gtest/gtest.h>
