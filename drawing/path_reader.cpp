@@ -218,7 +218,7 @@ std::optional<Rim> rimOf(QStringView data) {
   if (radius <= 0.0 || back->to != there->from || !isHalfTurn(*there) || !isHalfTurn(*back)) {
     return std::nullopt;
   }
-  return Rim{centre, radius, std::atan2(outward.y(), outward.x()) * astro::degreesPerRadian};
+  return Rim{centre, radius, astro::degreesOf(std::atan2(outward.y(), outward.x()))};
 }
 
 }  // namespace veyruna::drawing

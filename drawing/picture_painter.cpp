@@ -52,8 +52,7 @@ class ShapePainter {
     const GlyphRow& row = letters_.row(text.letters.text);
     const double perUnit = text.letters.size / unitsPerEm;
     const double radius = text.rim.radius;
-    const double start =
-        text.rim.beginning / astro::degreesPerRadian + text.startOffset * astro::twoPi;
+    const double start = astro::radiansOf(text.rim.beginning) + text.startOffset * astro::twoPi;
     for (const GlyphRow::Glyph& glyph : row.glyphs) {
       // The middle of a letter lies on the rim, and the letter along the rim's direction there.
       const double angle = start + (glyph.at + glyph.advance / 2.0) * perUnit / radius;
