@@ -5,11 +5,14 @@
 #include <QFile>
 #include <QTemporaryDir>
 #include <cmath>
+#include <utility>
+#include <vector>
 
 #include "fuzz/target.h"
 #include "model/astronomy_model.h"
 #include "model/id_text.h"
 #include "model/qt_settings_store.h"
+#include "model/stored_settings.h"
 #include "model/stored_value.h"
 
 using namespace veyruna;
@@ -43,22 +46,28 @@ void tryAsOneValue(const QVariant& stored) {
   }
 }
 
-QVariantList inputsOf(const model::AstronomyModel& model) {
-  for (const double number : {model.manualLatDeg(), model.manualLongDeg(), model.hour()}) {
-    promise(std::isfinite(number), "a preference is finite");
+/// A store that only keeps what it is given, so that the model itself lists its keys.
+struct Listed final : model::SettingsStore {
+  std::vector<std::pair<QString, QVariant>> values;
+
+  [[nodiscard]] QVariant stored(const QString& /*key*/) const override { return {}; }
+  void store(const std::vector<std::pair<QString, QVariant>>& group) override {
+    for (const auto& [key, value] : group) {
+      const bool isNumber = value.typeId() == QMetaType::Double;
+      promise(!isNumber || std::isfinite(value.toDouble()), "a preference is finite");
+      // Zeros compare alike whatever their sign; the text does not.
+      values.emplace_back(key, isNumber ? model::storableText(value.toDouble()) : value);
+    }
   }
-  // Zeros compare alike whatever their sign; the text does not.
-  const auto exact = [](double number) { return model::storableText(number); };
-  return {model.selectedCityID(),
-          exact(model.manualLatDeg()),
-          exact(model.manualLongDeg()),
-          model.latNorth(),
-          model.longWest(),
-          model.monthIndex(),
-          model.dayIndex(),
-          model.year(),
-          exact(model.hour()),
-          model.useLocalTime()};
+};
+
+/// Every preference in that file as the model takes it.
+std::vector<std::pair<QString, QVariant>> inputsIn(const QString& path) {
+  const model::QtSettingsStore store(path);
+  Listed inputs;
+  model::storeSettings(inputs, model::readLocationSettings(store));
+  model::storeSettings(inputs, model::readDateSettings(store));
+  return inputs.values;
 }
 
 model::AstronomyModel::Surroundings keptIn(const QString& path) {
@@ -77,10 +86,9 @@ void tryAsTheFile(const QByteArray& bytes) {
   promise(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size(), "room for a file");
   file.close();
 
-  QVariantList inputs;
+  const auto inputs = inputsIn(path);
   {
     model::AstronomyModel model(keptIn(path));
-    inputs = inputsOf(model);
     model.recalculate();
     promise(model.isCalculating() != model.errorMessage().has_value(),
             "a moment is calculated or refused");
@@ -89,8 +97,7 @@ void tryAsTheFile(const QByteArray& bytes) {
   }
   const QString elsewhere = path + QStringLiteral(".read");
   promise(QFile::rename(path, elsewhere), "preferences are written");
-  promise(inputsOf(model::AstronomyModel(keptIn(elsewhere))) == inputs,
-          "what is stored is read again");
+  promise(inputsIn(elsewhere) == inputs, "what is stored is read again");
   for (const QString& name : QDir(folder.path()).entryList(QDir::Files)) {
     QFile::remove(folder.filePath(name));
   }
