@@ -60,6 +60,11 @@ std::string coordinate(double radians, char positive, char negative) {
   return text + "°" + (radians >= 0.0 ? positive : negative);
 }
 
+/// A place's name as it stands on a line.
+QString listedName(const CityPreset& place) {
+  return QString::fromStdString(asListed(place.name.toStdString()));
+}
+
 /// Padded on the left to a number of characters; the degree sign is one.
 std::string rightAligned(const std::string& text, qsizetype width) {
   return QString::fromStdString(text).rightJustified(width).toStdString();
@@ -79,7 +84,7 @@ CityPreset placeNamed(const std::string& name) {
   if (found == places.end()) {
     std::string known;
     for (const CityPreset& place : places) {
-      known += (known.empty() ? "" : ", ") + place.name.toStdString();
+      known += (known.empty() ? "" : ", ") + listedName(place).toStdString();
     }
     throw UsageError("--location: " + inQuotes(name) + " is not a saved place; known are " + known);
   }
@@ -101,16 +106,16 @@ std::string savedPlacesText() {
   const QList<CityPreset> places = knownPlaces();
   qsizetype width = 0;
   for (const CityPreset& place : places) {
-    width = std::max(width, place.name.size());
+    width = std::max(width, listedName(place).size());
   }
   std::string text;
   for (const CityPreset& place : places) {
+    text += listedName(place).leftJustified(width).toStdString() + "  ";
     if (!model::isPlaceWithinReach(place.latitude, place.longitude)) {
-      text += place.name.leftJustified(width).toStdString() + "  not on the globe\n";
+      text += "not on the globe\n";
       continue;
     }
-    text += place.name.leftJustified(width).toStdString() + "  " +
-            rightAligned(coordinate(place.latitude, 'N', 'S'), 7) + "  " +
+    text += rightAligned(coordinate(place.latitude, 'N', 'S'), 7) + "  " +
             rightAligned(coordinate(place.longitude, 'E', 'W'), 8) + "\n";
   }
   return text;

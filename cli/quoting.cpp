@@ -50,6 +50,18 @@ bool isControl(std::string_view character) {
          (first == 0xC2 && static_cast<unsigned char>(character[1]) < 0xA0);
 }
 
+/// Whether every character of a text can stand on a line as it is.
+bool isPlain(std::string_view text) {
+  for (std::size_t done = 0; done < text.size();) {
+    const std::size_t length = characterLength(text.substr(done));
+    if (length == 0 || isControl(text.substr(done, length))) {
+      return false;
+    }
+    done += length;
+  }
+  return true;
+}
+
 void appendHexadecimal(std::string& out, std::string_view bytes) {
   constexpr std::string_view digits = "0123456789abcdef";
   for (const char byte : bytes) {
@@ -83,6 +95,10 @@ std::string inQuotes(std::string_view text) {
   }
   out += '"';
   return out;
+}
+
+std::string asListed(std::string_view name) {
+  return isPlain(name) ? std::string(name) : inQuotes(name);
 }
 
 }  // namespace veyruna::cli

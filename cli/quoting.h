@@ -10,4 +10,8 @@ namespace veyruna::cli {
 /// characters.
 std::string inQuotes(std::string_view text);
 
+/// A saved name among others: as it is, or in quotes where control characters or bytes that are no
+/// UTF-8 would break the line.
+std::string asListed(std::string_view name);
+
 }  // namespace veyruna::cli

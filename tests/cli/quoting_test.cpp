@@ -85,6 +85,18 @@ TEST(Quoting, TheControlsOfTwoBytesAreWrittenOut) {
   EXPECT_EQ(inQuotes("\xc2\x9f"), "\"\\xc2\\x9f\"");
 }
 
+TEST(Quoting, AListedNameIsQuotedOnlyWhereItWouldBreakTheLine) {
+  const std::string longName(200, 'x');
+  for (const std::string& plain :
+       {std::string("Côte d'Ebb"), std::string("a \"b\" \\c"), std::string(), longName}) {
+    EXPECT_EQ(cli::asListed(plain), plain);
+  }
+  for (const std::string_view other :
+       {"two\nlines", "\x1b[31m", "\x7f", "a\xc2\x9b", "caf\xe9", "\n"}) {
+    EXPECT_EQ(cli::asListed(other), inQuotes(other));
+  }
+}
+
 TEST(Quoting, ALongTextOfBytesIsCutTheSame) {
   const std::string bytes(200, '\x9b');
   const std::string shown = inQuotes(bytes);

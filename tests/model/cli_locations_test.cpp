@@ -129,6 +129,21 @@ TEST_F(CommandPlaces, AnUnknownNameListsTheKnownOnes) {
   }
 }
 
+TEST_F(CommandPlaces, ANameWithControlCharactersStaysOnItsLineInQuotes) {
+  writeBytes(places,
+             model::locationsText({{QUuid::createUuid(), u"Two\nlines"_s, 0.5, -0.25},
+                                   {QUuid::createUuid(), u"\u001b[31m\"Red\""_s, 0.0, 2000.0},
+                                   {QUuid::createUuid(), u"Say \"Ash\""_s, -0.001, 2.0}}));
+  EXPECT_EQ(run({"locations"}).out,
+            "Manual             40.50°N   20.90°W\n"
+            "\"\\x1b[31m\\\"Red\\\"\"  not on the globe\n"
+            "Say \"Ash\"           0.06°S  114.59°E\n"
+            "\"Two\\x0alines\"     28.65°N   14.32°W\n");
+  EXPECT_EQ(run({"--location", "Wendmark", "moment"}).err,
+            "veyruna: --location: \"Wendmark\" is not a saved place; known are Manual, "
+            "\"\\x1b[31m\\\"Red\\\"\", Say \"Ash\", \"Two\\x0alines\"\n");
+}
+
 TEST_F(CommandPlaces, ManualIsTheStoredManualFields) {
   writeBytes(preferences,
              "[General]\nAstronomyModel.latNorth=false\nAstronomyModel.longWest=0\n"
