@@ -76,6 +76,7 @@ void AstronomyModel::setInput(Group& group, Value Group::*field, const Value& va
                               Signal changed) {
   const bool changes = group.*field != value;
   group.*field = value;
+  momentSet_.reset();
   storeSettings(*settings_, group);
   if (changes) {
     Q_EMIT(this->*changed)();
@@ -138,6 +139,7 @@ bool AstronomyModel::setMoment(double baseTime) {
   date_.dayIndex = reading->dayIndex;
   date_.year = reading->year;
   date_.hour = reading->hour;
+  momentSet_ = baseTime;
   storeSettings(*settings_, date_);
   const auto signalChange = [&](auto DateSettings::*field, Signal changed) {
     if (date_.*field != before.*field) {
@@ -217,9 +219,11 @@ void AstronomyModel::deleteCity(QUuid id) {
 }
 
 bool AstronomyModel::inputsHaveChanged() const {
+  const bool isSameMoment =
+      lastHoroscopeBasetime_ == baseTime() || (momentSet_ && lastHoroscopeBasetime_ == momentSet_);
   return lastHoroscopeBasetime_ &&
-         (*lastHoroscopeBasetime_ != baseTime() || lastHoroscopeLatitude_ != effectiveLatitude() ||
-          lastHoroscopeLongitude_ != effectiveLongitude());
+         !(isSameMoment && lastHoroscopeLatitude_ == effectiveLatitude() &&
+           lastHoroscopeLongitude_ == effectiveLongitude());
 }
 
 void AstronomyModel::setHoroscopeBlackAndWhite(bool isBlackAndWhite) {
@@ -244,9 +248,9 @@ void AstronomyModel::recalculate() {
   executor_([self = QPointer<AstronomyModel>(this), input] {
     QMetaObject::invokeMethod(
         QCoreApplication::instance(),
-        [self, result = calculate(input)] {
+        [self, result = calculate(input, heldDocuments())] {
           if (self) {
-            self->publish(result);
+            self->finish(result);
           }
         },
         Qt::QueuedConnection);
@@ -283,16 +287,21 @@ void AstronomyModel::publishText(Document document, const QString& text) {
 }
 
 void AstronomyModel::publish(const CalculationResult& result) {
-  const auto& [observer, blackAndWhite] = result.input;
+  const astro::Observer& observer = result.input.observer;
+  if (result.documents.contains(Document::nextFullMoon)) {
+    nextFullMoonBaseTime_ = result.nextFullMoonBaseTime;
+  }
+  if (result.documents.contains(Document::nextNewMoon)) {
+    nextNewMoonBaseTime_ = result.nextNewMoonBaseTime;
+  }
   for (const documents::Entry& entry : documents::allDocuments) {
-    if (entry.document == Document::positions) {
+    if (entry.document == Document::positions && result.documents.contains(entry.document)) {
       positions_ = bodyPositions(result.positions, newId_);
       Q_EMIT positionsChanged();
-    } else if (entry.document == Document::nextFullMoon) {
-      nextFullMoonBaseTime_ = result.nextFullMoonBaseTime;
-      nextNewMoonBaseTime_ = result.nextNewMoonBaseTime;
     }
-    publishText(entry.document, textIn(result.texts, entry.document));
+    if (result.documents.contains(entry.document)) {
+      publishText(entry.document, textIn(result.texts, entry.document));
+    }
     if (entry.document == Document::horoscope) {
       assign(lastHoroscopeBasetime_, std::optional(observer.baseTime),
              &AstronomyModel::lastHoroscopeBasetimeChanged);
@@ -302,11 +311,31 @@ void AstronomyModel::publish(const CalculationResult& result) {
              &AstronomyModel::lastHoroscopeLongitudeChanged);
     }
   }
+  Q_EMIT published();
+}
+
+void AstronomyModel::finish(const CalculationResult& result) {
   const QPointer<AstronomyModel> self(this);  // whoever waited for the end may delete the model
-  assign(isCalculating_, false, &AstronomyModel::isCalculatingChanged);
-  if (self && horoscopeBlackAndWhite_ != blackAndWhite) {
+  publish(result);
+  if (self) {
+    assign(isCalculating_, false, &AstronomyModel::isCalculatingChanged);
+  }
+  if (self && horoscopeBlackAndWhite_ != result.input.blackAndWhite) {
     regenerateHoroscope();
   }
+}
+
+bool AstronomyModel::calculateNow(double baseTime, const QList<Document>& documents) {
+  if (isCalculating_) {
+    return false;
+  }
+  const CalculationInput input{observer().at(baseTime), horoscopeBlackAndWhite_};
+  const std::optional<QString> refusal = refusalOf(input.observer);
+  assign(errorMessage_, refusal, &AstronomyModel::errorMessageChanged);
+  if (!refusal) {
+    publish(calculate(input, documents));
+  }
+  return !refusal;
 }
 
 void AstronomyModel::regenerateHoroscope() {

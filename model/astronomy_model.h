@@ -158,7 +158,8 @@ class AstronomyModel : public QObject {
   [[nodiscard]] double lastHoroscopeLatitude() const { return lastHoroscopeLatitude_; }
   [[nodiscard]] double lastHoroscopeLongitude() const { return lastHoroscopeLongitude_; }
   /// Whether moment or place of the inputs are no longer those of the last calculation. False
-  /// before the first.
+  /// before the first, and where the inputs name that moment to the minute because setMoment set
+  /// them to it.
   [[nodiscard]] bool inputsHaveChanged() const;
   /// Not stored. The caller redraws the horoscope.
   void setHoroscopeBlackAndWhite(bool isBlackAndWhite);
@@ -167,6 +168,11 @@ class AstronomyModel : public QObject {
   /// nothing while a calculation runs. The inputs are read when isCalculating has been signalled. A
   /// moment or place beyond what is calculated only sets errorMessage.
   void recalculate();
+
+  /// Computes these documents (isHeld) of a moment (base time, days) and of the inputs' place, and
+  /// publishes them before it returns; the others stay as they were calculated last. False while a
+  /// calculation runs, which it leaves alone, and for what only sets errorMessage.
+  bool calculateNow(double baseTime, const QList<Document>& documents);
 
   /// Draws the horoscope of the last calculation's moment and place again, in colour or black and
   /// white as the flag says. Does nothing before the first calculation.
@@ -202,6 +208,8 @@ class AstronomyModel : public QObject {
   void lastHoroscopeBasetimeChanged();
   void lastHoroscopeLatitudeChanged();
   void lastHoroscopeLongitudeChanged();
+  /// All that was computed together has been signalled.
+  void published();
 
  private:
   using Signal = void (AstronomyModel::*)();
@@ -213,6 +221,7 @@ class AstronomyModel : public QObject {
   template <class Group, class Value>
   void setInput(Group& group, Value Group::*field, const Value& value, Signal changed);
   void publish(const CalculationResult& result);
+  void finish(const CalculationResult& result);
   void publishText(Document document, const QString& text);
   static Signal namedSignalOf(Document document);
 
@@ -222,6 +231,7 @@ class AstronomyModel : public QObject {
 
   LocationSettings place_;
   DateSettings date_;
+  std::optional<double> momentSet_;  ///< what setMoment set, while the inputs are left so
   SavedLocations locations_;
 
   Texts texts_;

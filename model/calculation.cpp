@@ -23,18 +23,32 @@ bool isHeld(Document document) {
   return document != Document::horoscopeOnPaper && document != Document::moment;
 }
 
-CalculationResult calculate(const CalculationInput& input) {
-  const double baseTime = input.observer.baseTime;
-  CalculationResult result{
-      input,
-      {},
-      reports::positionRows(input.observer),
-      astro::nextPhase({.start = baseTime, .elongation = astro::fullMoonElongation}),
-      astro::nextPhase({.start = baseTime, .elongation = astro::newMoonElongation})};
+QList<Document> heldDocuments() {
+  QList<Document> held;
   for (const documents::Entry& entry : documents::allDocuments) {
     if (isHeld(entry.document)) {
-      textIn(result.texts, entry.document) = textOf(entry.document, input);
+      held.append(entry.document);
     }
+  }
+  return held;
+}
+
+CalculationResult calculate(const CalculationInput& input, const QList<Document>& documents) {
+  const double baseTime = input.observer.baseTime;
+  CalculationResult result{.input = input, .documents = documents, .texts = {}, .positions = {}};
+  for (const Document document : documents) {
+    textIn(result.texts, document) = textOf(document, input);
+  }
+  if (documents.contains(Document::positions)) {
+    result.positions = reports::positionRows(input.observer);
+  }
+  if (documents.contains(Document::nextFullMoon)) {
+    result.nextFullMoonBaseTime =
+        astro::nextPhase({.start = baseTime, .elongation = astro::fullMoonElongation});
+  }
+  if (documents.contains(Document::nextNewMoon)) {
+    result.nextNewMoonBaseTime =
+        astro::nextPhase({.start = baseTime, .elongation = astro::newMoonElongation});
   }
   return result;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QList>
 #include <QString>
 #include <array>
 
@@ -30,17 +31,22 @@ inline const QString& textIn(const Texts& texts, documents::Document document) {
 /// holds the one that is shown, as the horoscope; the moment is the labels it holds.
 bool isHeld(documents::Document document);
 
-/// Every output of one moment and place.
+/// Outputs of one moment and place.
 struct CalculationResult {
   CalculationInput input;
-  Texts texts;  ///< of the documents that are held
-  std::array<reports::PositionRow, astro::bodyCount> positions;
-  double nextFullMoonBaseTime = 0.0;  ///< days
-  double nextNewMoonBaseTime = 0.0;   ///< days
+  QList<documents::Document> documents;  ///< what was computed; the rest is empty
+  Texts texts;
+  std::array<reports::PositionRow, astro::bodyCount> positions;  ///< with their document
+  double nextFullMoonBaseTime = 0.0;                             ///< days, with its label
+  double nextNewMoonBaseTime = 0.0;                              ///< days, likewise
 };
 
-/// Computes everything. Safe from any thread.
-CalculationResult calculate(const CalculationInput& input);
+/// Every document that is held.
+QList<documents::Document> heldDocuments();
+
+/// Computes these documents, of which each is held. Safe from any thread.
+CalculationResult calculate(const CalculationInput& input,
+                            const QList<documents::Document>& documents);
 
 /// The horoscope alone.
 QString calculateHoroscope(const CalculationInput& input);

@@ -137,7 +137,8 @@ TEST(Refused, ThousandRadiansAreTheLastPlace) {
   EXPECT_FALSE(model::isPlaceWithinReach(none, 0.0));
   EXPECT_FALSE(model::isPlaceWithinReach(0.0, none));
   const model::CalculationResult result =
-      model::calculate({.observer = {.baseTime = 0.25, .latitude = last, .longitude = -last}});
+      model::calculate({.observer = {.baseTime = 0.25, .latitude = last, .longitude = -last}},
+                       model::heldDocuments());
   EXPECT_TRUE(model::textIn(result.texts, documents::Document::starMap)
                   .endsWith(QStringLiteral("</svg>\n")));
 }

@@ -81,7 +81,8 @@ TEST(Threads, CalculationsAtOnceAgree) {
   std::array<model::CalculationResult, 4> results;
   std::vector<std::thread> workers;
   for (model::CalculationResult& result : results) {
-    workers.emplace_back([&result, &input] { result = model::calculate(input); });
+    workers.emplace_back(
+        [&result, &input] { result = model::calculate(input, model::heldDocuments()); });
   }
   for (std::thread& worker : workers) {
     worker.join();

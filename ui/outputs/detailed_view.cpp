@@ -26,7 +26,7 @@ DetailedView::DetailedView(model::AstronomyModel& model, QWidget* parent)
     tabs_->addWidget(view.make(model));
   }
   const auto showCaption = [this, &model] { caption_->setText(calculatedCaption(model)); };
-  connect(&model, &model::AstronomyModel::isCalculatingChanged, this, showCaption);
+  connect(&model, &model::AstronomyModel::published, this, showCaption);
   showCaption();
 }
 

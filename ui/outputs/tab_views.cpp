@@ -41,7 +41,7 @@ QWidget* followingChart(AstronomyModel& model, Document document, SVGView* view,
     const QString caption = calculatedCaption(model);
     view->setAccessibleDescription(caption.isEmpty() ? QString() : description.arg(caption));
   };
-  QObject::connect(&model, &AstronomyModel::isCalculatingChanged, view, describe);
+  QObject::connect(&model, &AstronomyModel::published, view, describe);
   describe();
   return view;
 }

@@ -45,7 +45,7 @@ CalculateArea::CalculateArea(AstronomyModel& model, QWidget* parent)
         &AstronomyModel::latNorthChanged, &AstronomyModel::longWestChanged,
         &AstronomyModel::monthIndexChanged, &AstronomyModel::dayIndexChanged,
         &AstronomyModel::yearChanged, &AstronomyModel::hourChanged,
-        &AstronomyModel::useLocalTimeChanged, &AstronomyModel::isCalculatingChanged}) {
+        &AstronomyModel::useLocalTimeChanged, &AstronomyModel::published}) {
     connect(&model_, signal, this, &CalculateArea::showDifference);
   }
   showProgress();
