@@ -32,6 +32,13 @@ inline constexpr std::size_t indexOf(Planet planet) {
   return static_cast<std::size_t>(planet);
 }
 
+/// Where the bodies stand in every list of them.
+inline constexpr std::size_t sunRow = 0;
+inline constexpr std::size_t moonRow = 1;
+inline constexpr std::size_t rowOf(Planet planet) {
+  return 2 + indexOf(planet);
+}
+
 inline constexpr PerPlanet<Planet> allPlanets = [] {
   PerPlanet<Planet> all{};
   for (std::size_t i = 0; i < planetCount; ++i) {

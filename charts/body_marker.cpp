@@ -15,6 +15,11 @@ SvgWriter& labelStyle(SvgWriter& svg, std::string_view color) {
 
 }  // namespace
 
+PagePoint labelBegin(const BodyMarker& marker) {
+  const PagePoint at = marker.at.rounded();
+  return {at.x + 2.0 * marker.size, at.y - marker.size};
+}
+
 void drawDot(SvgWriter& svg, const BodyMarker& marker) {
   if (marker.size <= 0.0) {
     return;
@@ -29,9 +34,7 @@ void drawDot(SvgWriter& svg, const BodyMarker& marker) {
 
 void drawLabel(SvgWriter& svg, const BodyMarker& marker) {
   if (marker.size != 0.0) {
-    const auto x = static_cast<double>(marker.at.roundedX());
-    const auto y = static_cast<double>(marker.at.roundedY());
-    drawLabelAt(svg, {x + 2.0 * marker.size, y - marker.size}, marker.color, marker.label);
+    drawLabelAt(svg, labelBegin(marker), marker.color, marker.label);
     return;
   }
   svg.element("text").attribute("x", marker.at.roundedX()).attribute("y", marker.at.roundedY());

@@ -17,6 +17,12 @@ struct BodyMarker {
   [[nodiscard]] bool hasLabel() const { return !label.empty() && !label.starts_with('_'); }
 };
 
+/// The size of the letters of all names.
+inline constexpr double labelSize = 5.0;
+
+/// Where the name beside a dot begins, on its base line.
+PagePoint labelBegin(const BodyMarker& marker);
+
 /// The dot at the point rounded to whole units; nothing for size 0.
 void drawDot(SvgWriter& svg, const BodyMarker& marker);
 

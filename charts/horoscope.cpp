@@ -3,6 +3,7 @@
 
 #include <array>
 #include <cmath>
+#include <optional>
 #include <string_view>
 #include <vector>
 
@@ -17,6 +18,7 @@
 #include "charts/element.h"
 #include "charts/ink.h"
 #include "charts/interpretation.h"
+#include "charts/mark_recorder.h"
 #include "charts/moon_glyph.h"
 #include "charts/svg_writer.h"
 
@@ -57,8 +59,9 @@ double midheavenOf(double siderealAngle) {
 class Horoscope {
  public:
   Horoscope(std::string& document, bool blackAndWhite, const astro::Observer& observer,
-            const StarCatalogue& catalogue)
+            const StarCatalogue& catalogue, ChartMarks* marks)
       : svg_(document),
+        marks_(marks),
         blackAndWhite_(blackAndWhite),
         observer_(observer),
         siderealAngle_(astro::localSiderealAngle(observer)),
@@ -82,7 +85,7 @@ class Horoscope {
     drawAscendant();
     drawHourAngle();
     drawCelestialPole();
-    drawInterpretation(svg_, nativity_);
+    drawInterpretation(svg_, nativity_, marks_);
     svg_.markup("</svg>\n");
   }
 
@@ -119,22 +122,44 @@ class Horoscope {
         .endEmpty();
   }
 
-  void drawBody(const astro::Vec3D& ecliptic, std::string_view label, std::string_view color,
-                double size) {
-    const BodyMarker marker{projected(ecliptic), label, ink(color), size};
+  /// What of it lies inside the wheel, where all else is cut off.
+  static DrawnMarker inWheel(DrawnMarker as) {
+    for (std::optional<Stretch>* const part : {&as.dot, &as.letters}) {
+      if (*part && (*part)->distanceTo({centre, centre}) >= discRadius) {
+        part->reset();
+      }
+    }
+    return as;
+  }
+
+  void drawMarker(const BodyMarker& marker, double longitude) {
     drawDot(svg_, marker);
     if (!marker.hasLabel()) {
       return;
     }
     if (marker.at.distance > rimDistance) {
-      drawRimLabel(marker, ecliptic.phi);
+      drawRimLabel(marker, longitude);
     } else {
       drawLabel(svg_, marker);
     }
   }
 
-  /// A name along the rim that begins at its longitude. The outer path belongs to the signs, told
-  /// by their colour.
+  /// What of a marker at this longitude is seen where.
+  [[nodiscard]] static DrawnMarker seen(const BodyMarker& marker, double longitude) {
+    DrawnMarker as = drawn(marker);
+    if (as.letters && marker.at.distance > rimDistance) {
+      as.letters = letteringAlong(rimRadiusOf(marker), longitude, marker.label, labelSize);
+    }
+    return inWheel(as);
+  }
+
+  /// The outer path belongs to the signs, told by their colour.
+  static bool isOnOuterRim(const BodyMarker& marker) { return marker.color == signColor; }
+  static double rimRadiusOf(const BodyMarker& marker) {
+    return isOnOuterRim(marker) ? 175.0 : 170.0;
+  }
+
+  /// A name along the rim that begins at its longitude.
   void drawRimLabel(const BodyMarker& marker, double longitude) {
     double percent = longitude * 50.0 / astro::pi;
     if (percent < 0.0) {
@@ -149,10 +174,18 @@ class Horoscope {
         .attribute("font-size", "5")
         .endStartTag();
     svg_.element("textPath")
-        .attribute("xlink:href", marker.color == signColor ? "#rim" : "#rim_inner")
+        .attribute("xlink:href", isOnOuterRim(marker) ? "#rim" : "#rim_inner")
         .attribute("startOffset", startOffset)
         .endInside(marker.label);
     svg_.markup("</text>\n");
+  }
+
+  void drawBody(std::size_t row, std::string_view name, const BodyMarker& marker,
+                const astro::Vec3D& ecliptic, double magnitude) {
+    drawMarker(marker, ecliptic.phi);
+    if (marks_.isRecording()) {
+      marks_.body(row, name, magnitude, ecliptic, seen(marker, ecliptic.phi));
+    }
   }
 
   /// The sun, the moon and the planets.
@@ -160,15 +193,20 @@ class Horoscope {
     constexpr double sunSize = 5.0;
     const astro::Vec3D sunAt = rotated(sun_.eq, astro::equatorialToEcliptic);
     const astro::Vec3D moonAt = rotated(moon_.eq, astro::equatorialToEcliptic);
-    drawBody(sunAt, "", shadeOf(sunColor).name, sunSize);
-    drawMoon(svg_,
-             {projected(moonAt).exact(), projected(sunAt).exact(), nativity_.moon - nativity_.sun,
-              ink(shadeOf(moonColor).name)},
-             "gray");
+    const BodyMarker sun{projected(sunAt), "", ink(shadeOf(sunColor).name), sunSize};
+    drawBody(astro::sunRow, astro::sunName, sun, sun_.ec, sunMagnitude);
+    const MoonGlyph moon{projected(moonAt).exact(), projected(sunAt).exact(),
+                         nativity_.moon - nativity_.sun, ink(shadeOf(moonColor).name)};
+    drawMoon(svg_, moon, "gray");
+    if (marks_.isRecording()) {
+      marks_.body(astro::moonRow, astro::moonName, moonMagnitude, moon_.ec, inWheel(drawn(moon)));
+    }
     for (const Planet planet : astro::allPlanets) {
       const PlanetStyle& style = styleOf(planet);
-      drawBody(astro::Vec3D(nativity_.planets[indexOf(planet)], 0.0), displayName(planet),
-               shadeOf(style.color).shade, style.size);
+      const astro::Vec3D ecliptic(nativity_.planets[indexOf(planet)], 0.0);
+      const BodyMarker marker{projected(ecliptic), displayName(planet),
+                              ink(shadeOf(style.color).shade), style.size};
+      drawBody(astro::rowOf(planet), marker.label, marker, ecliptic, planetMagnitude);
     }
   }
 
@@ -189,6 +227,10 @@ class Horoscope {
           .attribute("stroke", ink(element.color))
           .attribute("stroke-width", "0.8")
           .endEmpty();
+      if (marks_.isRecording()) {
+        marks_.chord(element.chordPlace, element.name, {from.rounded(), to.rounded(), 0.4},
+                     elementLine(element, nativity_));
+      }
     }
   }
 
@@ -203,20 +245,29 @@ class Horoscope {
   void drawSignBoundaries() {
     constexpr double innerEnd = 174.0;
     constexpr double outerEnd = 186.0;
-    for (const FixedStar& star : catalogue_.stars()) {
+    for (std::size_t i = 0; i < catalogue_.stars().size(); ++i) {
+      const FixedStar& star = catalogue_.stars()[i];
       if (star.isMarker()) {
         const double right = std::sin(star.ec.phi);
         const double up = std::cos(star.ec.phi);
-        drawLine(svg_, {centre + innerEnd * right, centre - innerEnd * up},
-                 {centre + outerEnd * right, centre - outerEnd * up}, 2, {ink(signColor), "0.8"});
+        const PagePoint inner{centre + innerEnd * right, centre - innerEnd * up};
+        const PagePoint outer{centre + outerEnd * right, centre - outerEnd * up};
+        drawLine(svg_, inner, outer, 2, {ink(signColor), "0.8"});
+        const PagePoint edge{centre + discRadius * right, centre - discRadius * up};
+        marks_.signBoundary(i, star, {inner, edge, 0.4});
       }
     }
   }
 
   void drawStars() {
-    for (const FixedStar& star : catalogue_.stars()) {
+    for (std::size_t i = 0; i < catalogue_.stars().size(); ++i) {
+      const FixedStar& star = catalogue_.stars()[i];
       if (!star.isMarker()) {
-        drawBody(star.ec, star.name, star.color, star.dotSize());
+        const BodyMarker marker{projected(star.ec), star.name, ink(star.color), star.dotSize()};
+        drawMarker(marker, star.ec.phi);
+        if (marks_.isRecording()) {
+          marks_.star(i, star, seen(marker, star.ec.phi));
+        }
       }
     }
   }
@@ -226,6 +277,7 @@ class Horoscope {
     const BodyMarker marker{projected(nativity_.ascendant, 0.0), "GEN", "black", size};
     drawDot(svg_, marker);
     drawLabel(svg_, marker);
+    marks_.ascendant(nativity_.ascendant, drawn(marker));
   }
 
   void drawHourAngle() {
@@ -256,6 +308,7 @@ class Horoscope {
   }
 
   SvgWriter svg_;
+  MarkRecorder marks_;
   bool blackAndWhite_;
   astro::Observer observer_;
   double siderealAngle_;
@@ -268,9 +321,9 @@ class Horoscope {
 }  // namespace
 
 std::string horoscope(bool blackAndWhite, const astro::Observer& observer,
-                      const StarCatalogue& catalogue) {
+                      const StarCatalogue& catalogue, ChartMarks* marks) {
   std::string document;
-  Horoscope(document, blackAndWhite, observer, catalogue).draw();
+  Horoscope(document, blackAndWhite, observer, catalogue, marks).draw();
   return document;
 }
 

@@ -1,5 +1,6 @@
 #include "charts/interpretation.h"
 
+#include <array>
 #include <cmath>
 #include <cstdint>
 #include <string>
@@ -53,63 +54,109 @@ std::string inCapitals(std::string_view name) {
   return capitals;
 }
 
-void drawText(SvgWriter& svg, std::int64_t x, std::int64_t y, std::string_view text) {
-  beginText(svg, x, y, "6").endWithText(text);
+/// What a row of an element says, from left to right.
+std::array<std::string, 4> elementTexts(const Element& element, const Nativity& nativity) {
+  std::string code;
+  appendCode(code, element.pair);
+  return {std::string(element.name), code, std::string(element.bodyPart),
+          std::string(pairStrength(nativity.planets[indexOf(element.pair.first)],
+                                   nativity.planets[indexOf(element.pair.second)]))};
 }
 
-void drawText(SvgWriter& svg, std::int64_t x, std::int64_t y, std::string_view label,
-              std::string_view verdict) {
-  drawText(svg, x, y, std::string(label).append(verdict));
-}
+/// The panel of one moment and place, drawn piece by piece.
+class Panel {
+ public:
+  Panel(SvgWriter& svg, const Nativity& nativity, MarkRecorder& marks)
+      : svg_(svg), nativity_(nativity), marks_(marks) {}
 
-void drawPlanetRows(SvgWriter& svg, const Nativity& nativity) {
-  std::int64_t y = planetRowsY;
-  for (const Planet planet : astro::allPlanets) {
-    const double longitude = nativity.planets[indexOf(planet)];
-    drawText(svg, rowX, y, withGift(std::string(displayName(planet)), planet));
-    drawText(svg, 500, y, signNameWithMeaning(longitude));
-    drawText(svg, 650, y, aspectVerdict(longitude, nativity));
-    svg.element("circle")
-        .attribute("cx", 405)
-        .attribute("cy", y - 3)
-        .attribute("r", 3)
-        .attribute("fill", shadeOf(styleOf(planet).color).name)
-        .endEmpty();
-    y += rowHeight;
+  void draw() {
+    drawText(headingX, 0, "Thessil Influence (Character)");
+    drawText(rowX, 10, "House: ", signNameWithMeaning(nativity_.sun));
+    drawText(headingX, 50, "Ivroar Influence (Fate)");
+    drawText(rowX, 60, "House: ", signNameWithMeaning(nativity_.moon));
+    drawText(rowX, 70, "Power: ", powerVerdict(nativity_.moonLatitude));
+    drawText(headingX, 100, "Planetary Influences");
+    drawPlanetRows();
+    drawText(headingX, 200, "Elemental Influences");
+    drawElementRows();
+    drawText(headingX, natalHeadingY, "Natal Forces (Origins)");
+    drawText(rowX, 300, "Dominant Sphere: ", aspectVerdict(nativity_.ascendant, nativity_));
+    drawText(rowX, 310, "Ascending Sign (Purpose): ", signNameWithMeaning(nativity_.ascendant));
+    drawText(rowX, 320, "Descending Sign (Displacement): ",
+             signNameWithMeaning(nativity_.ascendant + astro::pi));
+    drawNatalRows();
+    drawKeep();
   }
-}
 
-void drawElementRows(SvgWriter& svg, const Nativity& nativity) {
-  std::int64_t y = elementRowsY;
-  for (const Element& element : elements) {
-    drawText(svg, rowX, y, element.name);
-    svg.element("line")
-        .attribute("x1", 402)
-        .attribute("y1", y - 4)
-        .attribute("x2", 408)
-        .attribute("y2", y - 4)
-        .attribute("stroke", element.color)
-        .attribute("stroke-width", 1)
-        .endEmpty();
-    std::string code;
-    appendCode(code, element.pair);
-    drawText(svg, 500, y, code);
-    drawText(svg, 540, y, element.bodyPart);
-    drawText(svg, 640, y,
-             pairStrength(nativity.planets[indexOf(element.pair.first)],
-                          nativity.planets[indexOf(element.pair.second)]));
-    y += rowHeight;
+ private:
+  void drawText(std::int64_t x, std::int64_t y, std::string_view text) {
+    beginText(svg_, x, y, "6").endWithText(text);
+    marks_.panelText(x, y, text, 6.0);
   }
-}
 
-void drawNatalRows(SvgWriter& svg, const Nativity& nativity) {
-  std::int64_t y = natalRowsY;
-  for (const Planet planet : astro::allPlanets) {
-    drawText(svg, rowX, y, withGift(inCapitals(displayName(planet)), planet) + " - ",
-             pairStrength(nativity.planets[indexOf(planet)], nativity.ascendant));
-    y += rowHeight;
+  void drawText(std::int64_t x, std::int64_t y, std::string_view label, std::string_view verdict) {
+    drawText(x, y, std::string(label).append(verdict));
   }
-}
+
+  void drawPlanetRows() {
+    std::int64_t y = planetRowsY;
+    for (const Planet planet : astro::allPlanets) {
+      const double longitude = nativity_.planets[indexOf(planet)];
+      drawText(rowX, y, withGift(std::string(displayName(planet)), planet));
+      drawText(500, y, signNameWithMeaning(longitude));
+      drawText(650, y, aspectVerdict(longitude, nativity_));
+      svg_.element("circle")
+          .attribute("cx", 405)
+          .attribute("cy", y - 3)
+          .attribute("r", 3)
+          .attribute("fill", shadeOf(styleOf(planet).color).name)
+          .endEmpty();
+      y += rowHeight;
+    }
+  }
+
+  void drawElementRows() {
+    std::int64_t y = elementRowsY;
+    for (const Element& element : elements) {
+      const auto [name, code, bodyPart, strength] = elementTexts(element, nativity_);
+      drawText(rowX, y, name);
+      svg_.element("line")
+          .attribute("x1", 402)
+          .attribute("y1", y - 4)
+          .attribute("x2", 408)
+          .attribute("y2", y - 4)
+          .attribute("stroke", element.color)
+          .attribute("stroke-width", 1)
+          .endEmpty();
+      drawText(500, y, code);
+      drawText(540, y, bodyPart);
+      drawText(640, y, strength);
+      y += rowHeight;
+    }
+  }
+
+  void drawNatalRows() {
+    std::int64_t y = natalRowsY;
+    for (const Planet planet : astro::allPlanets) {
+      drawText(rowX, y, withGift(inCapitals(displayName(planet)), planet) + " - ",
+               pairStrength(nativity_.planets[indexOf(planet)], nativity_.ascendant));
+      y += rowHeight;
+    }
+  }
+
+  void drawKeep() {
+    if (isTwistedKeep(nativity_.planets)) {
+      beginText(svg_, headingX, keepY, "9").endWithText("Twisted Keep!");
+      marks_.panelText(headingX, keepY, "Twisted Keep!", 9.0);
+    } else {
+      drawText(headingX, keepY, "Straight Keep");
+    }
+  }
+
+  SvgWriter& svg_;
+  const Nativity& nativity_;
+  MarkRecorder& marks_;
+};
 
 }  // namespace
 
@@ -177,27 +224,16 @@ bool isTwistedKeep(const astro::PerPlanet<double>& planetLongitudes) {
   return order[0].second == order[2].second;
 }
 
-void drawInterpretation(SvgWriter& svg, const Nativity& nativity) {
-  drawText(svg, headingX, 0, "Thessil Influence (Character)");
-  drawText(svg, rowX, 10, "House: ", signNameWithMeaning(nativity.sun));
-  drawText(svg, headingX, 50, "Ivroar Influence (Fate)");
-  drawText(svg, rowX, 60, "House: ", signNameWithMeaning(nativity.moon));
-  drawText(svg, rowX, 70, "Power: ", powerVerdict(nativity.moonLatitude));
-  drawText(svg, headingX, 100, "Planetary Influences");
-  drawPlanetRows(svg, nativity);
-  drawText(svg, headingX, 200, "Elemental Influences");
-  drawElementRows(svg, nativity);
-  drawText(svg, headingX, natalHeadingY, "Natal Forces (Origins)");
-  drawText(svg, rowX, 300, "Dominant Sphere: ", aspectVerdict(nativity.ascendant, nativity));
-  drawText(svg, rowX, 310, "Ascending Sign (Purpose): ", signNameWithMeaning(nativity.ascendant));
-  drawText(svg, rowX, 320,
-           "Descending Sign (Displacement): ", signNameWithMeaning(nativity.ascendant + astro::pi));
-  drawNatalRows(svg, nativity);
-  if (isTwistedKeep(nativity.planets)) {
-    beginText(svg, headingX, keepY, "9").endWithText("Twisted Keep!");
-  } else {
-    beginText(svg, headingX, keepY, "6").endWithText("Straight Keep");
+std::string elementLine(const Element& element, const Nativity& nativity) {
+  std::string line;
+  for (const std::string& text : elementTexts(element, nativity)) {
+    line.append(line.empty() ? "" : ", ").append(text);
   }
+  return line;
+}
+
+void drawInterpretation(SvgWriter& svg, const Nativity& nativity, MarkRecorder& marks) {
+  Panel(svg, nativity, marks).draw();
 }
 
 }  // namespace veyruna::charts

@@ -1,8 +1,11 @@
 #pragma once
 
+#include <string>
 #include <string_view>
 
 #include "astro/planet.h"
+#include "charts/element.h"
+#include "charts/mark_recorder.h"
 #include "charts/svg_writer.h"
 
 namespace veyruna::charts {
@@ -32,7 +35,10 @@ std::string_view powerVerdict(double moonLatitude);
 /// Whether the planets' two groups (1 and 3, 2 and 4) alternate around the circle.
 bool isTwistedKeep(const astro::PerPlanet<double>& planetLongitudes);
 
-/// The panel to the right of the wheel.
-void drawInterpretation(SvgWriter& svg, const Nativity& nativity);
+/// What the panel's row of an element says, from name to strength, with commas between.
+std::string elementLine(const Element& element, const Nativity& nativity);
+
+/// The panel to the right of the wheel; its lines are told to `marks`.
+void drawInterpretation(SvgWriter& svg, const Nativity& nativity, MarkRecorder& marks);
 
 }  // namespace veyruna::charts

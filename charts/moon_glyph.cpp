@@ -49,7 +49,16 @@ std::string rotationTowardSun(const MoonGlyph& moon) {
   return transform;
 }
 
+PagePoint moonLabelBegin(const MoonGlyph& moon) {
+  return {moon.at.x + 2.0 * moonRadius, moon.at.y - moonRadius};
+}
+
 }  // namespace
+
+DrawnMarker drawn(const MoonGlyph& moon) {
+  return {Stretch{moon.at, moon.at, moonRadius},
+          letteringAt(moonLabelBegin(moon), moonLabel, labelSize)};
+}
 
 void drawMoon(SvgWriter& svg, const MoonGlyph& moon, std::string_view labelColor) {
   svg.element("g").attribute("transform", rotationTowardSun(moon)).endStartTag();
@@ -61,7 +70,7 @@ void drawMoon(SvgWriter& svg, const MoonGlyph& moon, std::string_view labelColor
       .endEmpty();
   svg.element("path").attribute("d", litOutline(moon)).attribute("fill", moon.litColor).endEmpty();
   svg.markup("</g>\n");
-  drawLabelAt(svg, {moon.at.x + 2.0 * moonRadius, moon.at.y - moonRadius}, labelColor, "IVRO");
+  drawLabelAt(svg, moonLabelBegin(moon), labelColor, moonLabel);
 }
 
 }  // namespace veyruna::charts

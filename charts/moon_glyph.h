@@ -2,6 +2,7 @@
 
 #include <string_view>
 
+#include "charts/mark_recorder.h"
 #include "charts/projection.h"
 #include "charts/svg_writer.h"
 
@@ -16,7 +17,13 @@ struct MoonGlyph {
   std::string_view litColor;
 };
 
-/// Draws the moon; the name "IVRO" beside it is drawn in `labelColor`.
+/// The moon's name as the charts write it.
+inline constexpr std::string_view moonLabel = "IVRO";
+
+/// Where the moon and its name are drawn.
+DrawnMarker drawn(const MoonGlyph& moon);
+
+/// Draws the moon; its name beside it is drawn in `labelColor`.
 void drawMoon(SvgWriter& svg, const MoonGlyph& moon, std::string_view labelColor);
 
 }  // namespace veyruna::charts

@@ -31,6 +31,9 @@ struct ProjectedPoint {
   /// Rounded to whole units, halves away from zero.
   [[nodiscard]] std::int64_t roundedX() const;
   [[nodiscard]] std::int64_t roundedY() const;
+  [[nodiscard]] PagePoint rounded() const {
+    return {static_cast<double>(roundedX()), static_cast<double>(roundedY())};
+  }
 };
 
 /// Where the direction with these angles (radians) is drawn.

@@ -16,6 +16,7 @@
 #include "charts/body_style.h"
 #include "charts/chart_frame.h"
 #include "charts/ink.h"
+#include "charts/mark_recorder.h"
 #include "charts/moon_glyph.h"
 #include "charts/svg_writer.h"
 
@@ -36,8 +37,13 @@ using VisiblePoint = std::optional<ProjectedPoint>;
 /// The sky of one moment and place, drawn piece by piece.
 class StarMap {
  public:
-  StarMap(std::string& document, const astro::Observer& observer, const StarCatalogue& catalogue)
-      : svg_(document), observer_(observer), horizon_(observer), catalogue_(catalogue) {
+  StarMap(std::string& document, const astro::Observer& observer, const StarCatalogue& catalogue,
+          ChartMarks* marks)
+      : svg_(document),
+        marks_(marks),
+        observer_(observer),
+        horizon_(observer),
+        catalogue_(catalogue) {
     starPoints_.reserve(catalogue.stars().size());
     for (const FixedStar& star : catalogue.stars()) {
       starPoints_.push_back(visiblePoint(star.eq));
@@ -97,15 +103,17 @@ class StarMap {
   }
 
   void drawSignBoundaries() {
-    for (const FixedStar& star : catalogue_.stars()) {
+    for (std::size_t i = 0; i < starPoints_.size(); ++i) {
+      const FixedStar& star = catalogue_.stars()[i];
       if (star.isMarker()) {
-        drawTick(star.ec.phi);
+        drawTick(i, star);
       }
     }
   }
 
-  /// A short line across the ecliptic at longitude λ.
-  void drawTick(double longitude) {
+  /// A short line across the ecliptic at the longitude λ of a sign's marker.
+  void drawTick(std::size_t place, const FixedStar& marker) {
+    const double longitude = marker.ec.phi;
     constexpr double chordHalfAngle = 0.01;
     constexpr double shortestChord = 1e-6;
     constexpr double halfLength = 2.0;
@@ -126,8 +134,10 @@ class StarMap {
     const PagePoint middle = at->exact();
     const double nx = halfLength * -dy / length;
     const double ny = halfLength * dx / length;
-    drawLine(svg_, {middle.x - nx, middle.y - ny}, {middle.x + nx, middle.y + ny}, 2,
-             {eclipticColor, "0.8"});
+    const PagePoint begin{middle.x - nx, middle.y - ny};
+    const PagePoint end{middle.x + nx, middle.y + ny};
+    drawLine(svg_, begin, end, 2, {eclipticColor, "0.8"});
+    marks_.signBoundary(place, marker, {begin, end, 0.4});
   }
 
   void drawConstellations() {
@@ -140,12 +150,7 @@ class StarMap {
     }
   }
 
-  void drawBody(const VisiblePoint& at, std::string_view label, std::string_view color,
-                double size) {
-    if (!at) {
-      return;
-    }
-    const BodyMarker marker{*at, label, color, size};
+  void drawMarker(const BodyMarker& marker) {
     drawDot(svg_, marker);
     if (marker.hasLabel()) {
       drawLabel(svg_, marker);
@@ -155,33 +160,54 @@ class StarMap {
   void drawStars() {
     for (std::size_t i = 0; i < starPoints_.size(); ++i) {
       const FixedStar& star = catalogue_.stars()[i];
-      if (!star.isMarker()) {
-        drawBody(starPoints_[i], star.name, star.color, star.dotSize());
+      if (starPoints_[i] && !star.isMarker()) {
+        const BodyMarker marker{*starPoints_[i], star.name, star.color, star.dotSize()};
+        drawMarker(marker);
+        if (marks_.isRecording()) {
+          marks_.star(i, star, drawn(marker));
+        }
       }
     }
   }
 
   /// The sun, the moon and the planets.
   void drawWanderers() {
+    const astro::Sun sun(observer_.baseTime);
+    drawSun(sun);
+    drawMoonOf(sun);
+    for (const astro::Planet planet : astro::allPlanets) {
+      const astro::Vec3D ecliptic = planetEcliptic(planet, observer_.baseTime, sun);
+      if (const auto at = visiblePoint(rotated(ecliptic, astro::eclipticToEquatorial))) {
+        const PlanetStyle& style = styleOf(planet);
+        const BodyMarker marker{*at, displayName(planet), shadeOf(style.color).shade, style.size};
+        drawMarker(marker);
+        marks_.body(astro::rowOf(planet), marker.label, planetMagnitude, ecliptic, drawn(marker));
+      }
+    }
+  }
+
+  void drawSun(const astro::Sun& sun) {
     constexpr double sunSize = 3.57;
-    const double t = observer_.baseTime;
-    const astro::Sun sun(t);
-    const astro::Moon moon(t);
-    drawBody(visiblePoint(sun.eq), "", shadeOf(sunColor).shade, sunSize);
+    if (const VisiblePoint at = visiblePoint(sun.eq)) {
+      const BodyMarker marker{*at, "", shadeOf(sunColor).shade, sunSize};
+      drawMarker(marker);
+      marks_.body(astro::sunRow, astro::sunName, sunMagnitude, sun.ec, drawn(marker));
+    }
+  }
+
+  void drawMoonOf(const astro::Sun& sun) {
+    const astro::Moon moon(observer_.baseTime);
     if (const VisiblePoint at = visiblePoint(moon.eq)) {
       constexpr std::string_view white = shadeOf(moonColor).name;
       const PagePoint sunPoint = projected(horizon_.toHorizon(sun.eq)).exact();
-      drawMoon(svg_, {at->exact(), sunPoint, moon.ec.phi - sun.ec.phi, white}, white);
-    }
-    for (const astro::Planet planet : astro::allPlanets) {
-      const astro::Vec3D ecliptic = planetEcliptic(planet, t, sun);
-      const PlanetStyle& style = styleOf(planet);
-      drawBody(visiblePoint(rotated(ecliptic, astro::eclipticToEquatorial)), displayName(planet),
-               shadeOf(style.color).shade, style.size);
+      const MoonGlyph glyph{at->exact(), sunPoint, moon.ec.phi - sun.ec.phi, white};
+      drawMoon(svg_, glyph, white);
+      marks_.body(astro::moonRow, astro::moonName, moonMagnitude, moon.ec, drawn(glyph));
     }
   }
 
   SvgWriter svg_;
+  MarkRecorder marks_;
   astro::Observer observer_;
   astro::HorizonFrame horizon_;
   const StarCatalogue& catalogue_;
@@ -190,9 +216,10 @@ class StarMap {
 
 }  // namespace
 
-std::string starMap(const astro::Observer& observer, const StarCatalogue& catalogue) {
+std::string starMap(const astro::Observer& observer, const StarCatalogue& catalogue,
+                    ChartMarks* marks) {
   std::string document;
-  StarMap(document, observer, catalogue).draw();
+  StarMap(document, observer, catalogue, marks).draw();
   return document;
 }
 

@@ -31,6 +31,18 @@ std::string horoscopeOnPaper(const Observer& observer, const TableSize& /*size*/
   return charts::horoscope(true, observer, charts::builtInCatalogue());
 }
 
+charts::ChartMarks starMapMarks(const Observer& observer) {
+  charts::ChartMarks marks;
+  charts::starMap(observer, charts::builtInCatalogue(), &marks);
+  return marks;
+}
+
+charts::ChartMarks horoscopeMarks(const Observer& observer) {
+  charts::ChartMarks marks;
+  charts::horoscope(false, observer, charts::builtInCatalogue(), &marks);
+  return marks;
+}
+
 std::string ephemeris(const Observer& observer, const TableSize& size) {
   return reports::ephemerisTable(observer, size);
 }
@@ -75,11 +87,13 @@ constexpr TableSize none;
 // A table's size stands beside its summary, which says it in words.
 constexpr std::array<Entry, documentCount> allDocuments = {{
     {Document::starMap, "star-map", "star-map.svg", "Star Map", "The sky above the place, as SVG",
-     Kind::chart, none, starMap},
+     Kind::chart, none, starMap, 0, starMapMarks},
     {Document::horoscope, "horoscope", "horoscope.svg", "Horoscope",
-     "The horoscope with its interpretation, as SVG", Kind::chart, none, horoscope},
+     "The horoscope with its interpretation, as SVG", Kind::chart, none, horoscope, 0,
+     horoscopeMarks},
     {Document::horoscopeOnPaper, "", "horoscope-black-and-white.svg", "Horoscope, black on white",
-     "The horoscope black on white, as SVG", Kind::chart, none, horoscopeOnPaper},
+     "The horoscope black on white, as SVG", Kind::chart, none, horoscopeOnPaper, 0,
+     horoscopeMarks},
     {Document::hourly, "hourly", "ephemeris-hourly.txt", "Hourly", "Moon and sun for 24 hours",
      Kind::table, TableSize{24, 1.0 / 24.0}, ephemeris, 1},
     {Document::monthly, "monthly", "ephemeris-monthly.txt", "Monthly", "Moon and sun for 30 days",
@@ -117,6 +131,7 @@ constexpr bool isComplete(const Entry& entry) {
   const bool isLabel = entry.kind == Kind::label;
   return !entry.heading.empty() && !entry.summary.empty() && entry.write != nullptr &&
          (entry.size.rows > 0) == isTable && (entry.size.stepDays > 0.0) == isTable &&
+         (entry.marks != nullptr) == (entry.kind == Kind::chart) &&
          entry.fileName.empty() == isLabel && (!isLabel || entry.command.empty());
 }
 static_assert(std::ranges::all_of(allDocuments, isComplete), "something of a document is not said");
@@ -145,6 +160,11 @@ const Entry& entryOf(Document document) {
 std::string textOf(Document document, const Observer& observer) {
   const Entry& entry = entryOf(document);
   return entry.write(observer, entry.size);
+}
+
+charts::ChartMarks marksOf(Document document, const Observer& observer) {
+  const Entry& entry = entryOf(document);
+  return entry.marks == nullptr ? charts::ChartMarks() : entry.marks(observer);
 }
 
 }  // namespace veyruna::documents

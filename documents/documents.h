@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "astro/observer.h"
+#include "charts/chart_mark.h"
 #include "reports/table_size.h"
 
 /// All that is written of one moment and place, a row each in one table. Whoever lists documents
@@ -49,6 +50,7 @@ struct Entry {
   reports::TableSize size;  ///< of a table; of anything else, nothing
   std::string (*write)(const astro::Observer& observer, const reports::TableSize& size) = nullptr;
   int columnHeadingLines = 0;  ///< how many of its first lines head its columns
+  charts::ChartMarks (*marks)(const astro::Observer& observer) = nullptr;  ///< of a chart
 };
 
 /// Every document, in their order.
@@ -59,5 +61,8 @@ const Entry& entryOf(Document document);
 
 /// The document of that moment and place, whole, in UTF-8. Safe from any thread.
 std::string textOf(Document document, const astro::Observer& observer);
+
+/// What that chart shows where; nothing of what is no chart. Safe from any thread.
+charts::ChartMarks marksOf(Document document, const astro::Observer& observer);
 
 }  // namespace veyruna::documents

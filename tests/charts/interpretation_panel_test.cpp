@@ -20,7 +20,8 @@ const Nativity someone = {radians(20.0),
 std::vector<tests::XmlElement> panelOf(const Nativity& nativity) {
   std::string document = "<svg>";
   SvgWriter svg(document);
-  drawInterpretation(svg, nativity);
+  MarkRecorder unseen(nullptr);
+  drawInterpretation(svg, nativity, unseen);
   return tests::readXml(document + "</svg>");
 }
 

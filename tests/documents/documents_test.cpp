@@ -144,5 +144,14 @@ TEST(DocumentsForPeople, ATablesStepAndRowsAreSaidAsTheyAre) {
   }
 }
 
+TEST(Documents, OfEveryChartItIsKnownWhatItShowsWhere) {
+  const astro::Observer observer{1000.25, 0.7, -0.3};
+  for (const Entry& entry : allDocuments) {
+    const charts::ChartMarks marks = documents::marksOf(entry.document, observer);
+    EXPECT_EQ(marks.size() > 100, entry.kind == Kind::chart) << entry.heading;
+    EXPECT_EQ(marks.empty(), entry.kind != Kind::chart) << entry.heading;
+  }
+}
+
 }  // namespace
 }  // namespace veyruna
