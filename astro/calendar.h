@@ -14,6 +14,9 @@ inline constexpr int monthsPerYear = 12;
 inline constexpr int daysPerMonth = 30;
 inline constexpr int daysPerYear = 360;
 
+/// The beginning of day 1 of month 1 of year 1.
+inline constexpr double firstMidnight = -0.5;
+
 inline constexpr std::array<std::string_view, monthsPerYear> monthNames = {
     "Brenwic", "Tolma",  "Dovri", "Ambro", "Fiskel", "Ulvenhar",
     "Cendo",   "Virela", "Grend", "Oskam", "Rulig",  "Thaven"};

@@ -43,7 +43,7 @@ QVariant QtSettingsStore::stored(const QString& key) const {
   return settings_.value(key);
 }
 
-void QtSettingsStore::store(const std::vector<std::pair<QString, QVariant>>& group) {
+void QtSettingsStore::store(const Group& group) {
   waiting_.insert(waiting_.end(), group.begin(), group.end());
   if (!keepsAsideWhatIsUnreadable() || !hasRoom()) {
     return;

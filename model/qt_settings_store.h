@@ -22,14 +22,14 @@ class QtSettingsStore final : public SettingsStore {
   explicit QtSettingsStore(const QString& path);
 
   [[nodiscard]] QVariant stored(const QString& key) const override;
-  void store(const std::vector<std::pair<QString, QVariant>>& group) override;
+  void store(const Group& group) override;
 
  private:
   [[nodiscard]] bool keepsAsideWhatIsUnreadable();
   [[nodiscard]] bool hasRoom() const;
 
   QSettings settings_;
-  std::vector<std::pair<QString, QVariant>> waiting_;  ///< not handed to settings_ yet
+  Group waiting_;         ///< not handed to settings_ yet
   QByteArray keptAside_;  ///< the unreadable content that was copied last
 };
 

@@ -15,11 +15,13 @@ class SettingsStore {
   SettingsStore& operator=(const SettingsStore&) = delete;
   virtual ~SettingsStore() = default;
 
+  using Group = std::vector<std::pair<QString, QVariant>>;
+
   /// What is stored under the key, as it was stored or as text; invalid where nothing is.
   [[nodiscard]] virtual QVariant stored(const QString& key) const = 0;
 
   /// Stores a group of values together.
-  virtual void store(const std::vector<std::pair<QString, QVariant>>& group) = 0;
+  virtual void store(const Group& group) = 0;
 };
 
 }  // namespace veyruna::model

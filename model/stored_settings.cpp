@@ -77,7 +77,7 @@ Settings readSettings(const SettingsStore& store) {
 
 template <class Settings>
 void storeGroup(SettingsStore& store, const Settings& settings) {
-  std::vector<std::pair<QString, QVariant>> group;
+  SettingsStore::Group group;
   forEachField(settings, [&group](const char* key, const auto& field) {
     group.emplace_back(QString::fromLatin1(key), toStored(field));
   });

@@ -17,8 +17,6 @@ namespace veyruna::tests {
 /// Preferences in memory. Remembers every group that was stored.
 class MemorySettings final : public model::SettingsStore {
  public:
-  using Group = std::vector<std::pair<QString, QVariant>>;
-
   [[nodiscard]] QVariant stored(const QString& key) const override { return values.value(key); }
   void store(const Group& group) override {
     groups.push_back(group);
