@@ -1,9 +1,9 @@
 #pragma once
 
-#include <QAccessible>
 #include <QApplication>
 #include <QVBoxLayout>
 
+#include "ui/controls/alert.h"
 #include "ui/controls/small_type.h"
 #include "ui/controls/warning_label.h"
 
@@ -18,10 +18,7 @@ class FieldNote final : public WarningLabel {
   /// Empty says nothing.
   void say(const QString& note) {
     setText(note);
-    if (!note.isEmpty()) {
-      QAccessibleEvent alert(this, QAccessible::Alert);
-      QAccessible::updateAccessibility(&alert);
-    }
+    alert(*this);
   }
 
  protected:

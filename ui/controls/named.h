@@ -1,15 +1,21 @@
 #pragma once
 
+#include <QLabel>
 #include <QString>
-#include <QWidget>
+#include <concepts>
 
 namespace veyruna::ui {
 
-/// Gives a control the name a screen reader speaks and the name a test finds it by.
+/// Gives a control the name a screen reader speaks and the name a test finds it by. A label's text
+/// is what is spoken of it, so there the name is a remark beside it.
 template <class Control>
-Control* named(Control* control, const char* objectName, const QString& accessibleName) {
+Control* named(Control* control, const char* objectName, const QString& spoken) {
   control->setObjectName(QString::fromLatin1(objectName));
-  control->setAccessibleName(accessibleName);
+  if constexpr (std::derived_from<Control, QLabel>) {
+    control->setAccessibleDescription(spoken);
+  } else {
+    control->setAccessibleName(spoken);
+  }
   return control;
 }
 

@@ -5,6 +5,7 @@
 #include <QShortcut>
 #include <QVBoxLayout>
 
+#include "ui/controls/alert.h"
 #include "ui/controls/named.h"
 #include "ui/controls/small_type.h"
 #include "ui/controls/warning_label.h"
@@ -75,6 +76,7 @@ void CalculateArea::showProgress() {
 void CalculateArea::showError() {
   error_->setText(model_.errorMessage().value_or(QString()));
   error_->setVisible(model_.errorMessage().has_value());
+  alert(*error_);
 }
 
 void CalculateArea::showDifference() {

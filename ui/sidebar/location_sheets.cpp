@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <variant>
 
+#include "ui/controls/alert.h"
 #include "ui/controls/destructive_button.h"
 #include "ui/controls/named.h"
 #include "ui/controls/warning_label.h"
@@ -86,6 +87,7 @@ void SaveLocationSheet::save() {
   if (const auto* const refusal = std::get_if<model::LocationError>(&outcome)) {
     error_->setText(refusal->description());
     error_->show();
+    alert(*error_);
     fitHeight(*this);
     name_->setFocus();
     return;

@@ -1,6 +1,5 @@
 #include "ui/window/export_notice.h"
 
-#include <QAccessible>
 #include <QDesktopServices>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -8,6 +7,7 @@
 #include <QUrl>
 #include <chrono>
 
+#include "ui/controls/alert.h"
 #include "ui/controls/icons.h"
 #include "ui/controls/named.h"
 #include "ui/controls/shades.h"
@@ -78,10 +78,7 @@ void ExportNotice::say(const QString& line) {
   // Not as markup, whatever the file is called.
   line_->setToolTip(line.isEmpty() ? QString()
                                    : QStringLiteral("<p>%1</p>").arg(line.toHtmlEscaped()));
-  if (!line.isEmpty()) {
-    QAccessibleEvent news(line_, QAccessible::Alert);
-    QAccessible::updateAccessibility(&news);
-  }
+  alert(*line_);
 }
 
 }  // namespace veyruna::ui

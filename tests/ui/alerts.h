@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QStringList>
+#include <utility>
+
+#include "ui/controls/alert.h"
+
+namespace veyruna::tests {
+
+/// Stands in for a screen reader while it lives: hears what calls for attention unasked. There is
+/// one at a time.
+class Alerts {
+ public:
+  Alerts() : former_(ui::installAlertHandler(&hear)) { heard_.clear(); }
+  ~Alerts() { ui::installAlertHandler(former_); }
+  Alerts(const Alerts&) = delete;
+  Alerts& operator=(const Alerts&) = delete;
+
+  /// Who hears otherwise.
+  [[nodiscard]] QAccessible::UpdateHandler former() const { return former_; }
+
+  /// What is spoken for each that has called since the last time, in order.
+  static QStringList heard() { return std::exchange(heard_, {}); }
+
+ private:
+  static void hear(QAccessibleEvent* event) {
+    const QAccessibleInterface* const what = event->accessibleInterface();
+    heard_.append(event->type() != QAccessible::Alert ? QStringLiteral("(no alert)")
+                  : what == nullptr                   ? QStringLiteral("(nothing)")
+                                                      : what->text(QAccessible::Name));
+  }
+
+  static inline QStringList heard_;
+  QAccessible::UpdateHandler former_;
+};
+
+}  // namespace veyruna::tests

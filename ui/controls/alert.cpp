@@ -1,0 +1,26 @@
+#include "ui/controls/alert.h"
+
+#include <QLabel>
+#include <utility>
+
+namespace veyruna::ui {
+
+namespace {
+
+QAccessible::UpdateHandler alertHandler = &QAccessible::updateAccessibility;
+
+}  // namespace
+
+void alert(QLabel& label) {
+  if (label.text().isEmpty()) {
+    return;
+  }
+  QAccessibleEvent event(&label, QAccessible::Alert);
+  alertHandler(&event);
+}
+
+QAccessible::UpdateHandler installAlertHandler(QAccessible::UpdateHandler handler) {
+  return std::exchange(alertHandler, handler);
+}
+
+}  // namespace veyruna::ui
