@@ -23,11 +23,6 @@ constexpr FileType pdfFile{u"pdf", u"Choose where to save the PDF file"};
 constexpr FileType svgFile{u"svg", u"Choose where to save the SVG file"};
 constexpr FileType textFile{u"txt", u"Choose where to save the text file"};
 
-QString headingOf(documents::Document document) {
-  const std::string_view heading = documents::entryOf(document).heading;
-  return QString::fromUtf8(heading.data(), static_cast<qsizetype>(heading.size()));
-}
-
 /// The chart of a tab that has one.
 QString chartSvg(const AstronomyModel& model, const TabEntry& tab) {
   return model.text(tab.sections.front().document);
@@ -36,7 +31,7 @@ QString chartSvg(const AstronomyModel& model, const TabEntry& tab) {
 Report reportOf(const AstronomyModel& model, const TabEntry& tab) {
   Report report{tab.reportTitle.toString(), metaText(model), {}};
   for (const TabSection& section : tab.sections) {
-    report.sections.append({headingOf(section.document), model.text(section.document),
+    report.sections.append({heading(section.document), model.text(section.document),
                             documents::entryOf(section.document).columnHeadingLines});
   }
   return report;
@@ -49,8 +44,8 @@ QString tablesText(const AstronomyModel& model, const TabEntry& tab) {
   }
   QStringList tables;
   for (const auto& [document, ownHeading] : tab.sections) {
-    const QString heading = ownHeading.isEmpty() ? headingOf(document) : ownHeading.toString();
-    tables.append(QStringLiteral("— ") + heading + QStringLiteral(" —\n\n") + model.text(document));
+    const QString shown = ownHeading.isEmpty() ? heading(document) : ownHeading.toString();
+    tables.append(QStringLiteral("— ") + shown + QStringLiteral(" —\n\n") + model.text(document));
   }
   return tables.join(QStringLiteral("\n\n"));
 }

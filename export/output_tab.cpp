@@ -71,6 +71,11 @@ QString title(OutputTab tab) {
   return entryOf(tab).title.toString();
 }
 
+QString heading(Document document) {
+  const std::string_view text = documents::entryOf(document).heading;
+  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
 bool isChart(OutputTab tab) {
   const std::span<const TabSection> sections = entryOf(tab).sections;
   return !sections.empty() &&

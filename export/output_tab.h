@@ -49,6 +49,9 @@ const TabEntry& entryOf(OutputTab tab);
 /// What a person reads on the tab: "Star Map", "Thessil System" and so on.
 QString title(OutputTab tab);
 
+/// What a person reads over the document: "Hourly", "Next full moon" and so on.
+QString heading(documents::Document document);
+
 /// Whether the tab shows a chart, which is saved as a picture; the others are saved as text.
 bool isChart(OutputTab tab);
 

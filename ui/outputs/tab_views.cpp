@@ -66,21 +66,16 @@ QWidget* makePlanets(AstronomyModel& model) {
 }
 
 QWidget* makeSunMoon(AstronomyModel& model) {
-  auto* const view = new TablesView;
+  // Nothing is calculated by it.
+  auto* const view = new TablesView([&model](Document moon) {
+    const std::optional<double> moment =
+        moon == Document::nextFullMoon ? model.nextFullMoonBaseTime() : model.nextNewMoonBaseTime();
+    return moment && model.setMoment(*moment);
+  });
   follow(model, view, {Document::hourly, Document::monthly},
          [&model, view] { view->show(model.basicTableHourly(), model.basicTableMonthly()); });
   follow(model, view, {Document::nextFullMoon, Document::nextNewMoon},
          [&model, view] { view->showMoons(model.nextFullMoonLabel(), model.nextNewMoonLabel()); });
-  // Nothing is calculated by it. Where no inputs name the moment, they stay as they are.
-  const auto setMoment = [&model](std::optional<double> baseTime) {
-    if (baseTime) {
-      model.setMoment(*baseTime);
-    }
-  };
-  QObject::connect(view, &TablesView::fullMoonChosen, &model,
-                   [&model, setMoment] { setMoment(model.nextFullMoonBaseTime()); });
-  QObject::connect(view, &TablesView::newMoonChosen, &model,
-                   [&model, setMoment] { setMoment(model.nextNewMoonBaseTime()); });
   return view;
 }
 

@@ -2,6 +2,8 @@
 
 #include <QWidget>
 
+#include "export/output_tab.h"
+
 class QButtonGroup;
 class QVBoxLayout;
 
@@ -12,12 +14,9 @@ class MonospacedTextView;
 /// Two tables of which one is shown, chosen by two buttons side by side.
 class TablePair : public QWidget {
  public:
-  struct Texts {
-    QString first;
-    QString second;
-    QString placeholder;
-  };
-  explicit TablePair(const Texts& titles, QWidget* parent = nullptr);
+  /// The tab saves two tables, which are called here as there; the placeholder stands for them
+  /// until there are any.
+  TablePair(exports::OutputTab tab, const QString& placeholder, QWidget* parent = nullptr);
 
   void show(const QString& first, const QString& second);
 

@@ -4,51 +4,61 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <utility>
 
+#include "ui/controls/field_note.h"
 #include "ui/controls/named.h"
 
 namespace veyruna::ui {
 
-TablesView::TablesView()
-    : TablePair({tr("Hourly"), tr("Monthly"), tr("No table data")}),
-      nextFullMoon_(named(new QLabel, "nextFullMoon", tr("Next full moon"))),
-      nextNewMoon_(named(new QLabel, "nextNewMoon", tr("Next new moon"))) {
-  for (QLabel* const label : {nextFullMoon_, nextNewMoon_}) {
-    label->setTextInteractionFlags(Qt::TextSelectableByMouse);
-  }
+using documents::Document;
+
+TablesView::TablesView(SetMoon setMoon)
+    : TablePair(exports::OutputTab::sunMoon, tr("No table data")), setMoon_(std::move(setMoon)) {
   auto* const moons = new QWidget;
   auto* const lines = new QFormLayout(moons);
   lines->setContentsMargins({});
-  setFullMoon_ = addMoon(lines, tr("Next full moon:"), nextFullMoon_, "setFullMoon",
-                         tr("Set the inputs to the next full moon"));
-  setNewMoon_ = addMoon(lines, tr("Next new moon:"), nextNewMoon_, "setNewMoon",
-                        tr("Set the inputs to the next new moon"));
+  lines->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+  fullMoon_ = addMoon(lines, Document::nextFullMoon, "nextFullMoon", "setFullMoon",
+                      tr("Set the inputs to the next full moon"));
+  newMoon_ = addMoon(lines, Document::nextNewMoon, "nextNewMoon", "setNewMoon",
+                     tr("Set the inputs to the next new moon"));
   addFooter(moons);
   showMoons({}, {});
-  connect(setFullMoon_, &QPushButton::clicked, this, &TablesView::fullMoonChosen);
-  connect(setNewMoon_, &QPushButton::clicked, this, &TablesView::newMoonChosen);
 }
 
-QPushButton* TablesView::addMoon(QFormLayout* lines, const QString& title, QLabel* moment,
-                                 const char* buttonName, const QString& does) {
-  auto* const button = named(new QPushButton(tr("Set")), buttonName, does);
-  button->setToolTip(does);
+TablesView::Moon TablesView::addMoon(QFormLayout* lines, Document moon, const char* name,
+                                     const char* buttonName, const QString& does) {
+  const QString title = exports::heading(moon);
+  auto* const moment = named(new QLabel, name, title);
+  moment->setTextInteractionFlags(Qt::TextSelectableByMouse);
+  auto* const set = named(new QPushButton(tr("Set")), buttonName, does);
+  set->setToolTip(does);
+  auto* const note = named(new FieldNote, "moonNote", tr("Why the moment could not be set"));
   auto* const row = new QHBoxLayout;
   row->addWidget(moment);
-  row->addWidget(button);
-  row->addStretch();
-  lines->addRow(title, row);
-  return button;
+  row->addWidget(set);
+  row->addWidget(note, 1);
+  lines->addRow(title + QLatin1Char(':'), row);
+  connect(set, &QPushButton::clicked, this, [this, moon, note] {
+    note->say(setMoon_(moon) ? QString()
+                             : tr("The inputs have no date for it; years begin with 1."));
+  });
+  return {moment, set, note};
 }
 
 void TablesView::showMoons(const QString& nextFullMoon, const QString& nextNewMoon) {
-  nextFullMoon_->setText(nextFullMoon);
-  nextNewMoon_->setText(nextNewMoon);
-  setFullMoon_->setEnabled(!nextFullMoon.isEmpty());
-  setNewMoon_->setEnabled(!nextNewMoon.isEmpty());
+  showMoon(fullMoon_, nextFullMoon);
+  showMoon(newMoon_, nextNewMoon);
+}
+
+void TablesView::showMoon(const Moon& moon, const QString& moment) {
+  moon.moment->setText(moment);
+  moon.set->setEnabled(!moment.isEmpty());
+  moon.note->say({});
 }
 
 PositionsView::PositionsView()
-    : TablePair({tr("Daily"), tr("Yearly"), tr("No conjunction data")}) {}
+    : TablePair(exports::OutputTab::positions, tr("No conjunction data")) {}
 
 }  // namespace veyruna::ui

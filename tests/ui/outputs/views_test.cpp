@@ -8,6 +8,7 @@
 #include <QTableWidget>
 #include <set>
 
+#include "tests/ui/alerts.h"
 #include "tests/ui/shown_window.h"
 
 namespace veyruna::ui {
@@ -86,6 +87,35 @@ TEST_F(Views, SetPutsTheNextMoonsIntoTheInputsAndCalculatesNothing) {
   EXPECT_FALSE(model.isCalculating());
   EXPECT_EQ(tasks.count(), 0U);
   EXPECT_EQ(model.basicTableHourly(), table);
+}
+
+TEST_F(Views, AMoonThatTheInputsHaveNoDateForIsRefusedWithTheReason) {
+  const tests::Alerts alerts;
+  const auto notes = [this] {
+    QStringList texts;
+    for (const auto* const note : window.findChildren<QLabel*>(QStringLiteral("moonNote"))) {
+      texts.append(note->text());
+    }
+    return texts.join(QLatin1Char('|'));
+  };
+  model.setYear(-50);  // as only a file has it
+  calculate();
+  press("tab4");
+  const int height = find<QWidget>("setNewMoon")->mapTo(&window, QPoint()).y();
+  const double before = model.baseTime();
+  press("setNewMoon");
+  EXPECT_EQ(model.baseTime(), before);
+  const QString why = QStringLiteral("The inputs have no date for it; years begin with 1.");
+  EXPECT_EQ(notes(), QLatin1Char('|') + why);
+  EXPECT_EQ(tests::Alerts::heard(), QStringList(why));
+  tests::turnEventLoop();
+  EXPECT_EQ(find<QWidget>("setNewMoon")->mapTo(&window, QPoint()).y(), height) << "nothing moves";
+  model.setYear(720);
+  calculate();
+  EXPECT_EQ(notes(), QStringLiteral("|")) << "it was said of another moment";
+  press("setNewMoon");
+  EXPECT_NE(model.baseTime(), before);
+  EXPECT_EQ(notes(), QStringLiteral("|"));
 }
 
 TEST_F(Views, ATableIsReadOnlyUnwrappedAndScrollsBothWays) {
