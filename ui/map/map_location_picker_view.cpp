@@ -173,6 +173,10 @@ void MapLocationPickerView::hideEvent(QHideEvent* event) {
 
 /// What the map and the controls above it leave: some window managers keep the wheel with Alt to
 /// themselves, so that the same is done by a key alone.
+void MapLocationPickerView::focusInEvent(QFocusEvent* event) {
+  area_->setFocus(event->reason());
+}
+
 void MapLocationPickerView::keyPressEvent(QKeyEvent* event) {
   if (!isPlain(*event)) {
     QWidget::keyPressEvent(event);

@@ -43,6 +43,7 @@ class MapLocationPickerView final : public QWidget {
  protected:
   void showEvent(QShowEvent* event) override;
   void hideEvent(QHideEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;  ///< the map itself gets it
   void keyPressEvent(QKeyEvent* event) override;
 
  private:

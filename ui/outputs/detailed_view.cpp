@@ -34,4 +34,8 @@ void DetailedView::setTab(exports::OutputTab tab) {
   tabs_->setCurrentIndex(static_cast<int>(tab));
 }
 
+void DetailedView::focusMap() {
+  tabs_->widget(static_cast<int>(exports::OutputTab::location))->setFocus(Qt::OtherFocusReason);
+}
+
 }  // namespace veyruna::ui

@@ -20,6 +20,9 @@ class DetailedView final : public QWidget {
 
   void setTab(exports::OutputTab tab);
 
+  /// Gives the focus to the map, whose tab is in front.
+  void focusMap();
+
  private:
   QLabel* caption_;
   QStackedWidget* tabs_;

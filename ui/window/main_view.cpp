@@ -53,7 +53,10 @@ MainView::MainView(model::AstronomyModel& model, WindowState& state, QWidget* pa
   makeMenus();
 
   connect(tabs_, &TabSelector::chosen, this, &MainView::selectTab);
-  connect(sidebar_, &SidebarView::mapRequested, this, [this] { selectTab(OutputTab::location); });
+  connect(sidebar_, &SidebarView::mapRequested, this, [this] {
+    selectTab(OutputTab::location);
+    output_->focusMap();  // its arrow keys and zooms work at once
+  });
   connect(sidebar_, &SidebarView::nativeExportRequested, this,
           [this] { exports_->exportNative(selectedTab_); });
   connect(sidebar_, &SidebarView::pdfExportRequested, this,

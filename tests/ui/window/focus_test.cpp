@@ -1,5 +1,6 @@
 // Where the focus goes when something was done, and the keys that lead to the inputs.
 #include <QDialog>
+#include <QLabel>
 #include <QLineEdit>
 
 #include "tests/support/patience.h"
@@ -46,6 +47,20 @@ TEST_F(Focus, AfterASheetThatWasCancelledTheFocusIsWhereItWas) {
   QTest::keyClick(find<QDialog>("saveSheet"), Qt::Key_Escape);
   comeBack();
   EXPECT_EQ(focused(), QStringLiteral("saveButton"));
+}
+
+TEST_F(Focus, AfterPickFromMapTheFocusIsOnTheMap) {
+  find<QWidget>("mapButton")->setFocus();
+  QTest::keyClick(find<QWidget>("mapButton"), Qt::Key_Space);
+  EXPECT_EQ(focused(), QStringLiteral("mapArea"));
+  const QString before = find<QLabel>("zoomReadout")->text();
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Plus);
+  EXPECT_NE(find<QLabel>("zoomReadout")->text(), before) << "its keys work at once";
+  // The tab itself keeps the focus where it is: one goes through the tabs by key.
+  press("tab1");
+  find<QWidget>("tab1")->setFocus();
+  QTest::keyClick(&window, Qt::Key_6, Qt::ControlModifier);
+  EXPECT_EQ(focused(), QStringLiteral("tab1"));
 }
 
 TEST_F(Focus, TheColourButtonThatGoesHandsItsFocusToTheMapButton) {
