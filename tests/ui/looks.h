@@ -1,10 +1,14 @@
 #pragma once
 
 #include <QApplication>
+#include <QImage>
 #include <QPalette>
 #include <QStyle>
 #include <QStyleFactory>
+#include <QWidget>
+#include <algorithm>
 #include <cmath>
+#include <map>
 
 /// The looks a desktop may have.
 namespace veyruna::tests {
@@ -52,6 +56,35 @@ inline double contrast(const QColor& a, const QColor& b) {
   const double lighter = std::max(luminance(a), luminance(b));
   const double darker = std::min(luminance(a), luminance(b));
   return (lighter + 0.05) / (darker + 0.05);
+}
+
+/// What a control shows.
+inline QImage pictureOf(QWidget& widget) {
+  return widget.grab().toImage().convertToFormat(QImage::Format_RGB32);
+}
+
+/// The colour of most of the picture's pixels.
+inline QColor groundOf(const QImage& picture) {
+  std::map<QRgb, int> counts;
+  for (int y = 0; y < picture.height(); ++y) {
+    for (int x = 0; x < picture.width(); ++x) {
+      ++counts[picture.pixel(x, y)];
+    }
+  }
+  return QColor(std::max_element(counts.begin(), counts.end(), [](const auto& a, const auto& b) {
+                  return a.second < b.second;
+                })->first);
+}
+
+/// The best contrast of any pixel against this colour.
+inline double bestContrast(const QImage& picture, const QColor& ground) {
+  double best = 1.0;
+  for (int y = 0; y < picture.height(); ++y) {
+    for (int x = 0; x < picture.width(); ++x) {
+      best = std::max(best, contrast(picture.pixelColor(x, y), ground));
+    }
+  }
+  return best;
 }
 
 }  // namespace veyruna::tests

@@ -28,6 +28,14 @@ struct Views : testing::Test, tests::ShownWindow {
   static int textWidth(const QAbstractItemView* cells, int column) {
     return cells->sizeHintForColumn(column);
   }
+  /// How many columns on the left are empty.
+  static int leftOf(const QImage& mark) {
+    int column = 0;
+    while (column < mark.width() && mark.pixelColor(column, mark.height() / 2).alpha() < 64) {
+      ++column;
+    }
+    return column;
+  }
   QStringList placeholders() {
     QStringList texts;
     for (const auto* const label : window.findChildren<QLabel*>(QStringLiteral("placeholder"))) {
@@ -230,6 +238,7 @@ TEST_F(Views, EveryMarkCanBeSeenOnLightAndOnDark) {
     const QIcon icon = positions->item(row, 0)->icon();
     ASSERT_FALSE(icon.isNull());
     const QImage mark = icon.pixmap(32, 32).toImage();
+    EXPECT_EQ(leftOf(mark), leftOf(mark.mirrored(true, false))) << "in the middle of its room";
     for (const QColor& ground : {QColor(Qt::white), QColor(0x20, 0x20, 0x20)}) {
       int farthest = 0;
       for (int x = 0; x < mark.width(); ++x) {

@@ -56,6 +56,17 @@ TEST_F(Clock, F2AndADoubleClickOpenTheTimeThatStands) {
   EXPECT_TRUE(settings->groups.empty()) << "nothing was typed";
 }
 
+TEST(ClockAtMidnight, IsShownWhenTheWindowOpens) {
+  tests::FakeWorld world;
+  world.settings->values.insert(QStringLiteral("AstronomyModel.hour"), 0.0);
+  model::AstronomyModel model(world.surroundings());
+  const QTemporaryDir folder;
+  WindowState state(folder.filePath(QStringLiteral("window.ini")));
+  const MainView window(model, state);
+  EXPECT_EQ(window.findChild<QLabel*>(QStringLiteral("hourLabel"))->text(),
+            QStringLiteral("00:00"));
+}
+
 TEST_F(Clock, EscapeGivesUpWhatIsTyped) {
   QTest::mouseDClick(label, Qt::LeftButton);
   QTest::keyClicks(field, QStringLiteral("3:40"));

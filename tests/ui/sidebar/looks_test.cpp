@@ -9,8 +9,10 @@
 #include <QScrollArea>
 #include <algorithm>
 #include <array>
-#include <map>
+#include <cmath>
+#include <set>
 
+#include "astro/angle.h"
 #include "tests/support/patience.h"
 #include "tests/ui/shown_window.h"
 
@@ -20,10 +22,6 @@ namespace {
 struct Looks : testing::TestWithParam<bool> {
   const tests::Look look{GetParam() ? tests::darkPalette() : tests::lightPalette()};
   tests::ShownWindow shown;
-
-  static QImage pictureOf(QWidget& widget) {
-    return widget.grab().toImage().convertToFormat(QImage::Format_RGB32);
-  }
 
   /// How many pixels differ so that it can be seen.
   static int visibleDifferences(const QImage& a, const QImage& b) {
@@ -35,30 +33,6 @@ struct Looks : testing::TestWithParam<bool> {
       }
     }
     return differing;
-  }
-
-  /// The colour of most of the picture's pixels.
-  static QColor groundOf(const QImage& picture) {
-    std::map<QRgb, int> counts;
-    for (int y = 0; y < picture.height(); ++y) {
-      for (int x = 0; x < picture.width(); ++x) {
-        ++counts[picture.pixel(x, y)];
-      }
-    }
-    return QColor(std::max_element(counts.begin(), counts.end(), [](const auto& a, const auto& b) {
-                    return a.second < b.second;
-                  })->first);
-  }
-
-  /// The best contrast of any pixel against this colour.
-  static double bestContrast(const QImage& picture, const QColor& ground) {
-    double best = 1.0;
-    for (int y = 0; y < picture.height(); ++y) {
-      for (int x = 0; x < picture.width(); ++x) {
-        best = std::max(best, tests::contrast(picture.pixelColor(x, y), ground));
-      }
-    }
-    return best;
   }
 };
 
@@ -93,7 +67,7 @@ TEST_P(Looks, TheFocusCanBeSeenOnEveryControl) {
   for (const char* const name : names) {
     auto* const control = shown.find<QWidget>(name);
     control->clearFocus();
-    const QImage without = pictureOf(*control);
+    const QImage without = tests::pictureOf(*control);
     // As it comes by key; a caret is no part of it.
     QTest::keyClick(&shown.window, Qt::Key_Tab);
     control->setFocus(Qt::TabFocusReason);
@@ -101,8 +75,28 @@ TEST_P(Looks, TheFocusCanBeSeenOnEveryControl) {
       line->deselect();
     }
     ASSERT_TRUE(control->hasFocus()) << name;
-    EXPECT_GE(visibleDifferences(without, pictureOf(*control)), 20) << name;
+    EXPECT_GE(visibleDifferences(without, tests::pictureOf(*control)), 20) << name;
   }
+}
+
+TEST_P(Looks, TheRingOfTheFocusIsThereOnlyWithTheFocus) {
+  auto* const button = shown.find<QPushButton>("calculateButton");
+  // Across the button's left side, where no word stands: its edge, and the ring inside of it.
+  const auto steps = [button] {
+    const QImage picture = tests::pictureOf(*button);
+    const double pixels = button->devicePixelRatioF();
+    int count = 0;
+    for (int x = qRound(2.0 * pixels); x < qRound(6.0 * pixels); ++x) {
+      const int y = picture.height() / 2;
+      count +=
+          tests::contrast(picture.pixelColor(x, y), picture.pixelColor(x + 1, y)) > 1.5 ? 1 : 0;
+    }
+    return count;
+  };
+  shown.find<QWidget>("yearStepper")->setFocus();
+  EXPECT_EQ(steps(), 0);
+  button->setFocus();
+  EXPECT_GE(steps(), 1);
 }
 
 TEST_P(Looks, TheDestructiveButtonIsRedAndReadable) {
@@ -113,7 +107,7 @@ TEST_P(Looks, TheDestructiveButtonIsRedAndReadable) {
   auto* const cancel = sheet->findChild<QPushButton*>(QStringLiteral("cancelButton"));
   for (QPushButton* const focused : {cancel, remove}) {
     focused->setFocus();
-    const QImage picture = pictureOf(*remove);
+    const QImage picture = tests::pictureOf(*remove);
     // Every row's ground, since styles shade a button from top to bottom.
     for (int y = 5; y < picture.height() - 5; ++y) {
       const QColor ground = picture.pixelColor(6, y);
@@ -122,9 +116,9 @@ TEST_P(Looks, TheDestructiveButtonIsRedAndReadable) {
       EXPECT_GE(tests::contrast(ground, Qt::white), 4.5) << y << ground.name().toStdString();
     }
     const QRect word = picture.rect().adjusted(8, 6, -8, -6);
-    EXPECT_GE(bestContrast(picture.copy(word), groundOf(picture.copy(word))), 4.5);
+    EXPECT_GE(tests::bestContrast(picture.copy(word), tests::groundOf(picture.copy(word))), 4.5);
   }
-  const QColor other = groundOf(pictureOf(*cancel));
+  const QColor other = tests::groundOf(tests::pictureOf(*cancel));
   EXPECT_LT(std::abs(other.red() - other.green()), 30) << "the other button is not";
 }
 
@@ -136,16 +130,16 @@ TEST_P(Looks, TheDestructiveButtonShowsItsFocus) {
   auto* const remove = sheet->findChild<QPushButton*>(QStringLiteral("confirmButton"));
   ASSERT_TRUE(QTest::qWaitFor([remove] { return remove->hasFocus(); }, tests::patienceMilliseconds))
       << "from the first";
-  const QImage with = pictureOf(*remove);
+  const QImage with = tests::pictureOf(*remove);
   sheet->findChild<QPushButton*>(QStringLiteral("cancelButton"))->setFocus();
-  EXPECT_GE(visibleDifferences(with, pictureOf(*remove)), 20);
+  EXPECT_GE(visibleDifferences(with, tests::pictureOf(*remove)), 20);
 }
 
 TEST_P(Looks, WhatIsRefusedHasARedEdgeAndAReadableLine) {
   for (const char* const name : {"latitudeField", "yearStepper"}) {
     shown.type(name, QStringLiteral("99999"));
     auto* const field = shown.find<QWidget>(name);
-    const QImage picture = pictureOf(*field);
+    const QImage picture = tests::pictureOf(*field);
     const auto redness = [&picture](QPoint point) {
       const QColor color = picture.pixelColor(point);
       return color.red() - std::max(color.green(), color.blue());
@@ -162,16 +156,18 @@ TEST_P(Looks, WhatIsRefusedHasARedEdgeAndAReadableLine) {
     }
     EXPECT_GT(*std::min_element(reddest.begin(), reddest.end()), 60) << name;
   }
-  auto* const note = shown.find<QLabel>("dateNote");
-  const QImage line = pictureOf(*note);
-  EXPECT_GE(bestContrast(line, groundOf(line)), 4.5);
+  for (const char* const name : {"locationNote", "dateNote"}) {
+    const QImage line = tests::pictureOf(*shown.find<QLabel>(name));
+    EXPECT_GE(tests::bestContrast(line, tests::groundOf(line)), 4.5) << name;
+  }
+  const auto* const note = shown.find<QLabel>("dateNote");
   const QColor ink = note->palette().color(QPalette::WindowText);
   EXPECT_GE(tests::contrast(ink, QApplication::palette().color(QPalette::Window)), 4.5);
 }
 
 TEST_P(Looks, TheProgressStandsBesideTheWordAndIsSeen) {
   auto* const button = shown.find<QPushButton>("calculateButton");
-  const QImage before = pictureOf(*button);
+  const QImage before = tests::pictureOf(*button);
   shown.press("calculateButton");
   shown.find<QWidget>("calculateButton")->clearFocus();
   auto* const progress = shown.find<QWidget>("progress");
@@ -182,15 +178,70 @@ TEST_P(Looks, TheProgressStandsBesideTheWordAndIsSeen) {
     return QRectF(QPointF(part.topLeft()) * pixels, QSizeF(part.size()) * pixels).toRect();
   };
   const QRect room = inPixels(place);
-  const QImage during = pictureOf(*button);
+  const QImage during = tests::pictureOf(*button);
   EXPECT_GE(visibleDifferences(before.copy(room), during.copy(room)), 10);
   // Beside the word: nothing of the button's own was drawn there, and the word ends close by.
   const QColor ground = before.pixelColor(room.center());
-  EXPECT_LT(bestContrast(before.copy(room), ground), 1.3) << "over the word";
+  EXPECT_LT(tests::bestContrast(before.copy(room), ground), 1.3) << "over the word";
   const QRect close = inPixels({place.left() - 12, place.top(), 12, place.height()});
-  EXPECT_GT(bestContrast(before.copy(close), ground), 3.0) << "far from the word";
+  EXPECT_GT(tests::bestContrast(before.copy(close), ground), 3.0) << "far from the word";
   EXPECT_LE(place.height(), button->fontMetrics().height());
   EXPECT_TRUE(button->rect().contains(place));
+}
+
+TEST_P(Looks, WhatGoesWrongIsSaidReadably) {
+  const auto canBeRead = [this](const char* name) {
+    auto* const label = shown.find<QLabel>(name);
+    EXPECT_TRUE(label->isVisible() && !label->text().isEmpty()) << name;
+    const QImage line = tests::pictureOf(*label);
+    EXPECT_GE(tests::bestContrast(line, tests::groundOf(line)), 4.5) << name;
+  };
+  shown.calculate();
+  shown.model.setYear(5'000'000'000);
+  canBeRead("difference");
+  shown.press("calculateButton");
+  canBeRead("errorMessage");
+  auto* const slider = shown.find<QWidget>("hourSlider");
+  slider->setFocus();
+  QTest::keyClicks(slider, QStringLiteral("7"));
+  QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("7"));
+  canBeRead("timeNote");
+  shown.press("saveButton");
+  QTest::keyClick(shown.find<QLineEdit>("nameField"), Qt::Key_Return);
+  canBeRead("saveError");
+}
+
+TEST_P(Looks, TheSpokesOfTheProgressFadeOneAfterTheOther) {
+  shown.press("calculateButton");
+  auto* const progress = shown.find<QWidget>("progress");
+  progress->resize(80, 80);
+  const QImage wheel = tests::pictureOf(*progress);
+  std::set<int> grays;
+  for (int spoke = 0; spoke < 8; ++spoke) {
+    const double angle = astro::twoPi * spoke / 8.0;
+    const QPointF middle(wheel.width() / 2.0, wheel.height() / 2.0);
+    const QPointF at = middle + 0.35 * wheel.width() * QPointF(std::sin(angle), -std::cos(angle));
+    grays.insert(qGray(wheel.pixel(at.toPoint())));
+  }
+  EXPECT_GE(grays.size(), 7U);
+}
+
+TEST_P(Looks, TheProgressStaysBesideTheWordInAnotherType) {
+  shown.press("calculateButton");
+  auto* const button = shown.find<QPushButton>("calculateButton");
+  const int before = shown.find<QWidget>("progress")->x();
+  button->setFixedSize(button->size());
+  QFont wide = button->font();
+  wide.setLetterSpacing(QFont::AbsoluteSpacing, 3.0);
+  button->setFont(wide);
+  EXPECT_GT(shown.find<QWidget>("progress")->x(), before);
+}
+
+TEST_P(Looks, TheRoomForTheDifferenceIsTwoLines) {
+  const auto* const difference = shown.find<QLabel>("difference");
+  const int line = difference->fontMetrics().lineSpacing();
+  EXPECT_GE(difference->minimumHeight(), 2 * line);
+  EXPECT_LT(2 * difference->minimumHeight(), 5 * line);
 }
 
 TEST_P(Looks, EveryTextOfTheSidebarCanBeRead) {
@@ -198,8 +249,9 @@ TEST_P(Looks, EveryTextOfTheSidebarCanBeRead) {
   int texts = 0;
   for (QLabel* const label : sidebar->findChildren<QLabel*>()) {
     if (label->isVisible() && !label->text().isEmpty()) {
-      const QImage picture = pictureOf(*label);
-      EXPECT_GE(bestContrast(picture, groundOf(picture)), 4.5) << label->text().toStdString();
+      const QImage picture = tests::pictureOf(*label);
+      EXPECT_GE(tests::bestContrast(picture, tests::groundOf(picture)), 4.5)
+          << label->text().toStdString();
       ++texts;
     }
   }

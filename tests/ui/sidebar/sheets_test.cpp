@@ -34,6 +34,12 @@ TEST_F(Sheets, SavingSelectsTheNewPlace) {
   EXPECT_EQ(model.cities().size(), 15);
 }
 
+TEST_F(Sheets, AreCalledWhatTheyDo) {
+  EXPECT_EQ(SaveLocationSheet(model, &window).windowTitle(), QStringLiteral("Save Location"));
+  model.setSelectedCityID(model.cities().at(1).id);
+  EXPECT_EQ(DeleteLocationSheet(model, &window).windowTitle(), QStringLiteral("Delete Location"));
+}
+
 TEST_F(Sheets, ANameThatExistsIsRefusedUnderTheField) {
   SaveLocationSheet* const sheet = openSave();
   auto* const name = sheet->findChild<QLineEdit*>(QStringLiteral("nameField"));
@@ -93,6 +99,15 @@ void expectWholeText(const QLabel& label, const QString& text) {
   wide.resize(wide.fontMetrics().horizontalAdvance(text) + 20, wide.fontMetrics().height());
   const double whole = ink(wide.grab().toImage());
   EXPECT_NEAR(ink(const_cast<QLabel&>(label).grab().toImage()), whole, 0.1 * whole);
+}
+
+TEST(Wrapping, AShortTextAsksForOneLineAndGetsIt) {
+  for (const char* const text : {"i", "W", "Hour 0:00 to 23:59", "Day 1 to 30"}) {
+    const WrappedLabel label(QString::fromUtf8(text));
+    const int line = label.fontMetrics().height();
+    EXPECT_LE(label.heightForWidth(10'000), line) << text;
+    EXPECT_EQ(label.sizeHint().height(), label.heightForWidth(10'000)) << text;
+  }
 }
 
 TEST_F(Sheets, NamesAreShownAsTheyAreHoweverLong) {

@@ -30,11 +30,24 @@ TEST_F(About, ClosesOnEscape) {
   EXPECT_FALSE(about->isVisible());
 }
 
+/// How often a window was put on top of the others.
+struct Raises : QObject {
+  int count = 0;
+
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    count += event->type() == QEvent::ZOrderChange ? 1 : 0;
+    return QObject::eventFilter(watched, event);
+  }
+};
+
 TEST_F(About, OpensOnceAndComesForward) {
   MainView* const window = program.openWindow();
   trigger(*window, "About Veyruna Astro");
-  const AboutView* const about = program.openAbout();
+  AboutView* const about = program.openAbout();
+  Raises raises;
+  about->installEventFilter(&raises);
   trigger(*window, "About Veyruna Astro");
+  EXPECT_EQ(raises.count, 1);
   int shown = 0;
   for (const QWidget* const widget : QApplication::topLevelWidgets()) {
     shown += qobject_cast<const AboutView*>(widget) != nullptr && widget->isVisible() ? 1 : 0;

@@ -120,6 +120,29 @@ TEST_F(EveryTab, FollowsTheNextCalculation) {
   }
 }
 
+TEST_F(EveryTab, ItsButtonSaysItsKey) {
+  for (const TabEntry& tab : exports::allTabs) {
+    const int number = static_cast<int>(tab.tab) + 1;
+    const auto* const button =
+        find<QAbstractButton>(qPrintable(QStringLiteral("tab%1").arg(number)));
+    EXPECT_EQ(button->toolTip(),
+              QStringLiteral("%1 (Ctrl+%2)").arg(tab.title.toString()).arg(number));
+  }
+}
+
+TEST_F(EveryTab, TheButtonsStandInTheMiddle) {
+  window.resize(1600, 700);
+  tests::turnEventLoop();
+  const auto edge = [this](const char* name, QPoint point) {
+    return find<QWidget>(name)->mapTo(&window, point).x();
+  };
+  const int left = edge("tab1", {});
+  const auto* const last = find<QWidget>("tab6");
+  const int right = window.width() - edge("tab6", {last->width(), 0});
+  EXPECT_GT(left, 50);
+  EXPECT_NEAR(left, right, 20);
+}
+
 TEST(EveryTabsLook, HasItsIconInEverySizeAndInk) {
   QSet<QString> icons;
   for (const TabView& view : tabViews) {
