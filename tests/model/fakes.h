@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "model/astronomy_model.h"
+#include "model/unhurried_store.h"
 #include "tests/model/printing.h"
 
 /// What a model is surrounded by in a test: nothing of it is the user's.
@@ -68,10 +69,12 @@ inline void turnEventLoop() {
 /// Preferences in memory, no file of places, counted ids and tasks that wait.
 struct FakeWorld {
   std::shared_ptr<MemorySettings> settings = std::make_shared<MemorySettings>();
+  /// What the model stores in; in front of the preferences.
+  std::shared_ptr<model::UnhurriedStore> store = std::make_shared<model::UnhurriedStore>(settings);
   HeldTasks tasks;
 
   [[nodiscard]] model::AstronomyModel::Surroundings surroundings() const {
-    return {settings, std::nullopt, countingIds(), tasks.executor()};
+    return {store, std::nullopt, countingIds(), tasks.executor()};
   }
 };
 

@@ -24,8 +24,7 @@ constexpr double firstStart = 258840.0;  // noon of the first day of year 720
 constexpr double oneMinute = 1.0 / 1440.0;
 
 struct LiveTimeTest : testing::Test, tests::FakeWorld {
-  std::shared_ptr<model::UnhurriedStore> store = std::make_shared<model::UnhurriedStore>(settings);
-  AstronomyModel model{{store, std::nullopt, tests::countingIds(), tasks.executor()}};
+  AstronomyModel model{surroundings()};
   std::chrono::nanoseconds clock = 7s;
   LiveTime time{model, store, [this] { return clock; }};
   QObject viewer;

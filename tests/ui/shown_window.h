@@ -18,7 +18,8 @@ namespace veyruna::tests {
 struct ShownWindow : FakeModel {
   QTemporaryDir folder;
   ui::WindowState state{folder.filePath(QStringLiteral("window.ini"))};
-  ui::MainView window{model, state};
+  model::LiveTime time{model, store};
+  ui::MainView window{model, time, state};
 
   ShownWindow() {
     window.setAttribute(Qt::WA_DeleteOnClose, false);

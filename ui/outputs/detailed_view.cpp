@@ -7,13 +7,15 @@
 #include "ui/controls/named.h"
 #include "ui/outputs/calculated_caption.h"
 #include "ui/outputs/tab_views.h"
+#include "ui/outputs/time_bar.h"
 
 namespace veyruna::ui {
 
-DetailedView::DetailedView(model::AstronomyModel& model, QWidget* parent)
+DetailedView::DetailedView(model::AstronomyModel& model, model::LiveTime& time, QWidget* parent)
     : QWidget(parent),
       caption_(named(new QLabel, "caption", tr("Moment and place of what is shown"))),
-      tabs_(new QStackedWidget) {
+      tabs_(new QStackedWidget),
+      bar_(named(new TimeBar(time), "timeBar", tr("Time"))) {
   caption_->setAlignment(Qt::AlignCenter);
   caption_->setWordWrap(true);
   caption_->setTextFormat(Qt::PlainText);
@@ -22,12 +24,17 @@ DetailedView::DetailedView(model::AstronomyModel& model, QWidget* parent)
   auto* const column = new QVBoxLayout(this);
   column->addWidget(caption_);
   column->addWidget(tabs_, 1);
+  column->addWidget(bar_);
   for (const TabView& view : tabViews) {
     tabs_->addWidget(view.make(model));
   }
   const auto showCaption = [this, &model] { caption_->setText(calculatedCaption(model)); };
   connect(&model, &model::AstronomyModel::published, this, showCaption);
   showCaption();
+}
+
+void DetailedView::giveKeysToTime() {
+  bar_->takeKeys();
 }
 
 void DetailedView::setTab(exports::OutputTab tab) {

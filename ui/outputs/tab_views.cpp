@@ -124,4 +124,15 @@ const TabView& viewOf(OutputTab tab) {
   return tabViews[row];
 }
 
+QList<documents::Document> documentsSeenIn(OutputTab tab) {
+  QList<Document> seen;
+  for (const exports::TabSection& section : exports::entryOf(tab).sections) {
+    seen.append(section.document);
+  }
+  if (tab == OutputTab::sunMoon) {
+    seen.append({Document::nextFullMoon, Document::nextNewMoon});
+  }
+  return seen;
+}
+
 }  // namespace veyruna::ui

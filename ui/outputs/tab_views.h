@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QList>
 #include <QWidget>
 #include <array>
 
@@ -21,5 +22,8 @@ struct TabView {
 extern const std::array<TabView, exports::outputTabCount> tabViews;
 
 const TabView& viewOf(exports::OutputTab tab);
+
+/// The documents that a person sees in the tab.
+QList<documents::Document> documentsSeenIn(exports::OutputTab tab);
 
 }  // namespace veyruna::ui

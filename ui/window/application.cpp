@@ -18,7 +18,27 @@ constexpr QSize leastInSight(300, 100);  // as much of a new window is on the sc
 
 VeyrunaAstroApp::VeyrunaAstroApp(model::AstronomyModel::Surroundings surroundings,
                                  const QString& statePath)
-    : model_(std::move(surroundings)), state_(statePath) {}
+    : store_(std::make_shared<model::UnhurriedStore>(std::exchange(surroundings.settings, {}))),
+      model_({store_, std::move(surroundings.locationsPath), std::move(surroundings.newId),
+              std::move(surroundings.executor)}),
+      time_(model_, store_),
+      state_(statePath) {
+  rememberTime();
+}
+
+/// Whether time is live, and its pace, as they were in the last window.
+void VeyrunaAstroApp::rememberTime() {
+  if (const auto step = state_.timeStep()) {
+    time_.setStep(*step);
+  }
+  if (const auto speed = state_.timeSpeed()) {
+    time_.setSpeed(*speed);
+  }
+  time_.setOn(state_.isLive());
+  connect(&time_, &model::LiveTime::isOnChanged, this, [this] { state_.setLive(time_.isOn()); });
+  connect(&time_, &model::LiveTime::paceChanged, this,
+          [this] { state_.setPace(time_.step(), time_.speed()); });
+}
 
 VeyrunaAstroApp::~VeyrunaAstroApp() {
   for (const QPointer<MainView>& window : windows_) {
@@ -28,7 +48,7 @@ VeyrunaAstroApp::~VeyrunaAstroApp() {
 }
 
 MainView* VeyrunaAstroApp::openWindow() {
-  auto* const window = new MainView(model_, state_);
+  auto* const window = new MainView(model_, time_, state_);
   windows_.removeAll(nullptr);
   windows_.append(window);
   connect(window, &MainView::newWindowRequested, this, &VeyrunaAstroApp::openWindow);

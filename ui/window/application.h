@@ -5,6 +5,7 @@
 #include <QPointer>
 
 #include "model/astronomy_model.h"
+#include "model/live_time.h"
 #include "ui/window/window_state.h"
 
 namespace veyruna::ui {
@@ -30,10 +31,15 @@ class VeyrunaAstroApp final : public QObject {
   AboutView* openAbout();
 
   [[nodiscard]] model::AstronomyModel& model() { return model_; }
+  [[nodiscard]] model::LiveTime& time() { return time_; }
   [[nodiscard]] WindowState& state() { return state_; }
 
  private:
+  void rememberTime();
+
+  std::shared_ptr<model::UnhurriedStore> store_;
   model::AstronomyModel model_;
+  model::LiveTime time_;
   WindowState state_;
   QList<QPointer<MainView>> windows_;
   QPointer<AboutView> about_;

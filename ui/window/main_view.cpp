@@ -1,9 +1,13 @@
 #include "ui/window/main_view.h"
 
+#include <QAbstractSpinBox>
 #include <QAction>
+#include <QApplication>
 #include <QCloseEvent>
 #include <QDesktopServices>
-#include <QGuiApplication>
+#include <QGroupBox>
+#include <QKeyEvent>
+#include <QLineEdit>
 #include <QMenuBar>
 #include <QScreen>
 #include <QShortcut>
@@ -12,6 +16,7 @@
 #include <functional>
 
 #include "ui/outputs/detailed_view.h"
+#include "ui/outputs/tab_views.h"
 #include "ui/sidebar/sidebar_view.h"
 #include "ui/window/export_commands.h"
 #include "ui/window/export_notice.h"
@@ -20,6 +25,7 @@
 #include "ui/window/print_command.h"
 #include "ui/window/product.h"
 #include "ui/window/tab_selector.h"
+#include "ui/window/view_menu.h"
 #include "ui/window/window_state.h"
 
 namespace veyruna::ui {
@@ -34,12 +40,14 @@ constexpr QSize decoration(16, 40);  // left for edges and title bar while nothi
 
 }  // namespace
 
-MainView::MainView(model::AstronomyModel& model, WindowState& state, QWidget* parent)
+MainView::MainView(model::AstronomyModel& model, model::LiveTime& time, WindowState& state,
+                   QWidget* parent)
     : QMainWindow(parent),
+      time_(time),
       state_(state),
       tabs_(new TabSelector(this)),
       sidebar_(new SidebarView(model)),
-      output_(new DetailedView(model)),
+      output_(new DetailedView(model, time)),
       columns_(new QSplitter),
       notice_(new ExportNotice) {
   setWindowTitle(product().title);
@@ -58,11 +66,15 @@ MainView::MainView(model::AstronomyModel& model, WindowState& state, QWidget* pa
     output_->focusMap();  // its arrow keys and zooms work at once
   });
   connect(sidebar_, &SidebarView::nativeExportRequested, this,
-          [this] { exports_->exportNative(selectedTab_); });
+          [this] { exports_->exportNative(settledTab()); });
   connect(sidebar_, &SidebarView::pdfExportRequested, this,
-          [this] { exports_->exportPdf(selectedTab_); });
+          [this] { exports_->exportPdf(settledTab()); });
   connect(&model, &model::AstronomyModel::isCalculatingChanged, notice_,
           &ExportNotice::dismissFailure);
+  for (QGroupBox* const box : sidebar_->findChildren<QGroupBox*>()) {
+    box->installEventFilter(this);
+  }
+  keepTypingFromRunningAway();
   selectTab(OutputTab::starMap);
   if (const auto placement = state_.placement()) {
     openAt(*placement);
@@ -83,7 +95,7 @@ void MainView::makeColumns() {
 
 void MainView::openAt(const Placement& placement) {
   QList<QRect> rooms;
-  for (const QScreen* const each : QGuiApplication::screens()) {
+  for (const QScreen* const each : QApplication::screens()) {
     rooms.append(each->availableGeometry());
   }
   placement_ = onScreens(placement, rooms);
@@ -111,6 +123,7 @@ void MainView::selectTab(OutputTab tab) {
   tabs_->setTab(tab);
   sidebar_->setTab(tab);
   output_->setTab(tab);
+  time_.setSeen(this, documentsSeenIn(tab));
   notice_->dismissFailure();
   const bool isSaved = tab != OutputTab::location;
   saveNative_->setText(exports::isChart(tab) ? tr("&Save as SVG…") : tr("&Save as Text…"));
@@ -136,16 +149,71 @@ void MainView::makeMenus() {
   add(file, tr("&New Window"), "Ctrl+N", &MainView::newWindowRequested);
   file->addSeparator();
   saveNative_ = add(file, QString(), "Ctrl+S",
-                    [](MainView* view) { view->exports_->exportNative(view->selectedTab_); });
+                    [](MainView* view) { view->exports_->exportNative(view->settledTab()); });
   savePdf_ = add(file, tr("Save as P&DF…"), "Ctrl+Shift+S",
-                 [](MainView* view) { view->exports_->exportPdf(view->selectedTab_); });
+                 [](MainView* view) { view->exports_->exportPdf(view->settledTab()); });
   printAction_ = add(file, tr("&Print…"), "Ctrl+P",
-                     [](MainView* view) { view->print_->print(view->selectedTab_); });
+                     [](MainView* view) { view->print_->print(view->settledTab()); });
   file->addSeparator();
   add(file, tr("&Close"), "Ctrl+W", &QWidget::close);
+  menuBar()->addMenu(new ViewMenu(
+      time_, [this] { sidebar_->commit(); }, this));
   menuBar()->addMenu(new HelpMenuView(this));
   connect(new QShortcut(QKeySequence::HelpContents, this), &QShortcut::activated, this,
           [this] { QDesktopServices::openUrl(manualChapter(selectedTab_)); });
+}
+
+exports::OutputTab MainView::settledTab() {
+  time_.pause();
+  return selectedTab_;
+}
+
+void MainView::keepTypingFromRunningAway() {
+  const auto isTyped = [this](const QWidget* field) {
+    return (qobject_cast<const QLineEdit*>(field) != nullptr ||
+            qobject_cast<const QAbstractSpinBox*>(field) != nullptr) &&
+           sidebar_->isAncestorOf(field);
+  };
+  connect(qApp, &QApplication::focusChanged, this,
+          [this, isTyped](const QWidget* /*old*/, const QWidget* now) {
+            if (isTyped(now)) {
+              time_.pause();
+            }
+          });
+  // Space plays from here on, wherever the keys went before.
+  connect(&time_, &model::LiveTime::isOnChanged, this, [this] {
+    if (time_.isOn() && isActiveWindow()) {
+      output_->giveKeysToTime();
+    }
+  });
+  connect(&time_, &model::LiveTime::motionChanged, this, [this, isTyped] {
+    if (time_.motion() != model::LiveTime::Motion::resting && isTyped(focusWidget())) {
+      output_->giveKeysToTime();
+    }
+  });
+}
+
+/// Boxes around controls swallow Space, though there is nothing in them to be switched.
+bool MainView::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Space) {
+    keyPressEvent(static_cast<QKeyEvent*>(event));
+    return true;
+  }
+  return QMainWindow::eventFilter(watched, event);
+}
+
+void MainView::keyPressEvent(QKeyEvent* event) {
+  using Motion = model::LiveTime::Motion;
+  const bool isBackwards = event->modifiers() == Qt::ShiftModifier;
+  if (!time_.isOn() || event->key() != Qt::Key_Space ||
+      (event->modifiers() != Qt::NoModifier && !isBackwards)) {
+    QMainWindow::keyPressEvent(event);
+  } else if (!event->isAutoRepeat()) {
+    sidebar_->commit();
+    time_.play(time_.motion() != Motion::resting ? Motion::resting
+               : isBackwards                     ? Motion::backward
+                                                 : Motion::forward);
+  }
 }
 
 void MainView::moveEvent(QMoveEvent* event) {

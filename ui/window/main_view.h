@@ -4,6 +4,7 @@
 
 #include "export/output_tab.h"
 #include "model/astronomy_model.h"
+#include "model/live_time.h"
 #include "ui/window/placement.h"
 
 class QSplitter;
@@ -23,7 +24,8 @@ class MainView final : public QMainWindow {
   Q_OBJECT
 
  public:
-  MainView(model::AstronomyModel& model, WindowState& state, QWidget* parent = nullptr);
+  MainView(model::AstronomyModel& model, model::LiveTime& time, WindowState& state,
+           QWidget* parent = nullptr);
 
   [[nodiscard]] exports::OutputTab selectedTab() const { return selectedTab_; }
 
@@ -43,6 +45,8 @@ class MainView final : public QMainWindow {
 
  protected:
   void closeEvent(QCloseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
   void moveEvent(QMoveEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void changeEvent(QEvent* event) override;
@@ -51,7 +55,12 @@ class MainView final : public QMainWindow {
   void makeColumns();
   void makeMenus();
   void notePlacement();
+  /// The tab in front, and time at rest: what is saved belongs to the minute that its name says.
+  exports::OutputTab settledTab();
+  /// Time rests while a field of the sidebar is typed in: no value overtakes what is typed.
+  void keepTypingFromRunningAway();
 
+  model::LiveTime& time_;
   WindowState& state_;
   TabSelector* tabs_;
   SidebarView* sidebar_;

@@ -2,6 +2,7 @@
 
 #include <QFileInfo>
 #include <QStandardPaths>
+#include <algorithm>
 
 namespace veyruna::ui {
 
@@ -14,6 +15,9 @@ const QString sizeKey = QStringLiteral("size");
 const QString isMaximizedKey = QStringLiteral("isMaximized");
 const QString isFullScreenKey = QStringLiteral("isFullScreen");
 const QString sidebarWidthKey = QStringLiteral("sidebarWidth");
+const QString isLiveKey = QStringLiteral("isLive");
+const QString timeStepKey = QStringLiteral("timeStep");
+const QString timeSpeedKey = QStringLiteral("timeSpeed");
 const QString exportFolderKey = QStringLiteral("exportFolder");
 
 }  // namespace
@@ -44,6 +48,28 @@ std::optional<int> WindowState::sidebarWidth() const {
 
 void WindowState::setSidebarWidth(int width) {
   state_.store({{sidebarWidthKey, width}});
+}
+
+bool WindowState::isLive() const {
+  return state_.stored(isLiveKey).toBool();
+}
+
+void WindowState::setLive(bool isLive) {
+  state_.store({{isLiveKey, isLive}});
+}
+
+std::optional<model::TimeStep> WindowState::timeStep() const {
+  return model::timeStepOf(state_.stored(timeStepKey).toString());
+}
+
+std::optional<double> WindowState::timeSpeed() const {
+  const double speed = state_.stored(timeSpeedKey).toDouble();
+  const auto* const known = std::ranges::find(model::timeSpeeds, speed);
+  return known == model::timeSpeeds.end() ? std::nullopt : std::optional(*known);
+}
+
+void WindowState::setPace(model::TimeStep step, double speed) {
+  state_.store({{timeStepKey, entryOf(step).word.toString()}, {timeSpeedKey, speed}});
 }
 
 QString WindowState::exportFolder() const {

@@ -366,7 +366,8 @@ TEST_F(Exports, TheNoticeGoesAfterAFewSeconds) {
 
 TEST_F(Exports, BeforeTheFirstCalculationTheDocumentsAreEmpty) {
   tests::FakeModel fresh;
-  MainView empty(fresh.model, state);
+  model::LiveTime freshTime(fresh.model, fresh.store);
+  MainView empty(fresh.model, freshTime, state);
   empty.setAttribute(Qt::WA_DeleteOnClose, false);
   empty.show();
   empty.selectTab(OutputTab::planets);

@@ -69,9 +69,10 @@ struct Keyboard : testing::Test, tests::ShownWindow {
     return round;
   }
 
-  void showEveryKindOfSidebar(const std::function<void()>& look) {
+  void showEveryKindOfControl(const std::function<void()>& look) {
     for (const QUuid& place : {model::manualCityID(), model.cities().at(3).id}) {
       model.setSelectedCityID(place);
+      time.setOn(place != model::manualCityID());  // with and without the bar that moves it
       for (const OutputTab tab : exports::outputTabs) {
         window.selectTab(tab);
         tests::turnEventLoop();
@@ -83,7 +84,7 @@ struct Keyboard : testing::Test, tests::ShownWindow {
 };
 
 TEST_F(Keyboard, EveryControlHasANameToSpeakAndOneToFind) {
-  showEveryKindOfSidebar([this] {
+  showEveryKindOfControl([this] {
     QSet<QString> names;
     for (const QWidget* const control : controls()) {
       EXPECT_FALSE(control->accessibleName().isEmpty())
@@ -102,7 +103,7 @@ TEST_F(Keyboard, EveryControlHasANameToSpeakAndOneToFind) {
 }
 
 TEST_F(Keyboard, TabReachesEveryControl) {
-  showEveryKindOfSidebar([this] {
+  showEveryKindOfControl([this] {
     const QList<QWidget*> round = tabRound();
     for (QWidget* const control : controls()) {
       bool isReached = round.contains(control);
@@ -118,7 +119,7 @@ TEST_F(Keyboard, TabReachesEveryControl) {
 }
 
 TEST_F(Keyboard, TabGoesAsOneReads) {
-  showEveryKindOfSidebar([this] {
+  showEveryKindOfControl([this] {
     const auto* const sidebar = window.findChild<QWidget*>(QStringLiteral("sidebar"));
     const QWidget* before = nullptr;
     for (const QWidget* const here : tabRound()) {
@@ -136,7 +137,7 @@ TEST_F(Keyboard, TabGoesAsOneReads) {
 }
 
 TEST_F(Keyboard, NoTwoShortcutsAndNoTwoMnemonicsAreAlike) {
-  showEveryKindOfSidebar([this] {
+  showEveryKindOfControl([this] {
     QMap<QString, QStringList> users;
     for (const QAction* const action : window.menuBar()->actions()) {
       users[mnemonicOf(action->text())].append(action->text());
@@ -184,8 +185,14 @@ TEST_F(Keyboard, TheMenusAnswerToTheirKeys) {
   EXPECT_EQ(keys[QStringLiteral("Save as SVG…")], QStringLiteral("Ctrl+S"));
   EXPECT_EQ(keys[QStringLiteral("Save as PDF…")], QStringLiteral("Ctrl+Shift+S"));
   EXPECT_EQ(keys[QStringLiteral("Print…")], QStringLiteral("Ctrl+P"));
+  EXPECT_EQ(keys[QStringLiteral("Live")], QStringLiteral("Ctrl+L"));
+  EXPECT_EQ(keys[QStringLiteral("Step Forward")], QStringLiteral("Alt+Right"));
+  EXPECT_EQ(keys[QStringLiteral("Step Back")], QStringLiteral("Alt+Left"));
+  EXPECT_EQ(keys[QStringLiteral("Now")], QStringLiteral("Alt+Home"));
+  EXPECT_EQ(keys[QStringLiteral("Play\tSpace")], QString());  // the focus comes first
+  EXPECT_EQ(keys[QStringLiteral("Play Backwards\tShift+Space")], QString());
   keys.remove(QString());  // separators
-  EXPECT_EQ(keys.size(), 9);
+  EXPECT_EQ(keys.size(), 15);
 }
 
 TEST_F(Keyboard, APersonWithoutAMouseSavesAPlaceAndReadsItsTables) {

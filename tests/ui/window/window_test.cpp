@@ -18,7 +18,8 @@ using exports::OutputTab;
 struct Window : testing::Test, tests::FakeModel {
   QTemporaryDir folder;
   WindowState state{folder.filePath(QStringLiteral("window.ini"))};
-  MainView window{model, state};
+  model::LiveTime time{model, store};
+  MainView window{model, time, state};
 
   [[nodiscard]] QString nativeExportText() const {
     return window.findChild<QAbstractButton*>(QStringLiteral("nativeExportButton"))
