@@ -62,7 +62,8 @@ TEST(ClockAtMidnight, IsShownWhenTheWindowOpens) {
   model::AstronomyModel model(world.surroundings());
   const QTemporaryDir folder;
   WindowState state(folder.filePath(QStringLiteral("window.ini")));
-  const MainView window(model, state);
+  model::LiveTime time(model, world.store);
+  const MainView window(model, time, state);
   EXPECT_EQ(window.findChild<QLabel*>(QStringLiteral("hourLabel"))->text(),
             QStringLiteral("00:00"));
 }
