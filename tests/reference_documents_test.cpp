@@ -93,11 +93,7 @@ TEST_P(ReferenceDocuments, HoroscopeInBlackAndWhite) {
 }
 
 INSTANTIATE_TEST_SUITE_P(All, ReferenceDocuments, testing::ValuesIn(tests::referenceCases()),
-                         [](const auto& test) {
-                           std::string name = test.param.folder;
-                           std::erase(name, '-');
-                           return name;
-                         });
+                         [](const auto& test) { return test.param.testName(); });
 
 }  // namespace
 }  // namespace veyruna

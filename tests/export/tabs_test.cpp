@@ -136,11 +136,7 @@ TEST_P(EveryTabSaved, HoldsItsDocumentsInBothForms) {
 }
 
 INSTANTIATE_TEST_SUITE_P(All, EveryTabSaved, testing::ValuesIn(tests::referenceCases()),
-                         [](const auto& test) {
-                           std::string name = test.param.folder;
-                           std::erase(name, '-');
-                           return name;
-                         });
+                         [](const auto& test) { return test.param.testName(); });
 
 }  // namespace
 }  // namespace veyruna

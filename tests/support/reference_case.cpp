@@ -31,6 +31,12 @@ astro::Observer ReferenceCase::observer() const {
   return {.baseTime = baseTime(), .latitude = latitude, .longitude = longitude};
 }
 
+std::string ReferenceCase::testName() const {
+  std::string name = folder;
+  std::erase(name, '-');
+  return name;
+}
+
 std::string ReferenceCase::goldenName(const std::string& file) const {
   return "reference/" + folder + "/" + file;
 }

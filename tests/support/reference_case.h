@@ -22,6 +22,8 @@ struct ReferenceCase {
 
   [[nodiscard]] double baseTime() const;
   [[nodiscard]] astro::Observer observer() const;
+  /// The folder's name as a test may be called.
+  [[nodiscard]] std::string testName() const;
   /// One of the case's files as isGolden calls it.
   [[nodiscard]] std::string goldenName(const std::string& file) const;
   /// The content of one of the case's files.

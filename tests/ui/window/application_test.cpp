@@ -3,9 +3,9 @@
 
 #include <QAbstractSpinBox>
 #include <QDir>
-#include <QFile>
 #include <QTest>
 
+#include "tests/model/disk.h"
 #include "tests/support/patience.h"
 #include "tests/ui/window/windows.h"
 #include "ui/window/about_view.h"
@@ -64,10 +64,7 @@ TEST_F(Application, CloseClosesOneWindowAndQuitAllOfThem) {
 
 TEST_F(Application, AStateFileThatCannotBeReadIsKeptAside) {
   const QString path = folder.filePath(QStringLiteral("window.ini"));
-  QFile file(path);
-  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-  file.write("\x01\x02 no state at all\n[[[");
-  file.close();
+  tests::writeBytes(path, "\x01\x02 no state at all\n[[[");
   {
     WindowState state(path);
     EXPECT_FALSE(state.placement());
@@ -81,12 +78,9 @@ TEST_F(Application, AStateFileThatCannotBeReadIsKeptAside) {
 
 TEST_F(Application, AStateThatIsNonsenseIsAFirstStart) {
   QDir(folder.path()).mkpath(QStringLiteral("sub"));
-  QFile file(statePath);
-  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-  file.write(
-      "[General]\nframe=@Rect(0 0 -4 2000000000)\nsize=nonsense\nisMaximized=maybe\n"
-      "sidebarWidth=-7\nexportFolder=/nowhere/at/all\n");
-  file.close();
+  tests::writeBytes(statePath,
+                    "[General]\nframe=@Rect(0 0 -4 2000000000)\nsize=nonsense\nisMaximized=maybe\n"
+                    "sidebarWidth=-7\nexportFolder=/nowhere/at/all\n");
   VeyrunaAstroApp again(surroundings(), statePath);
   const MainView* const window = again.openWindow();
   EXPECT_GE(window->width(), window->minimumSizeHint().width());

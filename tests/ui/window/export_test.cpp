@@ -9,6 +9,7 @@
 #include <QMessageBox>
 #include <QTimer>
 
+#include "tests/model/disk.h"
 #include "tests/support/patience.h"
 #include "tests/ui/opened_addresses.h"
 #include "tests/ui/shown_window.h"
@@ -136,10 +137,7 @@ TEST_F(Exports, ANameWithoutItsSuffixGetsIt) {
 
 TEST_F(Exports, AnExistingFileIsReplacedOnlyAfterTheQuestion) {
   const QString path = disk.filePath(QStringLiteral("old.svg"));
-  QFile old(path);
-  ASSERT_TRUE(old.open(QIODevice::WriteOnly));
-  old.write("old");
-  old.close();
+  tests::writeBytes(path, "old");
   QFileDialog* const dialog = ask("nativeExportButton");
   nameField(dialog)->setText(QStringLiteral("old"));  // the suffix makes it the file that exists
   auto asked = answerQuestionWith(QMessageBox::No);
@@ -236,10 +234,7 @@ TEST_F(Exports, AFolderThatCouldNotBeWrittenToIsNotOfferedAgain) {
 TEST_F(Exports, ThePlatformsOwnDialogReplacesNothingUnasked) {
   // Such a dialog asks about the name as it was typed, and knows nothing of the suffix.
   const QString path = disk.filePath(QStringLiteral("old.svg"));
-  QFile old(path);
-  ASSERT_TRUE(old.open(QIODevice::WriteOnly));
-  old.write("old");
-  old.close();
+  tests::writeBytes(path, "old");
   QFileDialog* const dialog = ask("nativeExportButton");
   auto asked = answerQuestionWith(QMessageBox::No);
   Q_EMIT dialog->fileSelected(disk.filePath(QStringLiteral("old")));
