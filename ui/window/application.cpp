@@ -4,8 +4,10 @@
 #include <QScreen>
 #include <utility>
 
+#include "ui/controls/icons.h"
 #include "ui/window/about_view.h"
 #include "ui/window/main_view.h"
+#include "ui/window/product.h"
 
 namespace veyruna::ui {
 
@@ -23,6 +25,9 @@ VeyrunaAstroApp::VeyrunaAstroApp(model::AstronomyModel::Surroundings surrounding
               std::move(surroundings.executor)}),
       time_(model_, store_),
       state_(statePath) {
+  QApplication::setApplicationName(product().name);
+  QApplication::setDesktopFileName(QStringLiteral("veyruna-astro"));
+  QApplication::setWindowIcon(programIcon());
   rememberTime();
 }
 

@@ -13,7 +13,8 @@ namespace veyruna::ui {
 class AboutView;
 class MainView;
 
-/// The program: one model, any number of windows on it, one About window.
+/// The program: one model, any number of windows on it, one About window. Tells the desktop what it
+/// is called, which of its entries it is, and its picture.
 class VeyrunaAstroApp final : public QObject {
   Q_OBJECT
 

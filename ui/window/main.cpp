@@ -3,7 +3,6 @@
 #include <cstdio>
 #include <string_view>
 
-#include "ui/controls/icons.h"
 #include "ui/controls/program.h"
 #include "ui/window/application.h"
 #include "ui/window/product.h"
@@ -34,9 +33,6 @@ int main(int argc, char** argv) {
     return 0;
   }
   const QApplication application(argc, argv);
-  QApplication::setApplicationName(veyruna::ui::product().name);
-  QApplication::setDesktopFileName(QStringLiteral("veyruna-astro"));
-  QApplication::setWindowIcon(veyruna::ui::programIcon());
   veyruna::ui::VeyrunaAstroApp program(
       veyruna::model::AstronomyModel::standardSurroundings(),
       QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +

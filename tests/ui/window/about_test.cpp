@@ -10,6 +10,7 @@
 #include "tests/support/source_path.h"
 #include "tests/ui/opened_addresses.h"
 #include "tests/ui/window/windows.h"
+#include "ui/controls/icons.h"
 #include "ui/controls/program.h"
 #include "ui/window/about_view.h"
 #include "ui/window/product.h"
@@ -146,6 +147,16 @@ TEST_F(About, TheDesktopListsTheProgramByItsName) {
   ASSERT_TRUE(file.open(QIODevice::ReadOnly));
   const QStringList lines = QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'));
   EXPECT_TRUE(lines.contains(QStringLiteral("Name=") + product().name));
+}
+
+TEST_F(About, TheProgramTellsTheDesktopWhatItIs) {
+  EXPECT_EQ(QApplication::applicationName(), product().name);
+  // By this name a desktop finds the entry, and with it the program's picture in its bars.
+  EXPECT_TRUE(QFile::exists(QString::fromStdString(tests::sourcePath(
+      "packaging/" + QGuiApplication::desktopFileName().toStdString() + ".desktop"))));
+  const MainView* const window = program.openWindow();
+  EXPECT_EQ(window->windowIcon().pixmap(64, 64).toImage(), programIcon().pixmap(64, 64).toImage());
+  EXPECT_FALSE(window->windowIcon().isNull());
 }
 
 TEST_F(About, TheVersionIsTheOneThatIsBuilt) {
