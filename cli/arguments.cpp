@@ -16,11 +16,6 @@ namespace veyruna::cli {
 
 namespace {
 
-[[noreturn]] void refuse(std::string_view what, std::string_view text, std::string_view accepted) {
-  throw UsageError(std::string(what) + ": " + inQuotes(text) + " is not accepted; give " +
-                   std::string(accepted));
-}
-
 /// All of `text` as a number, or nothing. A leading plus and a typographic minus are understood,
 /// other notations are not.
 template <class Number>
@@ -86,6 +81,11 @@ double readAngle(std::string_view what, std::string_view text, double most, Hemi
 }
 
 }  // namespace
+
+void refuse(std::string_view what, std::string_view text, std::string_view accepted) {
+  throw UsageError(std::string(what) + ": " + inQuotes(text) + " is not accepted; give " +
+                   std::string(accepted));
+}
 
 std::int64_t readWholeNumber(std::string_view what, std::string_view text, std::int64_t least,
                              std::int64_t most) {

@@ -8,6 +8,9 @@
 /// with the text it was given and what it accepts.
 namespace veyruna::cli {
 
+/// Throws the error that quotes what was typed for `what` and says what is accepted.
+[[noreturn]] void refuse(std::string_view what, std::string_view text, std::string_view accepted);
+
 /// A whole number within [least, most]; `what` names it in the message, such as "--year".
 std::int64_t readWholeNumber(std::string_view what, std::string_view text, std::int64_t least,
                              std::int64_t most);

@@ -1,168 +1,84 @@
 #include "cli/command_line.h"
 
 #include <algorithm>
-#include <cmath>
 #include <cstdio>
 #include <exception>
-#include <filesystem>
 
-#include "astro/angle.h"
-#include "astro/calendar.h"
-#include "astro/invariant.h"
-#include "astro/local_time.h"
 #include "astro/number_text.h"
-#include "cli/arguments.h"
+#include "cli/asked_forms.h"
+#include "cli/document_commands.h"
 #include "cli/document_writer.h"
+#include "cli/drawing_program.h"
 #include "cli/errors.h"
 #include "cli/grammar.h"
 #include "cli/places.h"
-#include "cli/progress.h"
-#include "cli/quoting.h"
-#include "documents/documents.h"
-#include "reports/conjunctions.h"
-#include "reports/ephemeris.h"
+#include "cli/sky.h"
 
 namespace veyruna::cli {
 
 namespace {
 
 using documents::Document;
+using documents::Entry;
+using documents::Form;
 
-constexpr std::int64_t mostRows = 100'000'000;
-
-/// The first year, and the last that begins within the engine's range.
-constexpr std::int64_t firstYear = 1;
-constexpr std::int64_t lastYear = 2'777'778;
-
-double checkedBaseTime(double baseTime, const std::string& what) {
-  if (!(std::abs(baseTime) <= astro::baseTimeLimitDays)) {
-    throw UsageError(what +
-                     " is too far away; moments within 1000000000 days of the epoch are accepted");
-  }
-  return baseTime;
+bool isTableOfOnesOwn(const Typed& typed) {
+  return typed.command == "ephemeris" || typed.command == "conjunctions";
 }
 
-Place placeOf(const Typed& typed) {
-  if (!typed.location.empty()) {
-    return savedPlace(typed.location);
+/// The document that a command writes, or whose like it writes at moments of one's own; null where
+/// it writes something else.
+const Entry* documentOf(const Typed& typed) {
+  if (isTableOfOnesOwn(typed)) {
+    return &documents::entryOf(typed.command == "ephemeris" ? Document::hourly : Document::daily);
   }
-  return {readLatitude(typed.latitude), readLongitude(typed.longitude)};
-}
-
-astro::Observer observerOf(const Typed& typed) {
-  const auto [latitude, longitude] = placeOf(typed);
-  constexpr double limit = astro::baseTimeLimitDays;
-  if (!typed.baseTime.empty()) {
-    return {.baseTime = readNumber("--base-time", typed.baseTime, -limit, limit),
-            .latitude = latitude,
-            .longitude = longitude};
+  if (typed.command == "horoscope" && typed.blackAndWhite) {
+    return &documents::entryOf(Document::horoscopeOnPaper);
   }
-  const astro::CalendarReading reading{
-      .year = readWholeNumber("--year", typed.year, firstYear, lastYear),
-      .monthIndex = readMonthIndex(typed.month),
-      .dayIndex = readWholeNumber("--day", typed.day, 1, astro::daysPerMonth) - 1,
-      .hour = readHour(typed.hour)};
-  const double baseTime =
-      typed.isLocal ? astro::localBaseTime(reading, longitude) : astro::standardBaseTime(reading);
-  return {.baseTime = checkedBaseTime(baseTime, "--year: " + inQuotes(typed.year)),
-          .latitude = latitude,
-          .longitude = longitude};
-}
-
-bool goesToStandardOutput(const Typed& typed) {
-  return typed.file == "-";
-}
-
-DocumentWriter writerOf(const Typed& typed) {
-  return goesToStandardOutput(typed) ? DocumentWriter::toStandardOutput()
-                                     : DocumentWriter::toFile(typed.file);
-}
-
-void writeText(const Typed& typed, const std::string& text) {
-  DocumentWriter writer = writerOf(typed);
-  writer.write(text);
-  writer.finish();
-}
-
-/// A table of the person's own length and step, written as it is computed.
-void writeTable(const Typed& typed, const astro::Observer& observer) {
-  if (typed.rows.empty() || typed.step.empty()) {
-    throw UsageError("a table needs --rows N and --step DAYS, such as --rows 24 --step 1/24");
-  }
-  const reports::TableSize size{.rows = readWholeNumber("--rows", typed.rows, 0, mostRows),
-                                .stepDays = readStepDays(typed.step)};
-  checkedBaseTime(
-      observer.baseTime + static_cast<double>(size.rows) * size.stepDays,
-      "the last of " + inQuotes(typed.rows) + " rows at steps of " + inQuotes(typed.step));
-
-  DocumentWriter writer = writerOf(typed);
-  Progress progress(size.rows + 1, goesToStandardOutput(typed));
-  const reports::TextSink sink = [&](std::string_view piece) {
-    writer.write(piece);
-    progress.advance();
-  };
-  if (typed.command == "ephemeris") {
-    reports::writeEphemerisTable(observer, size, sink);
-  } else {
-    reports::writeConjunctionTable(observer.baseTime, size, sink);
-  }
-  writer.finish();
-}
-
-void writeAll(const Typed& typed, const astro::Observer& observer) {
-  if (typed.folder.empty() || !goesToStandardOutput(typed)) {
-    throw UsageError("all needs --out DIR, and takes no -o");
-  }
-  std::error_code error;
-  std::filesystem::create_directories(typed.folder, error);
-  if (error) {
-    throw WriteError("cannot make the folder " + inQuotes(typed.folder) + ": " + error.message());
-  }
-  DocumentWriter list = DocumentWriter::toStandardOutput();
-  for (const documents::Entry& document : documents::allDocuments) {
-    if (document.fileName.empty()) {
-      continue;
-    }
-    const std::string path = (std::filesystem::path(typed.folder) / document.fileName).string();
-    DocumentWriter writer = DocumentWriter::toFile(path);
-    writer.write(documents::textOf(document.document, observer));
-    writer.finish();
-    list.write(path + "\n");
-  }
-  list.finish();
-}
-
-Document documentOf(const Typed& typed) {
   const auto* const found =
-      std::ranges::find(documents::allDocuments, typed.command, &documents::Entry::command);
-  astro::requireInvariant(found != documents::allDocuments.end(),
-                          "every command writes a document");
-  return found->document == Document::horoscope && typed.blackAndWhite ? Document::horoscopeOnPaper
-                                                                       : found->document;
+      std::ranges::find(documents::allDocuments, typed.command, &Entry::command);
+  return found == documents::allDocuments.end() ? nullptr : found;
 }
 
-void run(const Grammar& grammar, const Typed& typed) {
+/// What a command says that writes no document; not of every moment, nor of a place.
+std::string plainText(const Grammar& grammar, const Typed& typed) {
   if (typed.command == "help") {
-    writeText(typed, grammar.helpText(typed.helpTopic));
-    return;
+    return grammar.helpText(typed.helpTopic);
   }
   if (typed.command == "version") {
-    writeText(typed, "veyruna " VEYRUNA_VERSION " (build " VEYRUNA_BUILD_NUMBER ")\n");
-    return;
+    return "veyruna " VEYRUNA_VERSION " (build " VEYRUNA_BUILD_NUMBER ")\n";
   }
   if (typed.command == "locations") {
-    writeText(typed, savedPlacesText());
+    return savedPlacesText();
+  }
+  return astro::shortestText(skyOf(typed).observer.baseTime) + "\n";
+}
+
+void run(const Grammar& grammar, const Typed& typed, const std::vector<std::string>& arguments,
+         const Renderer& renderer) {
+  const Entry* const document = documentOf(typed);
+  const std::vector<Form> forms =
+      askedForms(typed, document == nullptr ? documents::Kind::label : document->kind);
+  if (document == nullptr && typed.command != "all") {
+    askedWidth(typed, forms);
+    DocumentWriter writer = DocumentWriter::to(typed.file);
+    writer.write(plainText(grammar, typed));
+    writer.finish();
     return;
   }
-  const astro::Observer observer = observerOf(typed);
-  if (typed.command == "all") {
-    writeAll(typed, observer);
-  } else if (typed.command == "ephemeris" || typed.command == "conjunctions") {
-    writeTable(typed, observer);
-  } else if (typed.command == "base-time") {
-    writeText(typed, astro::shortestText(observer.baseTime) + "\n");
+  const Sky sky = skyOf(typed);
+  const DocumentCommands commands(typed, sky, forms, renderer);
+  const bool isMade =
+      std::ranges::any_of(forms, [](Form form) { return !documents::formEntry(form).isAsItIs; });
+  if (isMade && !renderer) {
+    becomeDrawingProgram(arguments);
+  }
+  if (document == nullptr) {
+    commands.writeAll();
+  } else if (isTableOfOnesOwn(typed)) {
+    commands.writeTable(*document);
   } else {
-    writeText(typed, documents::textOf(documentOf(typed), observer));
+    commands.writeOne(*document);
   }
 }
 
@@ -173,11 +89,11 @@ int complain(const std::string& message, int status) {
 
 }  // namespace
 
-int runCommandLine(const std::vector<std::string>& arguments) {
+int runCommandLine(const std::vector<std::string>& arguments, const Renderer& renderer) {
   try {
     Grammar grammar;
     const Typed& typed = grammar.parse(arguments);
-    run(grammar, typed);
+    run(grammar, typed, arguments, renderer);
     return succeeded;
   } catch (const UsageError& error) {
     return complain(error.what(), usageWrong);

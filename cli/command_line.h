@@ -3,6 +3,8 @@
 #include <string>
 #include <vector>
 
+#include "cli/rendering.h"
+
 namespace veyruna::cli {
 
 /// Exit statuses of the command.
@@ -12,6 +14,7 @@ inline constexpr int usageWrong = 2;
 
 /// Does what the arguments (without the program's name) ask for and returns the exit status.
 /// Documents go to standard output or a file; one line on standard error says what went wrong.
-int runCommandLine(const std::vector<std::string>& arguments);
+/// Without a renderer the process becomes the program that has one, where one is needed.
+int runCommandLine(const std::vector<std::string>& arguments, const Renderer& renderer = {});
 
 }  // namespace veyruna::cli

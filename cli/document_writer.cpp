@@ -21,13 +21,11 @@ auto named(const std::string& name, Part part) {
   }
 }
 
-/// Standard output under one of its names in the file system: opened anew, it would begin at the
-/// start of the file that a shell appends to.
-bool isStandardOutput(std::string_view path) {
-  return path == "/dev/stdout" || path == "/dev/fd/1" || path == "/proc/self/fd/1";
-}
-
 }  // namespace
+
+bool isStandardOutput(std::string_view file) {
+  return file == "-" || file == "/dev/stdout" || file == "/dev/fd/1" || file == "/proc/self/fd/1";
+}
 
 DocumentWriter::DocumentWriter(std::string name, files::FileWriter writer)
     : name_(std::move(name)), writer_(std::move(writer)) {}
@@ -37,12 +35,12 @@ DocumentWriter DocumentWriter::toStandardOutput() {
   return {name, named(name, [] { return files::FileWriter::toStream(STDOUT_FILENO); })};
 }
 
-DocumentWriter DocumentWriter::toFile(const std::string& path) {
-  if (isStandardOutput(path)) {
+DocumentWriter DocumentWriter::to(const std::string& file) {
+  if (isStandardOutput(file)) {
     return toStandardOutput();
   }
-  const std::string name = inQuotes(path);
-  return {name, named(name, [&] { return files::FileWriter(path); })};
+  const std::string name = inQuotes(file);
+  return {name, named(name, [&] { return files::FileWriter(file); })};
 }
 
 void DocumentWriter::write(std::string_view text) {

@@ -32,8 +32,7 @@ Grammar::Grammar()
   app_->footer("`veyruna help COMMAND` shows an example of each.");
   addMoment();
   addPlace();
-  addValue(*app_, "-o", "FILE", typed_.file,
-           "Write the document to FILE instead of standard output");
+  addOutput();
   for (const documents::Entry& document : documents::allDocuments) {
     if (!document.command.empty()) {
       addCommand(document.command, document.summary);
@@ -119,6 +118,18 @@ void Grammar::addPlace() {
   add("--lat", "DEG", typed_.latitude, "Latitude, 40.5N or 40.5, south negative (40.5)");
   add("--long", "DEG", typed_.longitude, "Longitude, 20.9W or -20.9, west negative (-20.9)");
   add("--location", "NAME", typed_.location, "Instead of both: the name of a saved place");
+}
+
+void Grammar::addOutput() {
+  const auto add = [this](const char* name, const char* type, std::string& typed,
+                          const char* description) {
+    addValue(*app_, name, type, typed, description)->group("Output");
+  };
+  add("-o", "FILE", typed_.file,
+      "Write to FILE instead of standard output; .html, .pdf and .png are drawn");
+  add("--format", "FORM", typed_.formats,
+      "The form, whatever the file is called; of all, several such as svg,pdf,txt");
+  add("--size", "PIXELS", typed_.size, "How wide a PNG is, 16 to 10000 (720, a horoscope 1440)");
 }
 
 void Grammar::refuseTwoOf(const char* whole, const std::string& typed,

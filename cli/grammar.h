@@ -24,6 +24,8 @@ struct Typed {
   std::string longitude = "-20.9";
   std::string location;    ///< empty where the place is given as coordinates
   std::string file = "-";  ///< "-" for standard output
+  std::string formats;     ///< empty where the file's ending, or nothing, says the form
+  std::string size;        ///< empty for a picture as wide as the page
   bool blackAndWhite = false;
   std::string rows;
   std::string step;
@@ -49,6 +51,7 @@ class Grammar {
  private:
   void addMoment();
   void addPlace();
+  void addOutput();
   CLI::App* addCommand(std::string_view name, std::string_view summary,
                        const std::string& exampleEnd = "");
   void addTable(const std::string& name, const std::string& summary, const std::string& example);

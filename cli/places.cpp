@@ -93,13 +93,21 @@ CityPreset placeNamed(const std::string& name) {
 
 }  // namespace
 
+Place placeAt(double latitude, double longitude) {
+  return {latitude, longitude,
+          coordinate(latitude, 'N', 'S') + "  " + coordinate(longitude, 'E', 'W')};
+}
+
 Place savedPlace(const std::string& name) {
   const CityPreset place = placeNamed(name);
   if (!model::isPlaceWithinReach(place.latitude, place.longitude)) {
     throw UsageError("--location: " + inQuotes(name) +
                      " is not on the globe; its stored coordinates are beyond 1000 radians");
   }
-  return {place.latitude, place.longitude};
+  // The coordinates under "Manual" say more than that word.
+  return place.id == model::manualCityID()
+             ? placeAt(place.latitude, place.longitude)
+             : Place{place.latitude, place.longitude, place.name.toStdString()};
 }
 
 std::string savedPlacesText() {

@@ -8,7 +8,11 @@ namespace veyruna::cli {
 struct Place {
   double latitude;
   double longitude;
+  std::string words;  ///< "Ebb", or "40.50°N  20.90°W"
 };
+
+/// A place that was given as coordinates.
+Place placeAt(double latitude, double longitude);
 
 /// The saved place of that name in any letter case; "Manual" is the stored manual fields, and needs
 /// no list. Reads the person's own files and writes nothing; without a file of places, those of a

@@ -5,6 +5,8 @@
 #include <QPainter>
 #include <QPdfWriter>
 #include <cmath>
+#include <stdexcept>
+#include <string>
 
 #include "drawing/picture_painter.h"
 #include "drawing/svg_reader.h"
@@ -27,6 +29,10 @@ QByteArray chartPng(const QByteArray& svg, const QSizeF& pageSizePoints, int wid
   const int height =
       static_cast<int>(std::lround(widthPixels * pageSizePoints.height() / pageSizePoints.width()));
   QImage image(widthPixels, height, QImage::Format_RGB32);
+  if (image.isNull()) {
+    throw std::runtime_error("there is no memory for a picture of " + std::to_string(widthPixels) +
+                             " × " + std::to_string(height) + " pixels");
+  }
   image.fill(Qt::white);
   QPainter painter(&image);
   PicturePainter().paint(painter, picture, image.rect(), Medium::pixels);

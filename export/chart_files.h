@@ -13,6 +13,7 @@ QByteArray chartPdf(const QByteArray& svg, const QSizeF& pageSizePoints,
                     const PdfInformation& information);
 
 /// The same as a PNG picture on white, so many pixels wide, as high as the page's shape asks.
+/// Throws std::runtime_error too where there is no memory for it.
 QByteArray chartPng(const QByteArray& svg, const QSizeF& pageSizePoints, int widthPixels);
 
 }  // namespace veyruna::exports

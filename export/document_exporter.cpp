@@ -2,10 +2,11 @@
 
 #include <QFile>
 #include <cstdio>
+#include <stdexcept>
 #include <system_error>
 #include <utility>
 
-#include "drawing/svg_reader.h"
+#include "export/said_text.h"
 #include "files/file_writer.h"
 
 namespace veyruna::exports {
@@ -44,28 +45,29 @@ FailureSink standardOutput() {
 DocumentExporter::DocumentExporter(const model::AstronomyModel& model, FailureSink failures)
     : model_(model), failures_(std::move(failures)) {}
 
-std::optional<PdfExport> DocumentExporter::pdf(OutputTab tab) const {
-  return pdfExport(model_, tab);
-}
-
 std::optional<NativeExport> DocumentExporter::native(OutputTab tab) const {
   return nativeExport(model_, tab);
 }
 
-void DocumentExporter::save(const PdfExport& content, const QString& path,
+std::optional<SheetExport> DocumentExporter::sheet(OutputTab tab, documents::Form form) const {
+  return sheetExport(model_, tab, form);
+}
+
+void DocumentExporter::save(const SheetExport& content, const QString& path,
                             const Saved& saved) const {
   if (path.isEmpty()) {
     return;
   }
-  QByteArray pdf;
+  const QString name = saidText(documents::formEntry(content.form).name);
+  QByteArray bytes;
   try {
-    pdf = pdfOf(content);
-  } catch (const drawing::PictureError& error) {
-    conclude(failures_, QStringLiteral("Error rendering PDF: "), QString::fromUtf8(error.what()),
-             saved);
+    bytes = bytesOf(content, content.form);
+  } catch (const std::runtime_error& error) {
+    conclude(failures_, QStringLiteral("Error rendering %1: ").arg(name),
+             QString::fromUtf8(error.what()), saved);
     return;
   }
-  conclude(failures_, QStringLiteral("Error writing PDF: "), written(path, pdf), saved);
+  conclude(failures_, QStringLiteral("Error writing %1: ").arg(name), written(path, bytes), saved);
 }
 
 void DocumentExporter::save(const NativeExport& content, const QString& path,
@@ -74,8 +76,8 @@ void DocumentExporter::save(const NativeExport& content, const QString& path,
     return;
   }
   conclude(failures_,
-           content.format == NativeFormat::svg ? QStringLiteral("Error saving SVG: ")
-                                               : QStringLiteral("Error saving text: "),
+           content.form == documents::Form::svg ? QStringLiteral("Error saving SVG: ")
+                                                : QStringLiteral("Error saving text: "),
            written(path, content.text.toUtf8()), saved);
 }
 

@@ -27,12 +27,13 @@ class DocumentExporter {
                             FailureSink failures = standardOutput());
 
   /// What the tab shows now; nothing for the location.
-  [[nodiscard]] std::optional<PdfExport> pdf(OutputTab tab) const;
   [[nodiscard]] std::optional<NativeExport> native(OutputTab tab) const;
+  /// In a form that is made of it; nothing either in one that the tab's documents cannot have.
+  [[nodiscard]] std::optional<SheetExport> sheet(OutputTab tab, documents::Form form) const;
 
-  /// Draws and writes the PDF; `saved` is called once, before this returns. An empty path is a
-  /// dialog that was cancelled: nothing happens and `saved` is not called.
-  void save(const PdfExport& content, const QString& path, const Saved& saved = {}) const;
+  /// Makes the file in its form and writes it; `saved` is called once, before this returns. An
+  /// empty path is a dialog that was cancelled: nothing happens and `saved` is not called.
+  void save(const SheetExport& content, const QString& path, const Saved& saved = {}) const;
 
   /// Writes the text as UTF-8; `saved` is called once, before this returns. An empty path likewise.
   void save(const NativeExport& content, const QString& path, const Saved& saved = {}) const;

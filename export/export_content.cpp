@@ -2,39 +2,39 @@
 
 #include <QStringList>
 
-#include "export/chart_files.h"
-#include "export/chart_page.h"
 #include "export/file_names.h"
-#include "export/report_page.h"
-#include "export/report_pages.h"
+#include "export/said_text.h"
 
 namespace veyruna::exports {
 
 namespace {
 
+using documents::Form;
 using model::AstronomyModel;
 
-/// A kind of file.
-struct FileType {
-  QStringView extension;
-  QStringView message;
-};
-constexpr FileType pdfFile{u"pdf", u"Choose where to save the PDF file"};
-constexpr FileType svgFile{u"svg", u"Choose where to save the SVG file"};
-constexpr FileType textFile{u"txt", u"Choose where to save the text file"};
+/// What the save dialog asks.
+QString messageFor(Form form) {
+  return QStringLiteral("Choose where to save the ") +
+         (form == Form::text ? QStringLiteral("text") : saidText(documents::formEntry(form).name)) +
+         QStringLiteral(" file");
+}
+
+QString nameFor(const AstronomyModel& model, const TabEntry& tab, Form form) {
+  return proposedFileName(model, tab.filePrefix, saidText(documents::formEntry(form).extension));
+}
 
 /// The chart of a tab that has one.
 QString chartSvg(const AstronomyModel& model, const TabEntry& tab) {
   return model.text(tab.sections.front().document);
 }
 
-Report reportOf(const AstronomyModel& model, const TabEntry& tab) {
-  Report report{tab.reportTitle.toString(), metaText(model), {}};
+QList<ReportSection> sectionsOf(const AstronomyModel& model, const TabEntry& tab) {
+  QList<ReportSection> sections;
   for (const TabSection& section : tab.sections) {
-    report.sections.append({heading(section.document), model.text(section.document),
-                            documents::entryOf(section.document).columnHeadingLines});
+    sections.append({heading(section.document), model.text(section.document),
+                     documents::entryOf(section.document).columnHeadingLines});
   }
-  return report;
+  return sections;
 }
 
 /// One table as it is; several under their headings between em dashes.
@@ -52,39 +52,25 @@ QString tablesText(const AstronomyModel& model, const TabEntry& tab) {
 
 }  // namespace
 
-QString metaText(const AstronomyModel& model) {
-  return model.dateLabel() + QStringLiteral("   ") + inputPlaceText(model, u"  ");
+SheetSky skyOf(const AstronomyModel& model) {
+  return {model.dateLabel(), inputPlaceText(model, u"  ")};
 }
 
-std::optional<PdfExport> pdfExport(const AstronomyModel& model, OutputTab tab) {
+std::optional<SheetExport> sheetExport(const AstronomyModel& model, OutputTab tab, Form form) {
   const TabEntry& entry = entryOf(tab);
-  if (entry.sections.empty()) {
+  if (entry.sections.empty() ||
+      !documents::canBe(documents::entryOf(entry.sections.front().document).kind, form)) {
     return std::nullopt;
   }
-  const QString what = isChart(tab) ? title(tab) : entry.reportTitle.toString();
-  PdfExport document;
-  document.tab = tab;
-  if (isChart(tab)) {
-    document.svg = chartSvg(model, entry);
-  } else {
-    document.report = reportOf(model, entry);
-  }
-  document.pageSizePoints = entry.pageSizePoints;
-  document.information = {what + QStringLiteral(", ") + model.dateLabel(),
-                          QStringLiteral("Veyruna Astro " VEYRUNA_VERSION)};
-  document.proposedName = proposedFileName(model, entry.filePrefix, pdfFile.extension);
-  document.message = pdfFile.message.toString();
-  return document;
-}
-
-QByteArray pdfOf(const PdfExport& document) {
-  return isChart(document.tab)
-             ? chartPdf(document.svg.toUtf8(), document.pageSizePoints, document.information)
-             : reportPdf(document.report, document.information);
-}
-
-QString htmlOf(const PdfExport& document) {
-  return isChart(document.tab) ? chartPage(document.svg) : reportDocument(document.report);
+  const SheetSky sky = skyOf(model);
+  SheetExport content;
+  static_cast<Sheet&>(content) =
+      isChart(tab) ? chartSheet(entry, chartSvg(model, entry), sky)
+                   : reportSheet(entry.reportTitle.toString(), sectionsOf(model, entry), sky);
+  content.form = form;
+  content.proposedName = nameFor(model, entry, form);
+  content.message = messageFor(form);
+  return content;
 }
 
 std::optional<NativeExport> nativeExport(const AstronomyModel& model, OutputTab tab) {
@@ -92,12 +78,9 @@ std::optional<NativeExport> nativeExport(const AstronomyModel& model, OutputTab 
   if (entry.sections.empty()) {
     return std::nullopt;
   }
-  const bool isSvg = isChart(tab);
-  const FileType& type = isSvg ? svgFile : textFile;
-  return NativeExport{isSvg ? chartSvg(model, entry) : tablesText(model, entry),
-                      isSvg ? NativeFormat::svg : NativeFormat::text, type.extension.toString(),
-                      proposedFileName(model, entry.filePrefix, type.extension),
-                      type.message.toString()};
+  const Form form = documents::ownForm(documents::entryOf(entry.sections.front().document).kind);
+  return NativeExport{isChart(tab) ? chartSvg(model, entry) : tablesText(model, entry), form,
+                      nameFor(model, entry, form), messageFor(form)};
 }
 
 }  // namespace veyruna::exports

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "astro/invariant.h"
+#include "export/report_pages.h"
 
 namespace veyruna::exports {
 
@@ -18,8 +19,6 @@ constexpr std::array sunMoonSections = {TabSection{Document::hourly},
 constexpr std::array positionsSections = {TabSection{Document::daily, u"Daily Conjunctions"},
                                           TabSection{Document::yearly, u"Yearly Conjunctions"}};
 
-constexpr QSizeF letterPoints(612, 792);
-
 }  // namespace
 
 // The bodies' tab is called after the sun; the conjunctions' files after their tab, their report
@@ -28,11 +27,11 @@ constexpr std::array<TabEntry, outputTabCount> allTabs = {{
     {OutputTab::starMap, u"Star Map", starMapSections, u"Star Map", u"", QSizeF(720, 720)},
     {OutputTab::horoscope, u"Horoscope", horoscopeSections, u"Horoscope", u"", QSizeF(1440, 760)},
     {OutputTab::planets, u"Thessil System", planetsSections, u"Planets", u"Planet Positions",
-     letterPoints},
+     reportPageSizePoints},
     {OutputTab::sunMoon, u"Sun & Moon", sunMoonSections, u"Sun & Moon", u"Sun & Moon",
-     letterPoints},
+     reportPageSizePoints},
     {OutputTab::positions, u"Positions", positionsSections, u"Positions", u"Conjunctions",
-     letterPoints},
+     reportPageSizePoints},
     {OutputTab::location, u"Location", {}, u"", u"", QSizeF()},
 }};
 

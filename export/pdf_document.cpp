@@ -1,13 +1,29 @@
 #include "export/pdf_document.h"
 
 #include <QBuffer>
+#include <QHash>
 #include <QPainter>
 #include <QPdfWriter>
 
 namespace veyruna::exports {
 
+namespace {
+
+/// Qt writes the fonts of a PDF in the order of a hash, which differs from process to process. In
+/// the life of this it is always the same.
+class SameOrder {
+ public:
+  SameOrder() { QHashSeed::setDeterministicGlobalSeed(); }
+  SameOrder(const SameOrder&) = delete;
+  SameOrder& operator=(const SameOrder&) = delete;
+  ~SameOrder() { QHashSeed::resetRandomGlobalSeed(); }
+};
+
+}  // namespace
+
 QByteArray pdfDocument(const PdfInformation& information, const QSizeF& pageSizePoints,
                        const std::function<void(QPainter& painter, QPdfWriter& writer)>& paint) {
+  const SameOrder sameOrder;
   constexpr int pointsPerInch = 72;
   constexpr int dotsPerPoint = 10;  // as fine as a printer draws
   QByteArray bytes;

@@ -15,7 +15,7 @@ using drawing::Face;
 using drawing::GlyphRow;
 using drawing::Letters;
 
-constexpr QSizeF page(612.0, 792.0);
+constexpr QSizeF page = reportPageSizePoints;
 constexpr double margin = 28.0;
 constexpr double roomBetween = page.width() - 2.0 * margin;
 constexpr double lastLine = page.height() - margin;

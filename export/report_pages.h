@@ -1,13 +1,17 @@
 #pragma once
 
 #include <QByteArray>
+#include <QSizeF>
 
 #include "export/pdf_document.h"
 #include "export/report.h"
 
 namespace veyruna::exports {
 
-/// A report on pages of US Letter: title and small line, then the tables under their headings, in
+/// US Letter.
+inline constexpr QSizeF reportPageSizePoints(612, 792);
+
+/// A report on pages of that size: title and small line, then the tables under their headings, in
 /// the sizes, colours and margins of its HTML form. Tables wider than the page are set smaller, all
 /// alike. A table that goes on repeats its column headings; a page that goes on says of what; every
 /// page of several has its number.

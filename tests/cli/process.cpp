@@ -122,17 +122,18 @@ void shut(int& descriptor) {
 }  // namespace
 
 Process::Process(const Invocation& invocation) {
-  std::vector<std::string> arguments = {VEYRUNA_PROGRAM};
+  const std::string path = invocation.program.empty() ? programPath() : invocation.program;
+  std::vector<std::string> arguments = {path};
   arguments.insert(arguments.end(), invocation.arguments.begin(), invocation.arguments.end());
   std::vector<std::string> environment = environmentWith(invocation.environment);
   const std::vector<char*> argv = pointersTo(arguments);
   const std::vector<char*> envp = pointersTo(environment);
 
-  int program = open(VEYRUNA_PROGRAM, O_PATH | O_CLOEXEC);
-  require(program >= 0, VEYRUNA_PROGRAM);
+  int program = open(path.c_str(), O_PATH | O_CLOEXEC);
+  require(program >= 0, path.c_str());
   Ends out;
   if (invocation.standardOutput.empty()) {
-    out = newPipe();
+    out = invocation.outputOnTerminal ? newTerminal() : newPipe();
   } else {
     out.writing = open(invocation.standardOutput.c_str(), O_WRONLY | O_CLOEXEC);
     require(out.writing >= 0, invocation.standardOutput.c_str());
@@ -208,6 +209,10 @@ Outcome Process::outcome() {
     throw std::runtime_error("the command could not be started");
   }
   return outcome_;
+}
+
+std::string programPath() {
+  return VEYRUNA_PROGRAM;
 }
 
 Outcome run(const Invocation& invocation) {

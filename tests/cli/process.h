@@ -13,10 +13,12 @@ struct Invocation {
   std::string folder = {};                    ///< where it works; the tests' own where empty
   std::string standardOutput = {};            ///< an existing file; a pipe where empty
   bool closesStandardOutput = false;          ///< it starts with none at all
+  bool outputOnTerminal = false;              ///< standard output is a terminal, not a pipe
   bool errorsOnTerminal = false;              ///< standard error is a terminal, not a pipe
   bool ignoresPipeSignal = false;             ///< as under a parent that had SIGPIPE ignored
   bool asNobody = false;                      ///< without the rights of root, where the tests are
   std::size_t addressSpace = 0;               ///< bytes it may map; 0 for no limit
+  std::string program = {};                   ///< a copy of it; the built one where empty
 };
 
 /// How it ended and what it wrote.
@@ -54,6 +56,9 @@ class Process {
   int err_ = -1;
   Outcome outcome_;
 };
+
+/// Where the built command is; what draws for it stands in the same folder.
+std::string programPath();
 
 Outcome run(const Invocation& invocation);
 Outcome runWith(const std::vector<std::string>& arguments);

@@ -2,8 +2,10 @@
 #include "export/document_exporter.h"
 
 #include <QFile>
+#include <QImage>
 #include <algorithm>
 #include <array>
+#include <csignal>
 #include <cstdio>
 #include <fcntl.h>
 #include <gtest/gtest.h>
@@ -19,6 +21,7 @@ namespace veyruna {
 namespace {
 
 using namespace Qt::StringLiterals;
+using documents::Form;
 using exports::DocumentExporter;
 using exports::OutputTab;
 using tests::bytesIn;
@@ -72,7 +75,7 @@ TEST_F(Exporting, PdfsOfTheTabs) {
     QString prefix;
   };
   const auto& model = world.model;
-  const QString meta = exports::metaText(model);
+  const QString meta = exports::metaText(exports::skyOf(model));
   const std::vector<Expected> all = {
       {OutputTab::starMap, exports::chartPage(model.starMapSVG()), {720, 720}, u"Star Map"_s},
       {OutputTab::horoscope, exports::chartPage(model.horoscopeSVG()), {1440, 760}, u"Horoscope"_s},
@@ -97,7 +100,7 @@ TEST_F(Exporting, PdfsOfTheTabs) {
        u"Positions"_s},
   };
   for (const Expected& expected : all) {
-    const auto content = exporter.pdf(expected.tab);
+    const auto content = exporter.sheet(expected.tab, Form::pdf);
     ASSERT_TRUE(content);
     EXPECT_EQ(exports::htmlOf(*content), expected.html);
     EXPECT_EQ(content->pageSizePoints, expected.points);
@@ -105,7 +108,7 @@ TEST_F(Exporting, PdfsOfTheTabs) {
               expected.prefix + u" - 40.50°N 20.90°W - 720-01-01 12-00.pdf"_s);
     EXPECT_EQ(content->message, u"Choose where to save the PDF file"_s);
   }
-  EXPECT_FALSE(exporter.pdf(OutputTab::location));
+  EXPECT_FALSE(exporter.sheet(OutputTab::location, Form::pdf));
 }
 
 TEST_F(Exporting, TextsOfTheTabs) {
@@ -139,8 +142,7 @@ TEST_F(Exporting, TextsOfTheTabs) {
     EXPECT_EQ(content->text, expected.text);
     EXPECT_EQ(content->proposedName, expected.name);
     EXPECT_EQ(content->message, expected.message);
-    EXPECT_EQ(content->format, exports::isChart(expected.tab) ? exports::NativeFormat::svg
-                                                              : exports::NativeFormat::text);
+    EXPECT_EQ(content->form, exports::isChart(expected.tab) ? Form::svg : Form::text);
     exporter.save(*content, folder / content->proposedName, saved());
     EXPECT_EQ(bytesIn(folder / content->proposedName), expected.text.toUtf8());
   }
@@ -152,7 +154,7 @@ TEST_F(Exporting, TextsOfTheTabs) {
 
 TEST_F(Exporting, SectionsOfTheReports) {
   const auto headings = [this](OutputTab tab) {
-    QStringList found = exports::htmlOf(*exporter.pdf(tab)).split(u"<h2>"_s).mid(1);
+    QStringList found = exports::htmlOf(*exporter.sheet(tab, Form::pdf)).split(u"<h2>"_s).mid(1);
     for (QString& heading : found) {
       heading = heading.section(u"</h2>"_s, 0, 0);
     }
@@ -161,22 +163,23 @@ TEST_F(Exporting, SectionsOfTheReports) {
   EXPECT_EQ(headings(OutputTab::planets), u"Positions"_s);
   EXPECT_EQ(headings(OutputTab::sunMoon), u"Hourly|Monthly"_s);
   EXPECT_EQ(headings(OutputTab::positions), u"Daily|Yearly"_s);
-  EXPECT_TRUE(
-      exports::htmlOf(*exporter.pdf(OutputTab::positions)).contains(u"<h1>Conjunctions</h1>"_s));
+  EXPECT_TRUE(exports::htmlOf(*exporter.sheet(OutputTab::positions, Form::pdf))
+                  .contains(u"<h1>Conjunctions</h1>"_s));
 }
 
 TEST_F(Exporting, PlaceNameInReportAndFileName) {
   world.selectPlaceCalled(u"Salt & <Sand>"_s);
-  const auto content = exporter.pdf(OutputTab::planets);
+  const auto content = exporter.sheet(OutputTab::planets, Form::pdf);
   EXPECT_TRUE(exports::htmlOf(*content).contains(u"OST   Salt &amp; &lt;Sand&gt;</div>"_s));
   EXPECT_EQ(content->proposedName, u"Planets - Salt & <Sand> - 720-01-01 12-00.pdf"_s);
 }
 
 TEST(ExportingEarly, GivesEmptyDocuments) {
   const tests::FakeModel world;
-  EXPECT_EQ(exports::htmlOf(*exports::pdfExport(world.model, OutputTab::starMap)),
+  EXPECT_EQ(exports::htmlOf(*exports::sheetExport(world.model, OutputTab::starMap, Form::pdf)),
             exports::chartPage({}));
-  EXPECT_FALSE(exports::pdfOf(*exports::pdfExport(world.model, OutputTab::starMap)).isEmpty());
+  EXPECT_FALSE(
+      exports::pdfOf(*exports::sheetExport(world.model, OutputTab::starMap, Form::pdf)).isEmpty());
   EXPECT_EQ(exports::nativeExport(world.model, OutputTab::horoscope)->text, QString());
   EXPECT_EQ(exports::nativeExport(world.model, OutputTab::sunMoon)->text,
             u"— Hourly —\n\n\n\n— Monthly —\n\n"_s);
@@ -187,7 +190,7 @@ TEST(ExportingEarly, GivesEmptyDocuments) {
 
 TEST_F(Exporting, SavesWhatWasShownWhenItWasChosen) {
   const auto svg = exporter.native(OutputTab::starMap);
-  const auto pdf = exporter.pdf(OutputTab::planets);
+  const auto pdf = exporter.sheet(OutputTab::planets, Form::pdf);
   const QString shown = world.model.starMapSVG();
   const QByteArray bytes = tests::withoutDates(exports::pdfOf(*pdf));
   world.model.setHour(3.0);
@@ -201,7 +204,7 @@ TEST_F(Exporting, SavesWhatWasShownWhenItWasChosen) {
 
 TEST_F(Exporting, DoesNothingWithoutADestination) {
   exporter.save(*exporter.native(OutputTab::starMap), {}, saved());
-  exporter.save(*exporter.pdf(OutputTab::starMap), {}, saved());
+  exporter.save(*exporter.sheet(OutputTab::starMap, Form::pdf), {}, saved());
   EXPECT_TRUE(folder.names().isEmpty());
   EXPECT_TRUE(outcomes.isEmpty());
   EXPECT_TRUE(failures.isEmpty());
@@ -211,10 +214,16 @@ TEST_F(Exporting, TellsEachFailureUnderItsPrefix) {
   const QString path = folder / u"gone/file"_s;
   exporter.save(*exporter.native(OutputTab::horoscope), path, saved());
   exporter.save(*exporter.native(OutputTab::planets), path, saved());
-  exporter.save(*exporter.pdf(OutputTab::planets), path, saved());
-  auto broken = exporter.pdf(OutputTab::starMap);
+  exporter.save(*exporter.sheet(OutputTab::planets, Form::pdf), path, saved());
+  auto broken = exporter.sheet(OutputTab::starMap, Form::pdf);
   broken->svg = u"<svg"_s;
   exporter.save(*broken, folder / u"a.pdf"_s, saved());
+  exporter.save(*exporter.sheet(OutputTab::planets, Form::html), path, saved());
+  exporter.save(*exporter.sheet(OutputTab::starMap, Form::png), path, saved());
+  EXPECT_EQ(failures.mid(4).join(u'|'), u"Error writing HTML: "_s + reasonOf(ENOENT) +
+                                            u"|Error writing PNG: "_s + reasonOf(ENOENT));
+  failures = failures.mid(0, 4);
+  outcomes = outcomes.mid(0, 4);
   const QString gone = reasonOf(ENOENT);
   EXPECT_EQ(failures.join(u'\n'), u"Error saving SVG: "_s + gone + u"\nError saving text: "_s +
                                       gone + u"\nError writing PDF: "_s + gone +
@@ -255,17 +264,17 @@ TEST_F(Exporting, AFailureIsInAPipeAtOnce) {
 }
 
 TEST_F(Exporting, PdfsSayWhatTheyHoldAndOfWhen) {
-  const auto chart = exporter.pdf(OutputTab::horoscope);
+  const auto chart = exporter.sheet(OutputTab::horoscope, Form::pdf);
   EXPECT_EQ(chart->information.title, u"Horoscope, 720-01-01 12:00 OST"_s);
   EXPECT_TRUE(chart->information.program.startsWith(u"Veyruna Astro "_s));
-  EXPECT_EQ(exporter.pdf(OutputTab::positions)->information.title,
+  EXPECT_EQ(exporter.sheet(OutputTab::positions, Form::pdf)->information.title,
             u"Conjunctions, 720-01-01 12:00 OST"_s);
 }
 
 TEST_F(Exporting, PdfsOfTablesRepeatTheHeadingsOfTheirColumns) {
   const auto linesAbove = [this](OutputTab tab) {
     QList<int> lines;
-    const auto document = exporter.pdf(tab);
+    const auto document = exporter.sheet(tab, Form::pdf);
     for (const exports::ReportSection& section : document->report.sections) {
       lines.append(section.columnHeadingLines);
     }
@@ -276,9 +285,68 @@ TEST_F(Exporting, PdfsOfTablesRepeatTheHeadingsOfTheirColumns) {
   EXPECT_EQ(linesAbove(OutputTab::positions), QList<int>({2, 2}));
 }
 
+TEST_F(Exporting, EachFormSaysWhatItIs) {
+  const auto html = exporter.sheet(OutputTab::sunMoon, Form::html);
+  EXPECT_EQ(html->message, u"Choose where to save the HTML file"_s);
+  EXPECT_EQ(html->proposedName, u"Sun & Moon - 40.50°N 20.90°W - 720-01-01 12-00.html"_s);
+  const auto png = exporter.sheet(OutputTab::starMap, Form::png);
+  EXPECT_EQ(png->message, u"Choose where to save the PNG file"_s);
+  EXPECT_EQ(png->proposedName, u"Star Map - 40.50°N 20.90°W - 720-01-01 12-00.png"_s);
+  for (const OutputTab tab : exports::outputTabs) {
+    EXPECT_EQ(exporter.sheet(tab, Form::png).has_value(), exports::isChart(tab));
+    EXPECT_EQ(exporter.sheet(tab, Form::html).has_value(), tab != OutputTab::location);
+  }
+}
+
+TEST_F(Exporting, TheFileHoldsTheForm) {
+  for (const OutputTab tab : exports::outputTabs) {
+    for (const Form form : {Form::html, Form::pdf, Form::png}) {
+      const auto content = exporter.sheet(tab, form);
+      if (!content) {
+        continue;
+      }
+      const QString path = folder / content->proposedName;
+      exporter.save(*content, path, saved());
+      EXPECT_EQ(outcomes.last(), u"saved"_s);
+      const QByteArray bytes = bytesIn(path);
+      if (form == Form::html) {
+        EXPECT_EQ(bytes, exports::htmlOf(*content).toUtf8());
+      } else if (form == Form::pdf) {
+        EXPECT_EQ(tests::withoutDates(bytes), tests::withoutDates(exports::pdfOf(*content)));
+      } else {
+        EXPECT_EQ(QImage::fromData(bytes, "PNG").size(), content->pageSizePoints.toSize());
+        EXPECT_EQ(QImage::fromData(exports::bytesOf(*content, form, 360), "PNG").width(), 360);
+      }
+    }
+  }
+}
+
+TEST_F(Exporting, AFormThatNothingIsMadeIntoIsABrokenInvariant) {
+  const auto tables = exporter.sheet(OutputTab::planets, Form::pdf);
+  EXPECT_EXIT(exports::bytesOf(*tables, Form::png), testing::KilledBySignal(SIGABRT),
+              "a sheet is made into a form that it can have");
+}
+
+TEST_F(Exporting, ADocumentByItselfHasTheTitlesOfItsTab) {
+  const exports::SheetSky sky{u"720-01-01 12:00 OST"_s, u"Ebb"_s};
+  const auto titleOf = [&sky](documents::Document document) {
+    return exports::documentSheet(document, u"Heading"_s, u"text"_s, sky).information.title;
+  };
+  EXPECT_EQ(titleOf(documents::Document::starMap), u"Star Map, 720-01-01 12:00 OST"_s);
+  EXPECT_EQ(titleOf(documents::Document::horoscopeOnPaper), u"Horoscope, 720-01-01 12:00 OST"_s);
+  EXPECT_EQ(titleOf(documents::Document::daily), u"Conjunctions, 720-01-01 12:00 OST"_s);
+  EXPECT_EQ(titleOf(documents::Document::moment), u"Moment, 720-01-01 12:00 OST"_s);
+  const exports::Sheet table =
+      exports::documentSheet(documents::Document::daily, u"Heading"_s, u"text"_s, sky);
+  EXPECT_EQ(exports::htmlOf(table), exports::reportDocument({u"Conjunctions"_s,
+                                                             u"720-01-01 12:00 OST   Ebb"_s,
+                                                             {{u"Heading"_s, u"text"_s, 2}}}));
+  EXPECT_EQ(table.report.sections.front().columnHeadingLines, 2);
+}
+
 TEST_F(Exporting, PdfsAreWritten) {
   for (const OutputTab tab : exports::outputTabs) {
-    if (const auto content = exporter.pdf(tab)) {
+    if (const auto content = exporter.sheet(tab, Form::pdf)) {
       const QString path = folder / content->proposedName;
       exporter.save(*content, path, saved());
       EXPECT_TRUE(bytesIn(path).startsWith("%PDF-")) << path.toStdString();

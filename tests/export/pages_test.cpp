@@ -73,18 +73,18 @@ TEST(Report, MayHaveNoSections) {
 
 TEST(Meta, NamesTheMomentCalculatedAndThePlaceChosen) {
   tests::FakeModel world;
-  EXPECT_EQ(metaText(world.model), u"   40.50°N  20.90°W"_s);
+  EXPECT_EQ(metaText(exports::skyOf(world.model)), u"   40.50°N  20.90°W"_s);
   world.calculate();
   world.model.setYear(3);
   world.model.setManualLatDeg(1.0);
   world.model.setLatNorth(false);
-  EXPECT_EQ(metaText(world.model), u"720-01-01 12:00 OST   1.00°S  20.90°W"_s);
+  EXPECT_EQ(metaText(exports::skyOf(world.model)), u"720-01-01 12:00 OST   1.00°S  20.90°W"_s);
 }
 
 TEST(Meta, HoldsTheNameOfASavedPlaceWhole) {
   tests::FakeModel world;
   world.model.setSelectedCityID(std::get<QUuid>(world.model.addCity(u"A/B & <C>"_s)));
-  EXPECT_EQ(metaText(world.model), u"   A/B & <C>"_s);
+  EXPECT_EQ(metaText(exports::skyOf(world.model)), u"   A/B & <C>"_s);
 }
 
 }  // namespace

@@ -115,7 +115,7 @@ TEST_P(EveryTabSaved, HoldsItsDocumentsInBothForms) {
   for (const TabEntry& tab : exports::allTabs) {
     SCOPED_TRACE(tab.title.toString().toStdString());
     const auto native = exports::nativeExport(world.model, tab.tab);
-    const auto pdf = exports::pdfExport(world.model, tab.tab);
+    const auto pdf = exports::sheetExport(world.model, tab.tab, documents::Form::pdf);
     ASSERT_EQ(native.has_value(), !tab.sections.empty());
     ASSERT_EQ(pdf.has_value(), !tab.sections.empty());
     for (const exports::TabSection& section : tab.sections) {

@@ -26,7 +26,7 @@ std::optional<QString> saved(const QString& path, const QString& text) {
   const tests::FakeModel world;
   const DocumentExporter exporter(world.model, [](const QString& /*line*/) {});
   std::optional<QString> error = u"never told"_s;
-  exporter.save(exports::NativeExport{text, exports::NativeFormat::text, {}, {}, {}}, path,
+  exporter.save(exports::NativeExport{text, documents::Form::text, {}, {}}, path,
                 [&error](const std::optional<QString>& told) { error = told; });
   return error;
 }

@@ -2,6 +2,7 @@
 
 #include <QFileInfo>
 
+#include "export/said_text.h"
 #include "ui/window/changed_inputs.h"
 #include "ui/window/export_notice.h"
 #include "ui/window/save_dialog.h"
@@ -20,27 +21,29 @@ ExportCommands::ExportCommands(model::AstronomyModel& model, WindowState& state,
 
 void ExportCommands::exportNative(exports::OutputTab tab) {
   if (const auto content = exporter_.native(tab)) {
-    const bool isSvg = content->format == exports::NativeFormat::svg;
-    ask(*content, isSvg ? tr("SVG") : tr("Plain text"), content->extension);
+    ask(*content);
   }
 }
 
-void ExportCommands::exportPdf(exports::OutputTab tab) {
-  if (const auto content = exporter_.pdf(tab)) {
-    ask(*content, tr("PDF"), QStringLiteral("pdf"));
+void ExportCommands::exportAs(documents::Form form, exports::OutputTab tab) {
+  if (const auto content = exporter_.sheet(tab, form)) {
+    ask(*content);
   }
 }
 
 template <class Content>
-void ExportCommands::ask(const Content& content, const QString& typeName, const QString& suffix) {
+void ExportCommands::ask(const Content& content) {
+  const documents::FormEntry& form = documents::formEntry(content.form);
   notice_.dismissFailure();
-  askWhereToSave(
-      window_, {content.message, state_.exportFolder(), content.proposedName, typeName, suffix},
-      [this, content, remark = changedInputsRemark(model_)](const QString& path) {
-        exporter_.save(content, path, [this, path, remark](const std::optional<QString>& error) {
-          report(QFileInfo(path), remark, error);
-        });
-      });
+  askWhereToSave(window_,
+                 {content.message, state_.exportFolder(), content.proposedName,
+                  exports::saidText(form.name), exports::saidText(form.extension)},
+                 [this, content, remark = changedInputsRemark(model_)](const QString& path) {
+                   exporter_.save(content, path,
+                                  [this, path, remark](const std::optional<QString>& error) {
+                                    report(QFileInfo(path), remark, error);
+                                  });
+                 });
 }
 
 void ExportCommands::report(const QFileInfo& file, const QString& remark,

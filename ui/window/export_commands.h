@@ -13,7 +13,7 @@ namespace veyruna::ui {
 class ExportNotice;
 class WindowState;
 
-/// The two export commands of a window: what the tab shows is taken when the command is chosen,
+/// The export commands of a window: what the tab shows is taken when the command is chosen,
 /// then the person is asked where it goes, then it is written and the notice says how that ended.
 class ExportCommands final : public QObject {
   Q_OBJECT
@@ -23,13 +23,15 @@ class ExportCommands final : public QObject {
   ExportCommands(model::AstronomyModel& model, WindowState& state, ExportNotice& notice,
                  QWidget& window);
 
-  /// Saves what the tab shows, as it is or as PDF; for the location both do nothing.
+  /// Saves what the tab shows as it is; for the location nothing happens.
   void exportNative(exports::OutputTab tab);
-  void exportPdf(exports::OutputTab tab);
+  /// Saves it in a form that is made of it; nothing happens where the tab's documents cannot have
+  /// that form.
+  void exportAs(documents::Form form, exports::OutputTab tab);
 
  private:
   template <class Content>
-  void ask(const Content& content, const QString& typeName, const QString& suffix);
+  void ask(const Content& content);
   void report(const QFileInfo& file, const QString& remark, const std::optional<QString>& error);
 
   const model::AstronomyModel& model_;

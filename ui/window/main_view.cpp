@@ -32,6 +32,7 @@ namespace veyruna::ui {
 
 namespace {
 
+using documents::Form;
 using exports::OutputTab;
 
 constexpr int idealSidebarWidth = 300;
@@ -68,7 +69,7 @@ MainView::MainView(model::AstronomyModel& model, model::LiveTime& time, WindowSt
   connect(sidebar_, &SidebarView::nativeExportRequested, this,
           [this] { exports_->exportNative(settledTab()); });
   connect(sidebar_, &SidebarView::pdfExportRequested, this,
-          [this] { exports_->exportPdf(settledTab()); });
+          [this] { exports_->exportAs(Form::pdf, settledTab()); });
   connect(&model, &model::AstronomyModel::isCalculatingChanged, notice_,
           &ExportNotice::dismissFailure);
   for (QGroupBox* const box : sidebar_->findChildren<QGroupBox*>()) {
@@ -127,7 +128,7 @@ void MainView::selectTab(OutputTab tab) {
   notice_->dismissFailure();
   const bool isSaved = tab != OutputTab::location;
   saveNative_->setText(exports::isChart(tab) ? tr("&Save as SVG…") : tr("&Save as Text…"));
-  for (QAction* const action : {saveNative_, savePdf_, printAction_}) {
+  for (QAction* const action : {saveNative_, savePdf_, saveHtml_, printAction_}) {
     action->setEnabled(isSaved);
     action->setStatusTip(isSaved ? QString() : tr("This tab has nothing to save or print."));
   }
@@ -151,7 +152,9 @@ void MainView::makeMenus() {
   saveNative_ = add(file, QString(), "Ctrl+S",
                     [](MainView* view) { view->exports_->exportNative(view->settledTab()); });
   savePdf_ = add(file, tr("Save as P&DF…"), "Ctrl+Shift+S",
-                 [](MainView* view) { view->exports_->exportPdf(view->settledTab()); });
+                 [](MainView* view) { view->exports_->exportAs(Form::pdf, view->settledTab()); });
+  saveHtml_ = add(file, tr("Save as &HTML…"), "",
+                  [](MainView* view) { view->exports_->exportAs(Form::html, view->settledTab()); });
   printAction_ = add(file, tr("&Print…"), "Ctrl+P",
                      [](MainView* view) { view->print_->print(view->settledTab()); });
   file->addSeparator();

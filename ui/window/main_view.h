@@ -71,6 +71,7 @@ class MainView final : public QMainWindow {
   PrintCommand* print_ = nullptr;
   QAction* saveNative_ = nullptr;
   QAction* savePdf_ = nullptr;
+  QAction* saveHtml_ = nullptr;
   QAction* printAction_ = nullptr;
   Placement placement_;
   exports::OutputTab selectedTab_ = exports::OutputTab::starMap;

@@ -16,7 +16,7 @@ PrintCommand::PrintCommand(const model::AstronomyModel& model, ExportNotice& not
     : QObject(&window), model_(model), exporter_(model), notice_(notice), window_(window) {}
 
 void PrintCommand::print(exports::OutputTab tab) {
-  const auto content = exporter_.pdf(tab);
+  const auto content = exporter_.sheet(tab, documents::Form::pdf);
   if (!content) {
     return;
   }

@@ -24,7 +24,7 @@ class PrintCommand final : public QObject {
 
  private:
   struct Order {
-    exports::PdfExport content;
+    exports::SheetExport content;
     QString title;   ///< what the printer's list calls it
     QString remark;  ///< what is to be said with the result
   };

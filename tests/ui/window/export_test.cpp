@@ -327,6 +327,34 @@ TEST_F(Exports, TheFileMenuSavesWhatTheTabShows) {
   EXPECT_TRUE(nameField(find<QFileDialog>("saveDialog"))->text().endsWith(QStringLiteral(".pdf")));
 }
 
+TEST_F(Exports, TheFileMenuSavesHtmlOfEveryTabThatHasSomethingToSave) {
+  for (const OutputTab tab : exports::outputTabs) {
+    window.selectTab(tab);
+    QMenu* const file = window.menuBar()->actions().at(1)->menu();
+    const QList<QAction*> actions = file->actions();
+    const auto found = std::ranges::find(actions, QStringLiteral("Save as &HTML…"), &QAction::text);
+    ASSERT_NE(found, actions.end());
+    EXPECT_EQ((*found)->isEnabled(), tab != OutputTab::location);
+    (*found)->trigger();
+    if (tab == OutputTab::location) {
+      EXPECT_EQ(window.findChild<QFileDialog*>(QStringLiteral("saveDialog")), nullptr);
+      continue;
+    }
+    auto* const dialog = find<QFileDialog>("saveDialog");
+    EXPECT_EQ(dialog->windowTitle(), QStringLiteral("Choose where to save the HTML file"));
+    EXPECT_TRUE(nameField(dialog)->text().endsWith(QStringLiteral(".html")));
+    const QString name = QStringLiteral("page %1.html").arg(static_cast<int>(tab));
+    nameField(dialog)->setText(disk.filePath(name));
+    confirm(dialog);
+    EXPECT_EQ(notice(), QStringLiteral("Saved ") + name);
+    const QByteArray page = contentOf(disk.filePath(name));
+    EXPECT_TRUE(page.startsWith("<!DOCTYPE html>"));
+    for (const exports::TabSection& section : exports::entryOf(tab).sections) {
+      EXPECT_TRUE(page.contains(model.text(section.document).toUtf8()));
+    }
+  }
+}
+
 TEST_F(Exports, TheFileMenuFollowsTheTab) {
   const QList<QAction*> file = window.menuBar()->actions().at(1)->menu()->actions();
   const auto entry = [&file](Qt::Key key, Qt::KeyboardModifiers modifiers) {

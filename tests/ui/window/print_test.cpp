@@ -61,7 +61,8 @@ struct Printing : testing::Test, tests::ShownWindow {
 TEST_F(Printing, ThePagesOfThePdfGoToThePrinterThatWasChosen) {
   installPrinters();
   window.selectTab(exports::OutputTab::horoscope);
-  const QByteArray pdf = exports::pdfOf(*exports::pdfExport(model, exports::OutputTab::horoscope));
+  const QByteArray pdf = exports::pdfOf(
+      *exports::sheetExport(model, exports::OutputTab::horoscope, documents::Form::pdf));
   askToPrint();
   PrintSheet* const question = sheet();
   ASSERT_NE(question, nullptr);

@@ -1,0 +1,148 @@
+#include "cli/document_commands.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <optional>
+
+#include "astro/invariant.h"
+#include "cli/arguments.h"
+#include "cli/asked_forms.h"
+#include "cli/errors.h"
+#include "cli/progress.h"
+#include "cli/quoting.h"
+#include "reports/conjunctions.h"
+#include "reports/ephemeris.h"
+
+namespace veyruna::cli {
+
+namespace {
+
+using documents::Document;
+using documents::Entry;
+using documents::Form;
+
+constexpr std::int64_t mostRows = 100'000'000;
+/// Of a table that is not written row by row: all of its pages are laid out in memory.
+constexpr std::int64_t mostRowsOnPages = 36'000;
+
+void writeWhole(DocumentWriter writer, const std::string& content) {
+  writer.write(content);
+  writer.finish();
+}
+
+/// The document's name in a folder, with the form's extension.
+std::string fileNameOf(const Entry& document, Form form) {
+  return std::filesystem::path(document.fileName)
+      .replace_extension(documents::formEntry(form).extension)
+      .string();
+}
+
+/// Over one that has none of its own in the tabs.
+std::string headingOf(const Entry& document) {
+  return std::string(document.document == Document::moment ? document.summary : document.heading);
+}
+
+}  // namespace
+
+DocumentCommands::DocumentCommands(const Typed& typed, const Sky& sky,
+                                   const std::vector<Form>& forms, const Renderer& renderer)
+    : typed_(typed),
+      sky_(sky),
+      forms_(forms),
+      renderer_(renderer),
+      widthPixels_(askedWidth(typed, forms)) {}
+
+void DocumentCommands::writeOne(const Entry& document) const {
+  const std::string text = documents::textOf(document.document, sky_.observer);
+  writeWhole(DocumentWriter::to(typed_.file),
+             rendered(document, headingOf(document), text, forms_.front()));
+}
+
+void DocumentCommands::writeTable(const Entry& likeIt) const {
+  const reports::TableSize size = typedSize();
+  const Form form = forms_.front();
+  if (form == documents::ownForm(likeIt.kind)) {
+    DocumentWriter writer = DocumentWriter::to(typed_.file);
+    writeRows(likeIt, size, [&](std::string_view piece) { writer.write(piece); });
+    writer.finish();
+    return;
+  }
+  if (size.rows > mostRowsOnPages) {
+    throw UsageError("--rows: " + inQuotes(typed_.rows) + " is too many for a " +
+                     std::string(documents::formEntry(form).name) + "; give at most " +
+                     std::to_string(mostRowsOnPages) + ", or a name that ends in .txt");
+  }
+  std::string text;
+  writeRows(likeIt, size, [&](std::string_view piece) { text += piece; });
+  const std::string heading = typed_.rows + " rows, a step of " + typed_.step + " days";
+  writeWhole(DocumentWriter::to(typed_.file), rendered(likeIt, heading, text, form));
+}
+
+void DocumentCommands::writeAll() const {
+  if (typed_.folder.empty() || typed_.file != "-") {
+    throw UsageError("all needs --out DIR, and takes no -o");
+  }
+  std::error_code error;
+  std::filesystem::create_directories(typed_.folder, error);
+  if (error) {
+    throw WriteError("cannot make the folder " + inQuotes(typed_.folder) + ": " + error.message());
+  }
+  DocumentWriter list = DocumentWriter::to("-");
+  for (const Entry& document : documents::allDocuments) {
+    std::optional<std::string> text;
+    for (const Form form : forms_) {
+      if (document.fileName.empty() || !documents::canBe(document.kind, form)) {
+        continue;
+      }
+      if (!text) {
+        text = documents::textOf(document.document, sky_.observer);
+      }
+      const std::string path =
+          (std::filesystem::path(typed_.folder) / fileNameOf(document, form)).string();
+      writeWhole(DocumentWriter::to(path), rendered(document, headingOf(document), *text, form));
+      list.write(path + "\n");
+    }
+  }
+  list.finish();
+}
+
+reports::TableSize DocumentCommands::typedSize() const {
+  if (typed_.rows.empty() || typed_.step.empty()) {
+    throw UsageError("a table needs --rows N and --step DAYS, such as --rows 24 --step 1/24");
+  }
+  const reports::TableSize size{.rows = readWholeNumber("--rows", typed_.rows, 0, mostRows),
+                                .stepDays = readStepDays(typed_.step)};
+  checkedBaseTime(
+      sky_.observer.baseTime + static_cast<double>(size.rows) * size.stepDays,
+      "the last of " + inQuotes(typed_.rows) + " rows at steps of " + inQuotes(typed_.step));
+  return size;
+}
+
+void DocumentCommands::writeRows(const Entry& likeIt, const reports::TableSize& size,
+                                 const reports::TextSink& sink) const {
+  Progress progress(size.rows + 1, isStandardOutput(typed_.file));
+  const reports::TextSink counted = [&](std::string_view piece) {
+    sink(piece);
+    progress.advance();
+  };
+  if (likeIt.document == Document::hourly) {
+    reports::writeEphemerisTable(sky_.observer, size, counted);
+  } else {
+    reports::writeConjunctionTable(sky_.observer.baseTime, size, counted);
+  }
+}
+
+std::string DocumentCommands::rendered(const Entry& document, const std::string& heading,
+                                       const std::string& text, Form form) const {
+  if (form == documents::ownForm(document.kind)) {
+    return text;
+  }
+  return renderer_({.document = document.document,
+                    .heading = heading,
+                    .text = text,
+                    .date = documents::textOf(Document::date, sky_.observer),
+                    .place = sky_.place},
+                   form, widthPixels_);
+}
+
+}  // namespace veyruna::cli

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "cli/document_writer.h"
+#include "cli/grammar.h"
+#include "cli/rendering.h"
+#include "cli/sky.h"
+#include "reports/table_size.h"
+#include "reports/text_sink.h"
+
+namespace veyruna::cli {
+
+/// The commands that write documents of one moment and place, in the forms that were asked for.
+class DocumentCommands {
+ public:
+  /// Keeps references. Forms other than the documents' own text need the renderer.
+  DocumentCommands(const Typed& typed, const Sky& sky, const std::vector<documents::Form>& forms,
+                   const Renderer& renderer);
+
+  /// One document of the table.
+  void writeOne(const documents::Entry& document) const;
+
+  /// A table of the person's own length and step.
+  void writeTable(const documents::Entry& likeIt) const;
+
+  /// Every document in every form that was asked for and that it can have, into one folder.
+  void writeAll() const;
+
+ private:
+  [[nodiscard]] reports::TableSize typedSize() const;
+  void writeRows(const documents::Entry& likeIt, const reports::TableSize& size,
+                 const reports::TextSink& sink) const;
+  [[nodiscard]] std::string rendered(const documents::Entry& document, const std::string& heading,
+                                     const std::string& text, documents::Form form) const;
+
+  const Typed& typed_;
+  const Sky& sky_;
+  const std::vector<documents::Form>& forms_;
+  const Renderer& renderer_;
+  int widthPixels_;
+};
+
+}  // namespace veyruna::cli

@@ -1,0 +1,90 @@
+#include "documents/forms.h"
+
+#include <algorithm>
+#include <vector>
+
+#include "astro/invariant.h"
+
+namespace veyruna::documents {
+
+constexpr std::array<FormEntry, formCount> allForms = {{
+    {.form = Form::svg,
+     .extension = "svg",
+     .name = "SVG",
+     .isOfCharts = true,
+     .isAsItIs = true,
+     .isText = true},
+    {.form = Form::text,
+     .extension = "txt",
+     .name = "Plain text",
+     .isOfTables = true,
+     .isAsItIs = true,
+     .isText = true},
+    {.form = Form::html,
+     .extension = "html",
+     .name = "HTML",
+     .isOfCharts = true,
+     .isOfTables = true,
+     .isText = true},
+    {.form = Form::pdf, .extension = "pdf", .name = "PDF", .isOfCharts = true, .isOfTables = true},
+    {.form = Form::png, .extension = "png", .name = "PNG", .isOfCharts = true},
+}};
+
+namespace {
+
+constexpr bool everyFormHasItsRowInOrder() {
+  for (std::size_t i = 0; i < allForms.size(); ++i) {
+    if (allForms[i].form != static_cast<Form>(i)) {
+      return false;
+    }
+  }
+  return true;
+}
+static_assert(everyFormHasItsRowInOrder());
+
+char loweredLetter(char letter) {
+  return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
+}
+
+}  // namespace
+
+const FormEntry& formEntry(Form form) {
+  const auto row = static_cast<std::size_t>(form);
+  astro::requireInvariant(row < allForms.size(), "a form has its row", row);
+  return allForms[row];
+}
+
+std::optional<Form> formOf(std::string_view extension) {
+  std::string lowered(extension);
+  std::ranges::transform(lowered, lowered.begin(), loweredLetter);
+  const auto* const found = std::ranges::find(allForms, lowered, &FormEntry::extension);
+  return found == allForms.end() ? std::nullopt : std::optional(found->form);
+}
+
+Form ownForm(Kind kind) {
+  return kind == Kind::chart ? Form::svg : Form::text;
+}
+
+bool canBe(Kind kind, Form form) {
+  const FormEntry& entry = formEntry(form);
+  return kind == Kind::chart   ? entry.isOfCharts
+         : kind == Kind::label ? form == Form::text
+                               : entry.isOfTables;
+}
+
+std::string acceptedExtensions(Kind kind, std::string_view prefix) {
+  std::vector<std::string_view> accepted;
+  for (const FormEntry& entry : allForms) {
+    if (canBe(kind, entry.form)) {
+      accepted.push_back(entry.extension);
+    }
+  }
+  std::string text;
+  for (std::size_t i = 0; i < accepted.size(); ++i) {
+    text += i == 0 ? "" : i + 1 == accepted.size() ? " or " : ", ";
+    text.append(prefix).append(accepted[i]);
+  }
+  return text;
+}
+
+}  // namespace veyruna::documents
