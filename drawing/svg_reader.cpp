@@ -18,6 +18,13 @@ struct Definitions {
   QHash<QString, BeginClipped> clips;
 };
 
+/// What stands between a beginning and an end; nothing where the text lacks either.
+std::optional<QStringView> between(QStringView begin, QStringView text, QChar end) {
+  return text.size() > begin.size() && text.startsWith(begin) && text.endsWith(end)
+             ? std::optional(text.sliced(begin.size()).chopped(1))
+             : std::nullopt;
+}
+
 class SvgReader {
  public:
   explicit SvgReader(const QByteArray& svg) : xml_(svg) {}
@@ -154,10 +161,10 @@ class SvgReader {
     if (!href.startsWith(u'#') || rim == definitions_.rims.constEnd()) {
       refuseAttribute("xlink:href", "\"#\" and the name of a full circle in defs");
     }
-    const QStringView offset = attribute("startOffset");
+    const std::optional<QStringView> offset = between(u"", attribute("startOffset"), u'%');
     bool isNumber = false;
-    const double percent = offset.chopped(1).toDouble(&isNumber);
-    if (!offset.endsWith(u'%') || !isNumber || !std::isfinite(percent)) {
+    const double percent = offset ? offset->toDouble(&isNumber) : 0.0;
+    if (!isNumber || !std::isfinite(percent)) {
       refuseAttribute("startOffset", "a number of percent");
     }
     while (xml_.readNext() == QXmlStreamReader::Characters) {
@@ -172,6 +179,10 @@ class SvgReader {
 
   void readGroup() {
     begin({"transform", "clip-path"});
+    constexpr int deepest = 16;  // charts need two
+    if (++depth_ > deepest) {
+      refuse(QStringLiteral("a g stands in more than %1 others").arg(deepest - 1));
+    }
     const bool isClipped = has("clip-path");
     if (isClipped == has("transform")) {
       refuse(QStringLiteral("a g has either a transform or a clip-path"));
@@ -179,6 +190,7 @@ class SvgReader {
     picture_.shapes.emplace_back(isClipped ? Shape(clip()) : Shape(rotation()));
     readShapes();
     picture_.shapes.emplace_back(EndGroup{});
+    --depth_;
   }
 
   /// Paths that a text may run along, and circles that may clip; what is not used may be anything.
@@ -227,22 +239,20 @@ class SvgReader {
   }
 
   [[nodiscard]] BeginClipped clip() const {
-    const QStringView url = attribute("clip-path");
-    const QString id = url.mid(5).chopped(1).toString();
-    const auto found = definitions_.clips.constFind(id);
-    if (!url.startsWith(u"url(#") || !url.endsWith(u')') ||
-        found == definitions_.clips.constEnd()) {
+    const std::optional<QStringView> id = between(u"url(#", attribute("clip-path"), u')');
+    const auto found =
+        id ? definitions_.clips.constFind(id->toString()) : definitions_.clips.constEnd();
+    if (found == definitions_.clips.constEnd()) {
       refuseAttribute("clip-path", "url(#NAME) of a clipPath in defs");
     }
     return *found;
   }
 
   [[nodiscard]] BeginRotated rotation() const {
-    constexpr QStringView before = u"rotate(";
-    const QStringView text = attribute("transform");
+    const std::optional<QStringView> inside = between(u"rotate(", attribute("transform"), u')');
     QList<double> numbers;
-    if (text.startsWith(before) && text.endsWith(u')')) {
-      for (const QStringView word : text.mid(before.size()).chopped(1).split(u',')) {
+    if (inside) {
+      for (const QStringView word : inside->split(u',')) {
         bool isNumber = false;
         const double number = word.trimmed().toDouble(&isNumber);
         if (isNumber && std::isfinite(number)) {
@@ -363,6 +373,7 @@ class SvgReader {
 
   QXmlStreamReader xml_;
   QXmlStreamAttributes attributes_;  ///< of the element that was begun
+  int depth_ = 0;                    ///< of groups
   Definitions definitions_;
   Picture picture_;
 };

@@ -162,10 +162,34 @@ INSTANTIATE_TEST_SUITE_P(
         Refused{R"svg(<g transform="scale(2)"/>)svg", "scale(2)"},
         Refused{R"svg(<g transform="rotate(1, 2)"/>)svg", "rotate(1, 2)"},
         Refused{R"svg(<g clip-path="url(#nowhere)"/>)svg", "nowhere"},
+        Refused{R"svg(<g clip-path="url"/>)svg", "url"},
+        Refused{R"svg(<g clip-path=")"/>)svg", ")"}, Refused{R"svg(<g clip-path=""/>)svg", "NAME"},
+        Refused{R"svg(<g transform="rotate("/>)svg", "rotate("},
         Refused{R"(<defs><path id="a" d="M 1,2 A 3,3 0 0,1 4,5"/></defs>)", "full circle"},
         Refused{R"(<defs><clipPath id="a"><path d="M 1,2"/></clipPath></defs>)", "one circle"},
         Refused{R"(<defs><marker/></defs>)", "marker"}, Refused{"letters", "letters"},
         Refused{R"(<circle cx="1" cy="2" r="3">)", "line"}, Refused{"<?style x?>", "neither"}));
+
+TEST(SvgReader, AnOffsetNeedsItsNumberAndItsSign) {
+  for (const char* const offset : {"", "%", "5", "x%", "nan%"}) {
+    const QByteArray text =
+        head +
+        R"(<defs><path id="a" d="M180,5 A175,175 0 1,1 180,355 A175,175 0 1,1 180,5"/></defs>)"
+        R"(<text font-family="Arial" font-size="5"><textPath xlink:href="#a" startOffset=")" +
+        offset + R"(">x</textPath></text></svg>)";
+    EXPECT_NE(refusal(text).find("a number of percent"), std::string::npos) << refusal(text);
+  }
+}
+
+TEST(SvgReader, GroupsStandInEachOtherSixteenDeepAtMost) {
+  const auto nested = [](int depth) {
+    return head + QByteArray(R"svg(<g transform="rotate(1, 2, 3)">)svg").repeated(depth) +
+           QByteArray("</g>").repeated(depth) + "</svg>";
+  };
+  EXPECT_EQ(readSvg(nested(16)).shapes.size(), 32U);
+  EXPECT_EQ(refusal(nested(17)), "line 1: a g stands in more than 15 others");
+  EXPECT_EQ(refusal(nested(200'000)), "line 1: a g stands in more than 15 others");
+}
 
 TEST(SvgReader, WhatEndsTooEarlyIsRefused) {
   const QByteArray whole = QByteArray::fromStdString(
