@@ -379,6 +379,20 @@ TEST_F(Exports, TheFileMenuFollowsTheTab) {
   }
 }
 
+TEST_F(Exports, AWindowThatGoesWhileOneIsAskedWritesNothing) {
+  for (const char* const button : {"nativeExportButton", "pdfButton"}) {
+    MainView other(model, time, state);
+    other.setAttribute(Qt::WA_DeleteOnClose, false);
+    other.show();
+    QTest::mouseClick(other.findChild<QAbstractButton*>(QString::fromLatin1(button)),
+                      Qt::LeftButton);
+    ASSERT_NE(other.findChild<QFileDialog*>(QStringLiteral("saveDialog")), nullptr);
+    other.close();
+  }
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  EXPECT_EQ(disk.entryList(QDir::Files).filter(QStringLiteral("720-")), QStringList());
+}
+
 TEST_F(Exports, TheNoticeGoesAfterAFewSeconds) {
   save("nativeExportButton", QStringLiteral("<b>sky.svg"));
   EXPECT_EQ(notice(), QStringLiteral("Saved <b>sky.svg"));
