@@ -1,14 +1,20 @@
-// start_probe NANOSECONDS: opens the window as the program does and prints, in milliseconds since
-// the moment given (as `date +%s%N` has it), when it was first painted and when its first chart
-// stood there, and in MB the memory that it then takes.
+// start_probe NANOSECONDS [RECALCULATIONS]: opens the window as the program does and prints, in
+// milliseconds since the moment given (as `date +%s%N` has it), when it was first painted and when
+// its first chart stood there, and in MB the memory that it then takes. With a number of
+// recalculations, each drawn: besides, the median of the milliseconds from Calculate to the new
+// picture, and the memory after all.
 #include <QApplication>
+#include <QElapsedTimer>
 #include <QEvent>
+#include <QEventLoop>
 #include <QFile>
 #include <QStandardPaths>
 #include <QTimer>
+#include <algorithm>
 #include <chrono>
 #include <cstdio>
 #include <functional>
+#include <vector>
 
 #include "ui/window/application.h"
 #include "ui/window/main_view.h"
@@ -52,6 +58,32 @@ class FirstPaint final : public QObject {
   std::function<bool()> isDue_;
 };
 
+/// Calculates so many moments, one when the last has been painted, and prints what it took.
+void recalculate(veyruna::model::AstronomyModel& model, QWidget& shown, int times) {
+  std::vector<double> milliseconds;
+  for (int i = 0; i < times; ++i) {
+    QEventLoop waiting;
+    bool isNew = false;
+    FirstPaint picture(0, [&isNew] { return isNew; });
+    shown.installEventFilter(&picture);
+    const auto published =
+        QObject::connect(&model, &veyruna::model::AstronomyModel::starMapSVGChanged, &picture,
+                         [&isNew] { isNew = true; });
+    model.setDayIndex(i % 30);
+    model.setHour(i % 24 + 0.25);
+    QElapsedTimer clock;
+    clock.start();
+    model.recalculate();
+    while (picture.at == 0.0) {
+      waiting.processEvents(QEventLoop::WaitForMoreEvents);
+    }
+    milliseconds.push_back(static_cast<double>(clock.nsecsElapsed()) / 1e6);
+    QObject::disconnect(published);
+  }
+  std::nth_element(milliseconds.begin(), milliseconds.begin() + times / 2, milliseconds.end());
+  std::printf("%.1f %.0f\n", milliseconds[static_cast<std::size_t>(times) / 2], memory());
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -73,6 +105,10 @@ int main(int argc, char** argv) {
       // Memory settles after the first picture.
       QTimer::singleShot(2000, view, [&] {
         std::printf("%.0f %.0f %.0f\n", window.at, chart.at, memory());
+        if (argc > 2) {
+          recalculate(program.model(), *view->findChild<QWidget*>(QStringLiteral("starMap")),
+                      QByteArray(argv[2]).toInt());
+        }
         QApplication::closeAllWindows();
       });
     }
