@@ -13,7 +13,7 @@ namespace {
 
 /// More than the texts and letters of any chart; a sky that moves through time brings ever new
 /// ones.
-constexpr std::size_t mostKept = 4000;
+constexpr std::size_t mostKept = 1000;
 /// A window that is being resized asks for ever new sizes.
 constexpr std::size_t mostFonts = 100;
 

@@ -88,14 +88,31 @@ void PlanetsView::show(const QList<BodyPosition>& positions) {
   for (int row = 0; row < positions.size(); ++row) {
     int place = 0;
     for (const auto& [title, text, side] : columns) {
-      auto* const item = new QTableWidgetItem(positions[row].*text);
-      item->setTextAlignment(side | Qt::AlignVCenter);
-      table_->setItem(row, place++, item);
+      itemAt(row, place++, side).setText(positions[row].*text);
     }
-    table_->item(row, 0)->setIcon(markOf(positions[row].color));
+    table_->item(row, 0)->setIcon(mark(positions[row].color));
   }
   fitColumns();
   showView(!positions.isEmpty());
+}
+
+/// Made once: a table that follows time is filled sixty times a second.
+QTableWidgetItem& PlanetsView::itemAt(int row, int column, Qt::AlignmentFlag side) {
+  if (table_->item(row, column) == nullptr) {
+    auto* const item = new QTableWidgetItem;
+    item->setTextAlignment(side | Qt::AlignVCenter);
+    table_->setItem(row, column, item);
+  }
+  return *table_->item(row, column);
+}
+
+/// Kept: what an icon has drawn is kept by Qt too, for each icon anew.
+const QIcon& PlanetsView::mark(BodyColor color) {
+  QIcon& kept = marks_[color];
+  if (kept.isNull()) {
+    kept = markOf(color);
+  }
+  return kept;
 }
 
 bool PlanetsView::eventFilter(QObject* watched, QEvent* event) {

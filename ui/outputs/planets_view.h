@@ -1,9 +1,13 @@
 #pragma once
 
+#include <QIcon>
+#include <map>
+
 #include "model/body_position.h"
 #include "ui/controls/with_placeholder.h"
 
 class QTableWidget;
+class QTableWidgetItem;
 
 namespace veyruna::ui {
 
@@ -25,7 +29,11 @@ class PlanetsView final : public WithPlaceholder {
   void fitColumns();
   void copySelection() const;
 
+  QTableWidgetItem& itemAt(int row, int column, Qt::AlignmentFlag side);
+  const QIcon& mark(model::BodyColor color);
+
   QTableWidget* table_;
+  std::map<model::BodyColor, QIcon> marks_;
 };
 
 }  // namespace veyruna::ui
