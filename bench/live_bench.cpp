@@ -59,7 +59,7 @@ int main(int argc, char** argv) {
   const auto store =
       std::make_shared<veyruna::model::UnhurriedStore>(std::make_shared<NoSettings>());
   veyruna::model::AstronomyModel model(
-      {store, std::nullopt, &QUuid::createUuid, [](std::function<void()> task) { task(); }});
+      {store, std::nullopt, &QUuid::createUuid, [](const std::function<void()>& task) { task(); }});
   veyruna::model::LiveTime time(model, store);
   veyruna::ui::WindowState state(folder.filePath(QStringLiteral("window.ini")));
   veyruna::ui::MainView window(model, time, state);

@@ -10,8 +10,6 @@
 namespace veyruna {
 namespace {
 
-using exports::OutputTab;
-
 TEST(TimeEndurance, MemoryStaysWhereItIsWhileTimePlays) {
   const bool isLong = qEnvironmentVariableIsSet("VEYRUNA_LONG");
   const int frames = isLong ? 10'000 : 400;
