@@ -183,12 +183,14 @@ void MainView::keepTypingFromRunningAway() {
               time_.pause();
             }
           });
-  // Space plays from here on, wherever the keys went before.
-  connect(&time_, &model::LiveTime::isOnChanged, this, [this] {
-    if (time_.isOn() && isActiveWindow()) {
+  // Space plays from here on, wherever the keys went before; in a window that opens now, too.
+  const auto takeKeys = [this] {
+    if (time_.isOn() && (isActiveWindow() || !isVisible())) {
       output_->giveKeysToTime();
     }
-  });
+  };
+  connect(&time_, &model::LiveTime::isOnChanged, this, takeKeys);
+  takeKeys();
   connect(&time_, &model::LiveTime::motionChanged, this, [this, isTyped] {
     if (time_.motion() != model::LiveTime::Motion::resting && isTyped(focusWidget())) {
       output_->giveKeysToTime();

@@ -197,6 +197,17 @@ TEST_F(TimeInWindow, SpacePlaysWhereverNothingElseTakesIt) {
   EXPECT_FALSE(isPlaying());
 }
 
+TEST_F(TimeInWindow, SpacePlaysInAWindowThatOpensWhileItIsOn) {
+  turnOn();
+  trigger(*window, "New Window");
+  finishCalculations();
+  MainView* const other = windows().at(windows().indexOf(window) == 0 ? 1 : 0);
+  other->activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(other, tests::patienceMilliseconds));
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
+  EXPECT_TRUE(isPlaying());
+}
+
 TEST_F(TimeInWindow, TheMenuSteps) {
   turnOn();
   QTest::keyClick(window, Qt::Key_Right, Qt::AltModifier);
