@@ -8,6 +8,7 @@
 #include <QWidget>
 #include <algorithm>
 #include <cmath>
+#include <gtest/gtest.h>
 #include <map>
 
 /// The looks a desktop may have.
@@ -61,6 +62,18 @@ inline double contrast(const QColor& a, const QColor& b) {
 /// What a control shows.
 inline QImage pictureOf(QWidget& widget) {
   return widget.grab().toImage().convertToFormat(QImage::Format_RGB32);
+}
+
+/// How many pixels differ so that it can be seen.
+inline int visibleDifferences(const QImage& a, const QImage& b) {
+  EXPECT_EQ(a.size(), b.size());
+  int differing = 0;
+  for (int y = 0; y < a.height(); ++y) {
+    for (int x = 0; x < a.width(); ++x) {
+      differing += contrast(a.pixelColor(x, y), b.pixelColor(x, y)) > 1.5 ? 1 : 0;
+    }
+  }
+  return differing;
 }
 
 /// The colour of most of the picture's pixels.

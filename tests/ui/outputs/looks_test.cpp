@@ -1,6 +1,4 @@
 // What can be read of the outputs on a light and on a dark desktop.
-#include "tests/ui/looks.h"
-
 #include <QFileDialog>
 #include <QHeaderView>
 #include <QLabel>
@@ -8,15 +6,12 @@
 #include <QPlainTextEdit>
 #include <QTableWidget>
 
-#include "tests/ui/shown_window.h"
+#include "tests/ui/light_and_dark.h"
 
 namespace veyruna::ui {
 namespace {
 
-struct OutputLooks : testing::TestWithParam<bool> {
-  const tests::Look look{GetParam() ? tests::darkPalette() : tests::lightPalette()};
-  tests::ShownWindow shown;
-
+struct OutputLooks : tests::LightAndDark {
   /// A part of a control, in points of it, as it is seen.
   static QImage part(QWidget& control, const QRect& area) {
     return control.grab(area).toImage().convertToFormat(QImage::Format_RGB32);
@@ -31,9 +26,7 @@ struct OutputLooks : testing::TestWithParam<bool> {
   }
 };
 
-INSTANTIATE_TEST_SUITE_P(Outputs, OutputLooks, testing::Bool(), [](const auto& look) {
-  return std::string(look.param ? "Dark" : "Light");
-});
+INSTANTIATE_TEST_SUITE_P(Outputs, OutputLooks, testing::Bool(), tests::lightOrDark);
 
 TEST_P(OutputLooks, EveryCellAndHeadingOfThePositionsCanBeRead) {
   shown.calculate();

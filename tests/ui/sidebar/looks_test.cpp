@@ -1,44 +1,21 @@
 // What can be seen of the sidebar on a light and on a dark desktop.
-#include "tests/ui/looks.h"
-
 #include <QDialog>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPainter>
 #include <QPushButton>
 #include <QScrollArea>
 #include <algorithm>
 #include <array>
-#include <cmath>
-#include <set>
 
-#include "astro/angle.h"
 #include "tests/support/patience.h"
-#include "tests/ui/shown_window.h"
+#include "tests/ui/light_and_dark.h"
 
 namespace veyruna::ui {
 namespace {
 
-struct Looks : testing::TestWithParam<bool> {
-  const tests::Look look{GetParam() ? tests::darkPalette() : tests::lightPalette()};
-  tests::ShownWindow shown;
+struct Looks : tests::LightAndDark {};
 
-  /// How many pixels differ so that it can be seen.
-  static int visibleDifferences(const QImage& a, const QImage& b) {
-    EXPECT_EQ(a.size(), b.size());
-    int differing = 0;
-    for (int y = 0; y < a.height(); ++y) {
-      for (int x = 0; x < a.width(); ++x) {
-        differing += tests::contrast(a.pixelColor(x, y), b.pixelColor(x, y)) > 1.5 ? 1 : 0;
-      }
-    }
-    return differing;
-  }
-};
-
-INSTANTIATE_TEST_SUITE_P(Sidebar, Looks, testing::Bool(), [](const auto& look) {
-  return std::string(look.param ? "Dark" : "Light");
-});
+INSTANTIATE_TEST_SUITE_P(Sidebar, Looks, testing::Bool(), tests::lightOrDark);
 
 TEST_P(Looks, TheFocusCanBeSeenOnEveryControl) {
   shown.model.setHour(11.5);
@@ -75,28 +52,8 @@ TEST_P(Looks, TheFocusCanBeSeenOnEveryControl) {
       line->deselect();
     }
     ASSERT_TRUE(control->hasFocus()) << name;
-    EXPECT_GE(visibleDifferences(without, tests::pictureOf(*control)), 20) << name;
+    EXPECT_GE(tests::visibleDifferences(without, tests::pictureOf(*control)), 20) << name;
   }
-}
-
-TEST_P(Looks, TheRingOfTheFocusIsThereOnlyWithTheFocus) {
-  auto* const button = shown.find<QPushButton>("calculateButton");
-  // Across the button's left side, where no word stands: its edge, and the ring inside of it.
-  const auto steps = [button] {
-    const QImage picture = tests::pictureOf(*button);
-    const double pixels = button->devicePixelRatioF();
-    int count = 0;
-    for (int x = qRound(2.0 * pixels); x < qRound(6.0 * pixels); ++x) {
-      const int y = picture.height() / 2;
-      count +=
-          tests::contrast(picture.pixelColor(x, y), picture.pixelColor(x + 1, y)) > 1.5 ? 1 : 0;
-    }
-    return count;
-  };
-  shown.find<QWidget>("yearStepper")->setFocus();
-  EXPECT_EQ(steps(), 0);
-  button->setFocus();
-  EXPECT_GE(steps(), 1);
 }
 
 TEST_P(Looks, TheDestructiveButtonIsRedAndReadable) {
@@ -132,7 +89,7 @@ TEST_P(Looks, TheDestructiveButtonShowsItsFocus) {
       << "from the first";
   const QImage with = tests::pictureOf(*remove);
   sheet->findChild<QPushButton*>(QStringLiteral("cancelButton"))->setFocus();
-  EXPECT_GE(visibleDifferences(with, tests::pictureOf(*remove)), 20);
+  EXPECT_GE(tests::visibleDifferences(with, tests::pictureOf(*remove)), 20);
 }
 
 TEST_P(Looks, WhatIsRefusedHasARedEdgeAndAReadableLine) {
@@ -165,30 +122,6 @@ TEST_P(Looks, WhatIsRefusedHasARedEdgeAndAReadableLine) {
   EXPECT_GE(tests::contrast(ink, QApplication::palette().color(QPalette::Window)), 4.5);
 }
 
-TEST_P(Looks, TheProgressStandsBesideTheWordAndIsSeen) {
-  auto* const button = shown.find<QPushButton>("calculateButton");
-  const QImage before = tests::pictureOf(*button);
-  shown.press("calculateButton");
-  shown.find<QWidget>("calculateButton")->clearFocus();
-  auto* const progress = shown.find<QWidget>("progress");
-  ASSERT_TRUE(progress->isVisible());
-  const double pixels = button->devicePixelRatioF();  // of the pictures
-  const QRect place = progress->geometry();
-  const auto inPixels = [pixels](const QRect& part) {
-    return QRectF(QPointF(part.topLeft()) * pixels, QSizeF(part.size()) * pixels).toRect();
-  };
-  const QRect room = inPixels(place);
-  const QImage during = tests::pictureOf(*button);
-  EXPECT_GE(visibleDifferences(before.copy(room), during.copy(room)), 10);
-  // Beside the word: nothing of the button's own was drawn there, and the word ends close by.
-  const QColor ground = before.pixelColor(room.center());
-  EXPECT_LT(tests::bestContrast(before.copy(room), ground), 1.3) << "over the word";
-  const QRect close = inPixels({place.left() - 12, place.top(), 12, place.height()});
-  EXPECT_GT(tests::bestContrast(before.copy(close), ground), 3.0) << "far from the word";
-  EXPECT_LE(place.height(), button->fontMetrics().height());
-  EXPECT_TRUE(button->rect().contains(place));
-}
-
 TEST_P(Looks, WhatGoesWrongIsSaidReadably) {
   const auto canBeRead = [this](const char* name) {
     auto* const label = shown.find<QLabel>(name);
@@ -209,39 +142,6 @@ TEST_P(Looks, WhatGoesWrongIsSaidReadably) {
   shown.press("saveButton");
   QTest::keyClick(shown.find<QLineEdit>("nameField"), Qt::Key_Return);
   canBeRead("saveError");
-}
-
-TEST_P(Looks, TheSpokesOfTheProgressFadeOneAfterTheOther) {
-  shown.press("calculateButton");
-  auto* const progress = shown.find<QWidget>("progress");
-  progress->resize(80, 80);
-  const QImage wheel = tests::pictureOf(*progress);
-  std::set<int> grays;
-  for (int spoke = 0; spoke < 8; ++spoke) {
-    const double angle = astro::twoPi * spoke / 8.0;
-    const QPointF middle(wheel.width() / 2.0, wheel.height() / 2.0);
-    const QPointF at = middle + 0.35 * wheel.width() * QPointF(std::sin(angle), -std::cos(angle));
-    grays.insert(qGray(wheel.pixel(at.toPoint())));
-  }
-  EXPECT_GE(grays.size(), 7U);
-}
-
-TEST_P(Looks, TheProgressStaysBesideTheWordInAnotherType) {
-  shown.press("calculateButton");
-  auto* const button = shown.find<QPushButton>("calculateButton");
-  const int before = shown.find<QWidget>("progress")->x();
-  button->setFixedSize(button->size());
-  QFont wide = button->font();
-  wide.setLetterSpacing(QFont::AbsoluteSpacing, 3.0);
-  button->setFont(wide);
-  EXPECT_GT(shown.find<QWidget>("progress")->x(), before);
-}
-
-TEST_P(Looks, TheRoomForTheDifferenceIsTwoLines) {
-  const auto* const difference = shown.find<QLabel>("difference");
-  const int line = difference->fontMetrics().lineSpacing();
-  EXPECT_GE(difference->minimumHeight(), 2 * line);
-  EXPECT_LT(2 * difference->minimumHeight(), 5 * line);
 }
 
 TEST_P(Looks, EveryTextOfTheSidebarCanBeRead) {
