@@ -83,6 +83,18 @@ TEST_F(About, IsDraggedByItsBackground) {
   EXPECT_EQ(about->pos(), before + QPoint(30, 10));
 }
 
+TEST_F(About, ItsGroundChangesWhileThePointerIsOverIt) {
+  AboutView* const about = program.openAbout();
+  const auto ground = [about] { return about->grab().toImage().pixelColor(2, 2); };
+  const QColor before = ground();
+  QEnterEvent enter(QPointF(5, 5), QPointF(5, 5), about->mapToGlobal(QPointF(5, 5)));
+  QCoreApplication::sendEvent(about, &enter);
+  EXPECT_NE(ground(), before);
+  QEvent leave(QEvent::Leave);
+  QCoreApplication::sendEvent(about, &leave);
+  EXPECT_EQ(ground(), before);
+}
+
 TEST_F(About, ShowsItsFiveLinksInOneRowWhole) {
   const AboutView* const about = program.openAbout();
   tests::turnEventLoop();
