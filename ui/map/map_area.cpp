@@ -13,9 +13,9 @@
 
 #include "ui/controls/fixed_pitch_font.h"
 #include "ui/controls/named.h"
+#include "ui/controls/plain_key.h"
 #include "ui/map/map_marks.h"
 #include "ui/map/map_tiles.h"
-#include "ui/controls/plain_key.h"
 #include "ui/map/translucent_label.h"
 
 namespace veyruna::ui {

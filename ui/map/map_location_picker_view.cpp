@@ -14,10 +14,10 @@
 #include "ui/controls/coordinates_text.h"
 #include "ui/controls/icons.h"
 #include "ui/controls/named.h"
+#include "ui/controls/plain_key.h"
 #include "ui/map/map_area.h"
 #include "ui/map/map_marks.h"
 #include "ui/map/map_pick.h"
-#include "ui/controls/plain_key.h"
 
 namespace veyruna::ui {
 
