@@ -1,19 +1,27 @@
 #pragma once
 
-#include "ui/charts/svg_view.h"
+#include "ui/charts/chart_view.h"
 
 namespace veyruna::ui {
 
 /// The star map of the last calculation.
-class StarMapView final : public SVGView {
+class StarMapView final : public ChartView {
  public:
-  StarMapView() : SVGView(tr("Star map")) { setObjectName(QStringLiteral("starMap")); }
+  StarMapView(const ShownMarks::ObserverSource& observerOfShown, ChartSelection& selection)
+      : ChartView({documents::Document::starMap, "starMap", tr("Star map"), {}}, observerOfShown,
+                  selection) {}
 };
 
 /// The horoscope of the last calculation.
-class HoroscopeView final : public SVGView {
+class HoroscopeView final : public ChartView {
  public:
-  HoroscopeView() : SVGView(tr("Horoscope")) { setObjectName(QStringLiteral("horoscope")); }
+  HoroscopeView(const ShownMarks::ObserverSource& observerOfShown, ChartSelection& selection)
+      : ChartView({documents::Document::horoscope, "horoscope", tr("Horoscope"), {panel, wheel}},
+                  observerOfShown, selection) {}
+
+ private:
+  static constexpr QRectF wheel{-10.0, -10.0, 380.0, 380.0};
+  static constexpr QRectF panel{396.0, -10.0, 308.0, 376.0};
 };
 
 }  // namespace veyruna::ui

@@ -26,6 +26,17 @@ void SVGView::show(const QString& svg) {
   }
   painted_ = {};
   update();
+  pictureChanged();
+}
+
+void SVGView::setFraming(const ChartFraming& framing) {
+  if (framing == framing_) {
+    return;
+  }
+  framing_ = framing;
+  painted_ = {};
+  update();
+  pictureChanged();
 }
 
 void SVGView::paintEvent(QPaintEvent* event) {
@@ -36,16 +47,18 @@ void SVGView::paintEvent(QPaintEvent* event) {
     painted_.setDevicePixelRatio(devicePixelRatioF());
     paintChart();
   }
-  QPainter(this).drawImage(event->rect(), painted_,
-                           QRectF(QPointF(event->rect().topLeft()) * devicePixelRatioF(),
-                                  QSizeF(event->rect().size()) * devicePixelRatioF()));
+  QPainter painter(this);
+  painter.drawImage(event->rect(), painted_,
+                    QRectF(QPointF(event->rect().topLeft()) * devicePixelRatioF(),
+                           QSizeF(event->rect().size()) * devicePixelRatioF()));
+  paintOver(painter);
 }
 
 void SVGView::paintChart() {
   painted_.fill(Qt::white);
   QPainter painter(&painted_);
   if (fault_.isEmpty()) {
-    painter_.paint(painter, picture_, rect(), drawing::Medium::pixels);
+    painter_.paint(painter, picture_, targetOf(framing(), stage()), drawing::Medium::pixels);
   } else {
     painter.setPen(Qt::black);
     painter.drawText(rect(), Qt::AlignCenter | Qt::TextWordWrap, fault_);

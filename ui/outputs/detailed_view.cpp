@@ -25,8 +25,9 @@ DetailedView::DetailedView(model::AstronomyModel& model, model::LiveTime& time, 
   column->addWidget(caption_);
   column->addWidget(tabs_, 1);
   column->addWidget(bar_);
+  auto* const selection = new ChartSelection(this);
   for (const TabView& view : tabViews) {
-    tabs_->addWidget(view.make(model));
+    tabs_->addWidget(view.make(model, *selection));
   }
   const auto showCaption = [this, &model] { caption_->setText(calculatedCaption(model)); };
   connect(&model, &model::AstronomyModel::published, this, showCaption);

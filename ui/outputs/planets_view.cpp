@@ -6,6 +6,7 @@
 #include <QEvent>
 #include <QHeaderView>
 #include <QPainter>
+#include <QShortcut>
 #include <QTableWidget>
 #include <algorithm>
 #include <array>
@@ -56,12 +57,12 @@ constexpr std::array<Column, 6> columns = {{
 
 }  // namespace
 
-PlanetsView::PlanetsView(QWidget* parent)
+PlanetsView::PlanetsView(ChartSelection& selection, QWidget* parent)
     : PlanetsView(named(new QTableWidget, "positionsTable", tr("Positions of the bodies")),
-                  parent) {}
+                  selection, parent) {}
 
-PlanetsView::PlanetsView(QTableWidget* table, QWidget* parent)
-    : WithPlaceholder(table, tr("No Positions"), parent), table_(table) {
+PlanetsView::PlanetsView(QTableWidget* table, ChartSelection& selection, QWidget* parent)
+    : WithPlaceholder(table, tr("No Positions"), parent), table_(table), selection_(selection) {
   QStringList titles;
   for (const Column& column : columns) {
     titles.append(QCoreApplication::translate("PlanetsView", column.title));
@@ -81,6 +82,12 @@ PlanetsView::PlanetsView(QTableWidget* table, QWidget* parent)
   copy->setShortcutContext(Qt::WidgetWithChildrenShortcut);
   connect(copy, &QAction::triggered, this, &PlanetsView::copySelection);
   addAction(copy);
+
+  connect(table_, &QTableWidget::itemSelectionChanged, this, &PlanetsView::selectBodyOfRow);
+  connect(&selection_, &ChartSelection::changed, this, &PlanetsView::selectRowOfBody);
+  auto* const letGo = new QShortcut(QKeySequence(Qt::Key_Escape), this);
+  letGo->setContext(Qt::WidgetWithChildrenShortcut);
+  connect(letGo, &QShortcut::activated, this, [this] { selection_.setBody(std::nullopt); });
 }
 
 void PlanetsView::show(const QList<BodyPosition>& positions) {
@@ -93,6 +100,7 @@ void PlanetsView::show(const QList<BodyPosition>& positions) {
     table_->item(row, 0)->setIcon(mark(positions[row].color));
   }
   fitColumns();
+  selectRowOfBody();
   showView(!positions.isEmpty());
 }
 
@@ -113,6 +121,27 @@ const QIcon& PlanetsView::mark(BodyColor color) {
     kept = markOf(color);
   }
   return kept;
+}
+
+void PlanetsView::selectBodyOfRow() {
+  const QModelIndexList rows = table_->selectionModel()->selectedRows();
+  if (rows.isEmpty()) {
+    selection_.setBody(std::nullopt);
+    return;
+  }
+  const bool hasCurrent = table_->selectionModel()->isRowSelected(table_->currentRow());
+  selection_.setBody(
+      static_cast<std::size_t>(hasCurrent ? table_->currentRow() : rows.constFirst().row()));
+}
+
+void PlanetsView::selectRowOfBody() {
+  const std::optional<std::size_t> body = selection_.body();
+  if (!body) {
+    table_->clearSelection();
+  } else if (const auto row = static_cast<int>(*body);
+             row < table_->rowCount() && !table_->selectionModel()->isRowSelected(row)) {
+    table_->selectRow(row);
+  }
 }
 
 bool PlanetsView::eventFilter(QObject* watched, QEvent* event) {

@@ -34,7 +34,7 @@ void follow(AstronomyModel& model, QWidget* view, std::initializer_list<Document
 }
 
 /// A chart, with a description for those who cannot see it; %1 is its moment and place.
-QWidget* followingChart(AstronomyModel& model, Document document, SVGView* view,
+QWidget* followingChart(AstronomyModel& model, Document document, ChartView* view,
                         const QString& description) {
   follow(model, view, {document}, [&model, view, document] { view->show(model.text(document)); });
   const auto describe = [&model, view, description] {
@@ -46,26 +46,40 @@ QWidget* followingChart(AstronomyModel& model, Document document, SVGView* view,
   return view;
 }
 
-QWidget* makeStarMap(AstronomyModel& model) {
-  return followingChart(model, Document::starMap, new StarMapView,
+/// Whose sky the charts show: that of the last calculation.
+ShownMarks::ObserverSource observerOfShown(const AstronomyModel& model) {
+  return [&model]() -> std::optional<astro::Observer> {
+    if (!model.lastHoroscopeBasetime()) {
+      return std::nullopt;
+    }
+    return astro::Observer{.baseTime = *model.lastHoroscopeBasetime(),
+                           .latitude = model.lastHoroscopeLatitude(),
+                           .longitude = model.lastHoroscopeLongitude()};
+  };
+}
+
+QWidget* makeStarMap(AstronomyModel& model, ChartSelection& selection) {
+  return followingChart(model, Document::starMap,
+                        new StarMapView(observerOfShown(model), selection),
                         QCoreApplication::translate("TabViews", "The sky above the horizon, %1"));
 }
 
-QWidget* makeHoroscope(AstronomyModel& model) {
-  return followingChart(model, Document::horoscope, new HoroscopeView,
+QWidget* makeHoroscope(AstronomyModel& model, ChartSelection& selection) {
+  return followingChart(model, Document::horoscope,
+                        new HoroscopeView(observerOfShown(model), selection),
                         QCoreApplication::translate(
                             "TabViews", "The wheel of the ecliptic with its interpretation, %1"));
 }
 
-QWidget* makePlanets(AstronomyModel& model) {
-  auto* const view = new PlanetsView;
+QWidget* makePlanets(AstronomyModel& model, ChartSelection& selection) {
+  auto* const view = new PlanetsView(selection);
   const auto show = [&model, view] { view->show(model.positions()); };
   QObject::connect(&model, &AstronomyModel::positionsChanged, view, show);
   show();
   return view;
 }
 
-QWidget* makeSunMoon(AstronomyModel& model) {
+QWidget* makeSunMoon(AstronomyModel& model, ChartSelection& /*selection*/) {
   // Nothing is calculated by it.
   auto* const view = new TablesView([&model](Document moon) {
     const std::optional<double> moment =
@@ -79,14 +93,14 @@ QWidget* makeSunMoon(AstronomyModel& model) {
   return view;
 }
 
-QWidget* makePositions(AstronomyModel& model) {
+QWidget* makePositions(AstronomyModel& model, ChartSelection& /*selection*/) {
   auto* const view = new PositionsView;
   follow(model, view, {Document::daily, Document::yearly},
          [&model, view] { view->show(model.conjunctionDaily(), model.conjunctionYearly()); });
   return view;
 }
 
-QWidget* makeLocation(AstronomyModel& model) {
+QWidget* makeLocation(AstronomyModel& model, ChartSelection& /*selection*/) {
   return named(new MapLocationPickerView(model, pictureFile(QStringLiteral(":/tamsorel.jpg"))),
                "locationTab", QCoreApplication::translate("TabViews", "Map"));
 }

@@ -15,6 +15,7 @@
 #include <QStatusBar>
 #include <functional>
 
+#include "ui/charts/chart_view.h"
 #include "ui/outputs/detailed_view.h"
 #include "ui/outputs/tab_views.h"
 #include "ui/sidebar/sidebar_view.h"
@@ -70,6 +71,15 @@ MainView::MainView(model::AstronomyModel& model, model::LiveTime& time, WindowSt
           [this] { exports_->exportNative(settledTab()); });
   connect(sidebar_, &SidebarView::pdfExportRequested, this,
           [this] { exports_->exportAs(Form::pdf, settledTab()); });
+  for (const ChartView* const chart : output_->findChildren<ChartView*>()) {
+    connect(chart, &ChartView::svgRequested, this,
+            [this] { exports_->exportNative(settledTab()); });
+    for (const auto& [requested, form] : {std::pair(&ChartView::pdfRequested, Form::pdf),
+                                          std::pair(&ChartView::pngRequested, Form::png)}) {
+      connect(chart, requested, this,
+              [this, form = form] { exports_->exportAs(form, settledTab()); });
+    }
+  }
   connect(&model, &model::AstronomyModel::isCalculatingChanged, notice_,
           &ExportNotice::dismissFailure);
   for (QGroupBox* const box : sidebar_->findChildren<QGroupBox*>()) {
