@@ -144,6 +144,22 @@ TEST_P(Looks, WhatGoesWrongIsSaidReadably) {
   canBeRead("saveError");
 }
 
+TEST_P(Looks, EveryLabelStandsBesideItsField) {
+  int labels = 0;
+  for (const QLabel* const label : shown.find<QScrollArea>("sidebar")->findChildren<QLabel*>()) {
+    const QWidget* const field = label->buddy();
+    if (field != nullptr && field->isVisible()) {
+      const QPoint middle = label->mapTo(&shown.window, label->rect().center());
+      const QRect room(field->mapTo(&shown.window, QPoint()), field->size());
+      EXPECT_LT(std::abs(middle.y() - room.center().y()), room.height() / 2)
+          << label->text().toStdString();
+      EXPECT_LT(middle.x(), room.left()) << label->text().toStdString();
+      ++labels;
+    }
+  }
+  EXPECT_GT(labels, 5);
+}
+
 TEST_P(Looks, EveryTextOfTheSidebarCanBeRead) {
   const auto* const sidebar = shown.find<QScrollArea>("sidebar");
   int texts = 0;
