@@ -57,7 +57,7 @@ void readOut(benchmark::State& state, int side, double zoom) {
   chart.zoomTo(zoom);
   ShownChart::paint();
   int step = 0;
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto each : state) {
     chart.pointAt(wandering(side, ++step));
     ShownChart::paint();
   }
@@ -68,7 +68,7 @@ void firstReadOut(benchmark::State& state, int side, double zoom) {
   ShownChart chart(side);
   chart.zoomTo(zoom);
   int step = 0;
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto each : state) {
     state.PauseTiming();
     chart.pointAt({-1.0, -1.0});
     chart.passTime();
@@ -82,7 +82,7 @@ void firstReadOut(benchmark::State& state, int side, double zoom) {
 void frame(benchmark::State& state, int side, double zoom) {
   ShownChart chart(side);
   double off = 0.0;
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto each : state) {
     off = off > 0.01 ? 0.0 : off + 1e-4;
     chart.zoomTo(zoom + off);
     ShownChart::paint();

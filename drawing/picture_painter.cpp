@@ -3,6 +3,7 @@
 #include <QPaintDevice>
 #include <algorithm>
 #include <cmath>
+#include <optional>
 
 #include "astro/angle.h"
 
@@ -17,14 +18,24 @@ constexpr double largestDot = 10.0;
 class ShapePainter {
  public:
   ShapePainter(QPainter& painter, Letters& letters, Medium medium)
-      : painter_(painter), letters_(letters), medium_(medium) {}
+      : painter_(painter), letters_(letters), medium_(medium), inSight_(seenOf(painter, medium)) {}
 
   void operator()(const Circle& circle) {
+    const bool isRing = circle.fill.alpha() == 0;
+    if (!isInSight(squareAbout(circle.centre, circle.radius + circle.strokeWidth)) ||
+        (isRing && isSightInside(circle.centre, circle.radius - circle.strokeWidth))) {
+      return;
+    }
     setColors(circle.fill, circle.stroke, circle.strokeWidth);
     drawCircle(circle.centre, circle.radius);
   }
 
   void operator()(const Line& line) {
+    const double width = line.strokeWidth;
+    if (!isInSight(
+            QRectF(line.from, line.to).normalized().adjusted(-width, -width, width, width))) {
+      return;
+    }
     setColors(Qt::transparent, line.stroke, line.strokeWidth);
     painter_.drawLine(line.from, line.to);
   }
@@ -35,6 +46,11 @@ class ShapePainter {
     const GlyphRow& row = letters_.row(text.letters.text);
     const double perUnit = text.letters.size / unitsPerEm;
     const QPointF begin = text.at - QPointF(text.isCentred ? row.width * perUnit / 2.0 : 0.0, 0.0);
+    const double size = text.letters.size;
+    if (!isInSight(
+            QRectF(begin, QSizeF(row.width * perUnit, 0.0)).adjusted(-size, -size, size, size))) {
+      return;
+    }
     if (medium_ == Medium::page) {
       letters_.draw(painter_, row, begin, text.letters.size, text.letters.fill);
     } else if (painter_.transform().type() <= QTransform::TxScale) {
@@ -56,6 +72,10 @@ class ShapePainter {
     for (const GlyphRow::Glyph& glyph : row.glyphs) {
       // The middle of a letter lies on the rim, and the letter along the rim's direction there.
       const double angle = start + (glyph.at + glyph.advance / 2.0) * perUnit / radius;
+      const QPointF at = text.rim.centre + radius * QPointF(std::cos(angle), std::sin(angle));
+      if (!isInSight(squareAbout(at, 2.0 * text.letters.size))) {
+        continue;
+      }
       QTransform transform = QTransform::fromTranslate(text.rim.centre.x(), text.rim.centre.y());
       transform.rotateRadians(angle + astro::halfPi);
       transform.translate(-glyph.advance / 2.0 * perUnit, -radius);
@@ -78,12 +98,45 @@ class ShapePainter {
 
   void operator()(const BeginClipped& clipped) {
     painter_.save();
-    painter_.setClipPath(circlePath(clipped.centre, clipped.radius), Qt::IntersectClip);
+    if (!isSightInside(clipped.centre, clipped.radius)) {
+      painter_.setClipPath(circlePath(clipped.centre, clipped.radius), Qt::IntersectClip);
+    }
   }
 
   void operator()(EndGroup /*end*/) { painter_.restore(); }
 
  private:
+  /// What of the picture lies on the device, in its units; a page is drawn whole.
+  static std::optional<QRectF> seenOf(const QPainter& painter, Medium medium) {
+    if (medium == Medium::page) {
+      return std::nullopt;
+    }
+    const QPaintDevice& device = *painter.device();
+    // Widgets are measured in points, all else in pixels.
+    const double pixels = device.devType() == QInternal::Widget ? device.devicePixelRatioF() : 1.0;
+    return painter.deviceTransform().inverted().mapRect(
+        QRectF(0.0, 0.0, device.width() * pixels, device.height() * pixels));
+  }
+
+  static QRectF squareAbout(QPointF middle, double reach) {
+    return {middle - QPointF(reach, reach), middle + QPointF(reach, reach)};
+  }
+
+  /// Whether something with these bounds may be seen. What is turned is not asked for.
+  [[nodiscard]] bool isInSight(const QRectF& bounds) const {
+    return !inSight_ || painter_.transform().type() > QTransform::TxScale ||
+           inSight_->intersects(bounds);
+  }
+
+  /// Whether all that is in sight lies inside the circle.
+  [[nodiscard]] bool isSightInside(QPointF centre, double radius) const {
+    const auto isInside = [&](QPointF corner) {
+      return std::hypot(corner.x() - centre.x(), corner.y() - centre.y()) < radius;
+    };
+    return inSight_ && isInside(inSight_->topLeft()) && isInside(inSight_->topRight()) &&
+           isInside(inSight_->bottomLeft()) && isInside(inSight_->bottomRight());
+  }
+
   void setColors(const QColor& fill, const QColor& stroke, double strokeWidth) {
     painter_.setBrush(fill.alpha() == 0 ? QBrush(Qt::NoBrush) : QBrush(fill));
     painter_.setPen(stroke.alpha() == 0 || strokeWidth <= 0.0
@@ -121,6 +174,7 @@ class ShapePainter {
   QPainter& painter_;
   Letters& letters_;
   Medium medium_;
+  std::optional<QRectF> inSight_;
 };
 
 }  // namespace

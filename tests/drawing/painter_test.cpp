@@ -4,6 +4,9 @@
 
 #include "drawing/picture_painter.h"
 #include "drawing/svg_reader.h"
+#include "tests/support/picture_difference.h"
+#include "tests/support/reference_case.h"
+#include "tests/support/source_path.h"
 
 namespace veyruna::drawing {
 namespace {
@@ -128,6 +131,32 @@ TEST(Painter, ThePictureIsFittedAndCentred) {
   PicturePainter().paint(painter, picture, image.rect(), Medium::pixels);
   EXPECT_EQ(painter.transform(), QTransform::fromTranslate(3.0, 0.0));
   EXPECT_EQ(inkBox(image), QRect(53, 50, 100, 100));
+}
+
+TEST(Painter, APartLooksAsTheWholePictureDoesThere) {
+  // What is out of sight is left out; nothing that reaches in may be.
+  for (const char* const chart : {"horoscope.svg", "star-map.svg"}) {
+    const Picture picture = readSvg(QByteArray::fromStdString(
+        tests::fileContent(tests::sourcePath("tests/reference/evening-local/") + chart)));
+    const QSize whole = (picture.viewBox.size() * 6.0).toSize();
+    const auto paintedFrom = [&](QPoint corner, QSize size) {
+      QImage image(size, QImage::Format_RGB32);
+      image.fill(Qt::white);
+      QPainter painter(&image);
+      PicturePainter().paint(painter, picture, QRectF(-corner, QSizeF(whole)), Medium::pixels);
+      return image;
+    };
+    const QImage all = paintedFrom({}, whole);
+    constexpr QSize part(150, 90);
+    for (int y = 0; y + part.height() <= whole.height(); y += part.height() * 3) {
+      for (int x = 0; x + part.width() <= whole.width(); x += part.width() * 3) {
+        EXPECT_EQ(
+            tests::differenceOf(paintedFrom({x, y}, part), all.copy({{x, y}, part}), 2).different,
+            0.0)
+            << chart << " from " << x << " " << y;
+      }
+    }
+  }
 }
 
 TEST(Painter, AnEmptyPictureLeavesThePaperAsItIs) {
