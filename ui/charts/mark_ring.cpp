@@ -12,7 +12,7 @@ constexpr double clearance = 4.0;    ///< between a thing and its ring
 constexpr double leastRadius = 8.0;  ///< of a ring
 constexpr double halo = 2.5;         ///< light to both sides of the dark line
 
-QPointF pointOf(charts::PagePoint at) {
+QPointF markPoint(charts::PagePoint at) {
   return {at.x, at.y};
 }
 
@@ -32,8 +32,8 @@ double thicknessOf(RingKind kind) {
 
 QPainterPath ringAround(const charts::ChartMark& mark, const QTransform& chartToView) {
   const charts::Stretch& thing = (mark.dots.empty() ? mark.letters : mark.dots).front();
-  const QPointF from = chartToView.map(pointOf(thing.from));
-  const QPointF to = chartToView.map(pointOf(thing.to));
+  const QPointF from = chartToView.map(markPoint(thing.from));
+  const QPointF to = chartToView.map(markPoint(thing.to));
   const double radius = std::max(thing.radius * chartToView.m11() + clearance, leastRadius);
   QPainterPath ring;
   if (from == to) {
