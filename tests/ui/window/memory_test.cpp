@@ -1,19 +1,12 @@
 // A window that calculates and draws all evening takes no more memory than one that did so once.
 #include <gtest/gtest.h>
-#include <malloc.h>
 
 #include "tests/model/disk.h"
+#include "tests/support/heap.h"
 #include "tests/ui/shown_window.h"
 
 namespace veyruna::ui {
 namespace {
-
-/// What the program has asked for and not given back; 0 under a sanitizer that keeps its own books,
-/// and names what is lost itself.
-double bytesInUse() {
-  const struct mallinfo2 books = mallinfo2();
-  return static_cast<double>(books.uordblks) + static_cast<double>(books.hblkhd);
-}
 
 TEST(Memory, StaysThroughManyRecalculationsWithAChartShown) {
   tests::ShownWindow shown;
@@ -31,9 +24,9 @@ TEST(Memory, StaysThroughManyRecalculationsWithAChartShown) {
     }
   };
   recalculateAndDraw(0, 100);
-  const double before = bytesInUse();
+  const auto before = static_cast<double>(tests::heapBytes());
   recalculateAndDraw(100, 100 + tests::times(200, 10'000));
-  EXPECT_LT(bytesInUse() - before, 5e6);
+  EXPECT_LT(static_cast<double>(tests::heapBytes()) - before, 5e6);
 }
 
 }  // namespace
