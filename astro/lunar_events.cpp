@@ -1,6 +1,7 @@
 // E elongation of the moon from the sun, β ecliptic latitude of the moon.
 #include "astro/lunar_events.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <string_view>
@@ -62,6 +63,12 @@ bool alignmentIsPossible(double separation, double reach) {
 }
 
 }  // namespace
+
+std::string_view lunarEventCode(double t) {
+  const std::string_view padded = eventCode(std::abs(elongation(t, newMoonElongation)));
+  const std::size_t begin = std::min(padded.find_first_not_of(' '), padded.size());
+  return padded.substr(begin, padded.find_last_not_of(' ') + 1 - begin);
+}
 
 std::string lunarEventText(double t) {
   const double e = elongation(t, newMoonElongation);

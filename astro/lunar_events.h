@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 namespace veyruna::astro {
 
@@ -8,6 +9,9 @@ namespace veyruna::astro {
 /// code ("  TS ", "  PS ", " FUL ", " FPL ", " PPL "), calendar label, blank, elongation with
 /// seconds (signed), blank. A moment that is not finite is a broken invariant, here and below.
 std::string lunarEventText(double t);
+
+/// Its code without blanks: "TS", "PS", "FUL", "FPL", "PPL", or the empty text.
+std::string_view lunarEventCode(double t);
 
 /// lunarEventText of the moment in [start, start + step] (days) at which the moon crosses the
 /// ecliptic; empty where it does not, or where sun and moon are not aligned then.

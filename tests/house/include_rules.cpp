@@ -22,6 +22,7 @@ const std::map<std::string, Room, std::less<>>& rooms() {
       {"files", {{}, Libraries::standardAndPosix}},
       {"reports", {{"astro"}, Libraries::standard}},
       {"charts", {{"astro", "reports"}, Libraries::standard}},
+      {"almanac", {{"astro", "reports", "charts"}, Libraries::standard}},
       {"documents", {{"astro", "reports", "charts"}, Libraries::standard}},
       {"model", {{"astro", "reports", "charts", "documents", "files"}, Libraries::any}},
       {"drawing", {{"astro"}, Libraries::any}},

@@ -1,0 +1,15 @@
+#include "almanac/body.h"
+
+#include "astro/invariant.h"
+
+namespace veyruna::almanac {
+
+std::string_view wordOf(Body body) {
+  static constexpr std::array<std::string_view, astro::bodyCount> words = {
+      "thessil", "ivro", "bralo", "dunmor", "galvi", "pallox"};
+  const auto row = static_cast<std::size_t>(body);
+  astro::requireInvariant(row < words.size(), "a body has its word");
+  return words[row];
+}
+
+}  // namespace veyruna::almanac

@@ -1,0 +1,66 @@
+#pragma once
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <numeric>
+#include <optional>
+
+/// The one search of the almanac. Whatever is asked of the sky either holds or does not, and its
+/// motions have bounds; so at any moment it is known for how long nothing can change. The search
+/// steps by that, and misses nothing.
+namespace veyruna::almanac {
+
+/// Whether something holds at a moment, and for how many days it cannot become otherwise: a lower
+/// bound, backwards as forwards only where the bound says so.
+struct State {
+  bool holds = false;
+  double unchangedFor = 0.0;
+};
+
+/// Intervals shorter than this many days, a tenth of a second, may be passed over.
+inline constexpr double leastStepDays = 1e-6;
+
+/// For how many days a distance stays above 0: `distance` ≥ 0 now, growing by `rate` a day, its
+/// rate changing by at most `bend` a day. Infinite where it cannot come to 0.
+inline double daysUntilReached(double distance, double rate, double bend) {
+  constexpr double forever = std::numeric_limits<double>::infinity();
+  if (bend <= 0.0) {
+    return rate < 0.0 ? distance / -rate : forever;
+  }
+  return (rate + std::sqrt(rate * rate + 2.0 * bend * distance)) / bend;
+}
+
+/// The first moment after `from`, not after `to`, at which what `stateAt` tells has changed, found
+/// to a tenth of a second. Nothing where it never does. `to` may be earlier than `from`: then the
+/// last such moment before it, and what `unchangedFor` says must hold backwards.
+template <class StateAt>
+std::optional<double> nextChange(StateAt stateAt, double from, double to) {
+  const double direction = to < from ? -1.0 : 1.0;
+  double before = from;
+  State state = stateAt(before);
+  const bool held = state.holds;
+  while (before != to) {
+    const double step = std::max(state.unchangedFor, leastStepDays);
+    const double left = std::abs(to - before);
+    double after = step < left ? before + direction * step : to;
+    if (after == before) {
+      after = std::nextafter(before, to);
+    }
+    state = stateAt(after);
+    if (state.holds != held) {
+      while (std::abs(after - before) > leastStepDays) {
+        const double middle = std::midpoint(before, after);
+        if (middle == before || middle == after) {
+          break;
+        }
+        (stateAt(middle).holds == held ? before : after) = middle;
+      }
+      return after;
+    }
+    before = after;
+  }
+  return std::nullopt;
+}
+
+}  // namespace veyruna::almanac
