@@ -108,8 +108,9 @@ void TimeBar::addPace(QHBoxLayout& row) {
   };
   add(tr("Step"), step_);
   add(tr("Speed"), speed_);
-  connect(step_, &QComboBox::activated, &time_,
-          [this](int index) { time_.setStep(static_cast<TimeStep>(step_->itemData(index).toInt())); });
+  connect(step_, &QComboBox::activated, &time_, [this](int index) {
+    time_.setStep(static_cast<TimeStep>(step_->itemData(index).toInt()));
+  });
   connect(speed_, &QComboBox::activated, &time_,
           [this](int index) { time_.setSpeed(speed_->itemData(index).toDouble()); });
 }
