@@ -13,6 +13,7 @@
 #include "ui/charts/chart_copy.h"
 #include "ui/charts/chart_menu.h"
 #include "ui/charts/hit_test.h"
+#include "ui/charts/page_points.h"
 #include "ui/controls/plain_key.h"
 
 namespace veyruna::ui {
@@ -28,14 +29,6 @@ QStringList linesOf(const ChartMark& mark, const astro::Observer& observer) {
     lines.append(QString::fromStdString(line));
   }
   return lines;
-}
-
-charts::PagePoint pagePoint(QPointF point) {
-  return {point.x(), point.y()};
-}
-
-QPointF pointOf(charts::PagePoint point) {
-  return {point.x, point.y};
 }
 
 /// The mark that many places after this one, round and round.

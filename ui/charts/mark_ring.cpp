@@ -4,6 +4,8 @@
 #include <QPen>
 #include <algorithm>
 
+#include "ui/charts/page_points.h"
+
 namespace veyruna::ui {
 
 namespace {
@@ -11,10 +13,6 @@ namespace {
 constexpr double clearance = 4.0;    ///< between a thing and its ring
 constexpr double leastRadius = 8.0;  ///< of a ring
 constexpr double halo = 2.5;         ///< light to both sides of the dark line
-
-QPointF markPoint(charts::PagePoint at) {
-  return {at.x, at.y};
-}
 
 double thicknessOf(RingKind kind) {
   switch (kind) {
@@ -32,8 +30,8 @@ double thicknessOf(RingKind kind) {
 
 QPainterPath ringAround(const charts::ChartMark& mark, const QTransform& chartToView) {
   const charts::Stretch& thing = (mark.dots.empty() ? mark.letters : mark.dots).front();
-  const QPointF from = chartToView.map(markPoint(thing.from));
-  const QPointF to = chartToView.map(markPoint(thing.to));
+  const QPointF from = chartToView.map(pointOf(thing.from));
+  const QPointF to = chartToView.map(pointOf(thing.to));
   const double radius = std::max(thing.radius * chartToView.m11() + clearance, leastRadius);
   QPainterPath ring;
   if (from == to) {
