@@ -100,7 +100,6 @@ void PlanetsView::show(const QList<BodyPosition>& positions) {
     table_->item(row, 0)->setIcon(mark(positions[row].color));
   }
   fitColumns();
-  selectRowOfBody();
   showView(!positions.isEmpty());
 }
 
