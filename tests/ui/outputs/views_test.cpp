@@ -210,6 +210,18 @@ TEST_F(Views, TheTableOfPositionsKeepsItsWidthsHoweverOftenItIsCalculated) {
   }
 }
 
+TEST_F(Views, TheTableOfPositionsSpreadsWithItsWindow) {
+  calculate();
+  press("tab3");
+  const auto* const positions = find<QTableWidget>("positionsTable");
+  window.resize(window.minimumSizeHint());
+  tests::turnEventLoop();
+  const int narrow = positions->columnWidth(0);
+  window.resize(1600, 700);
+  tests::turnEventLoop();
+  EXPECT_GT(positions->columnWidth(0), narrow);
+}
+
 TEST_F(Views, WhereTheTextsHaveNoRoomTheTableScrollsAndCutsNone) {
   calculate();
   press("tab3");

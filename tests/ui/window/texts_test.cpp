@@ -82,5 +82,23 @@ TEST_F(Texts, EveryTextOfTheWindowAndItsSheetsIsThere) {
   EXPECT_EQ(find<QLabel>("buildLabel")->text(), QStringLiteral("Build ") + programBuild());
 }
 
+TEST_F(Texts, WhatTellsSomethingCanBeMarkedAndCopied) {
+  for (const char* const name :
+       {"caption", "coordinates", "nextFullMoon", "nextNewMoon", "versionLabel", "buildLabel"}) {
+    EXPECT_TRUE(find<QLabel>(name)->textInteractionFlags().testFlag(Qt::TextSelectableByMouse))
+        << name;
+  }
+}
+
+TEST_F(Texts, TheLineOfChangedInputsMakesTheSidebarNoWider) {
+  calculate();
+  const auto* const sidebar = find<QWidget>("sidebar");
+  const int width = sidebar->minimumSizeHint().width();
+  model.setHour(3.0);
+  tests::turnEventLoop();
+  EXPECT_FALSE(find<QLabel>("difference")->text().isEmpty());
+  EXPECT_EQ(sidebar->minimumSizeHint().width(), width);
+}
+
 }  // namespace
 }  // namespace veyruna::ui
