@@ -50,6 +50,7 @@ MapPicture::MapPicture(QImage whole) {
   while (std::min(levels_.back().width(), levels_.back().height()) > smallestSide) {
     levels_.push_back(halved(levels_.back()));
   }
+  isMade_.store(true, std::memory_order_release);
 }
 
 int MapPicture::levelFor(double scale) const {

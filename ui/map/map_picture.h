@@ -2,6 +2,7 @@
 
 #include <QImage>
 #include <QString>
+#include <atomic>
 #include <functional>
 #include <vector>
 
@@ -27,6 +28,7 @@ class MapPicture {
   /// One pixel of level n stands for exactly 2ⁿ × 2ⁿ of the picture, cut off at its right and
   /// bottom edge.
   [[nodiscard]] const QImage& level(int index) const {
+    isMade_.load(std::memory_order_acquire);
     return levels_[static_cast<std::size_t>(index)];
   }
 
@@ -35,6 +37,9 @@ class MapPicture {
 
  private:
   std::vector<QImage> levels_;
+  /// One thread makes it, others read it: this orders the two for everyone to see, however the
+  /// picture is handed on.
+  std::atomic<bool> isMade_ = false;
 };
 
 }  // namespace veyruna::ui
