@@ -2,6 +2,7 @@
 #include <QDialog>
 #include <QGroupBox>
 #include <QLabel>
+#include <QPlainTextEdit>
 
 #include "tests/ui/window/control_window.h"
 #include "ui/controls/program.h"
@@ -87,6 +88,11 @@ TEST_F(Texts, WhatTellsSomethingCanBeMarkedAndCopied) {
        {"caption", "coordinates", "nextFullMoon", "nextNewMoon", "versionLabel", "buildLabel"}) {
     EXPECT_TRUE(find<QLabel>(name)->textInteractionFlags().testFlag(Qt::TextSelectableByMouse))
         << name;
+  }
+  const QList<QPlainTextEdit*> tables = window.findChildren<QPlainTextEdit*>();
+  EXPECT_EQ(tables.size(), 4);
+  for (const QPlainTextEdit* const table : tables) {
+    EXPECT_TRUE(table->textInteractionFlags().testFlag(Qt::TextSelectableByKeyboard));
   }
 }
 
