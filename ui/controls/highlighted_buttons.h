@@ -5,19 +5,31 @@
 #include <QStyleOptionToolButton>
 #include <QStylePainter>
 #include <QToolButton>
+#include <optional>
+#include <tuple>
 
 /// Buttons of which one is chosen. The chosen one is drawn in the palette's highlight: pressed in
 /// alone it is hard to tell on a dark desktop.
 namespace veyruna::ui {
 
-/// Gives what is drawn the highlight's colours where it is chosen.
-inline void highlightChosen(QStyleOption& option, bool isChosen) {
-  if (isChosen) {
-    const QPalette colors = option.palette;
-    option.palette.setColor(QPalette::Button, colors.color(QPalette::Highlight));
-    option.palette.setColor(QPalette::ButtonText, colors.color(QPalette::HighlightedText));
+/// The palette that the chosen one is drawn in. Kept while the plain one stays the same: for every
+/// new palette a style keeps anew what it has drawn.
+class ChosenPalette {
+ public:
+  const QPalette& of(const QPalette& plain) {
+    if (!plainKey_ || *plainKey_ != plain.cacheKey()) {
+      plainKey_ = plain.cacheKey();
+      chosen_ = plain;
+      chosen_.setColor(QPalette::Button, plain.color(QPalette::Highlight));
+      chosen_.setColor(QPalette::ButtonText, plain.color(QPalette::HighlightedText));
+    }
+    return chosen_;
   }
-}
+
+ private:
+  std::optional<qint64> plainKey_;
+  QPalette chosen_;
+};
 
 /// One segment of a choice.
 class SegmentButton final : public QPushButton {
@@ -36,9 +48,14 @@ class SegmentButton final : public QPushButton {
     QStylePainter painter(this);
     QStyleOptionButton option;
     initStyleOption(&option);
-    highlightChosen(option, isChecked());
+    if (isChecked()) {
+      option.palette = chosen_.of(option.palette);
+    }
     painter.drawControl(QStyle::CE_PushButton, option);
   }
+
+ private:
+  ChosenPalette chosen_;
 };
 
 /// One tab of the toolbar.
@@ -51,13 +68,28 @@ class TabButton final : public QToolButton {
     QStylePainter painter(this);
     QStyleOptionToolButton option;
     initStyleOption(&option);
-    highlightChosen(option, isChecked());
     if (isChecked()) {
-      // The icon in the ink of what is highlighted.
-      option.icon = QIcon(icon().pixmap(option.iconSize, devicePixelRatio(), QIcon::Selected));
+      option.palette = chosen_.of(option.palette);
+      option.icon = chosenIcon(option.iconSize);
     }
     painter.drawComplexControl(QStyle::CC_ToolButton, option);
   }
+
+ private:
+  /// The icon in the ink of what is highlighted; kept, since Qt keeps what each icon has drawn.
+  const QIcon& chosenIcon(QSize size) {
+    const IconKey key(icon().cacheKey(), size, devicePixelRatioF());
+    if (key != iconKey_) {
+      iconKey_ = key;
+      chosenIcon_ = QIcon(icon().pixmap(size, devicePixelRatioF(), QIcon::Selected));
+    }
+    return chosenIcon_;
+  }
+
+  using IconKey = std::tuple<qint64, QSize, qreal>;
+  ChosenPalette chosen_;
+  IconKey iconKey_;
+  QIcon chosenIcon_;
 };
 
 }  // namespace veyruna::ui

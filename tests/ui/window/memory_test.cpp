@@ -31,5 +31,22 @@ TEST(Memory, StaysThroughManyRecalculationsWithAChartShown) {
   EXPECT_LT(static_cast<double>(tests::heapBytes()) - before, 5e6);
 }
 
+TEST(Memory, PaintingWhatIsChosenAgainTakesNoMore) {
+  tests::ShownWindow shown;
+  for (const char* const name : {"tab1", "northSouthN", "calculateButton"}) {
+    auto* const button = shown.window.findChild<QAbstractButton*>(QString::fromLatin1(name));
+    ASSERT_NE(button, nullptr) << name;
+    const auto paint = [button](int times) {
+      for (int i = 0; i < times; ++i) {
+        EXPECT_FALSE(button->grab().isNull());
+      }
+    };
+    paint(50);
+    const auto before = static_cast<double>(tests::heapBytes());
+    paint(500);
+    EXPECT_LT(static_cast<double>(tests::heapBytes()) - before, 1e5) << name;
+  }
+}
+
 }  // namespace
 }  // namespace veyruna::ui
