@@ -30,10 +30,8 @@ class Passages final : public EventSource {
         range_(range),
         bounds_(courseBoundsOf(body)),
         bend_(skyRate * skyRate + 2.0 * skyRate * bounds_.speed + bounds_.bend),
-        last_(range.from) {
-    // What happens at the very beginning is seen from just before it.
-    last_ = range.from - leastStepDays;
-  }
+        // What happens at the very beginning is seen from just before it.
+        last_(range.from - leastStepDays) {}
 
   std::optional<Event> next() override {
     const auto state = [this](double t) {
