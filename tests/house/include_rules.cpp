@@ -9,7 +9,7 @@ namespace veyruna::tests {
 namespace {
 
 /// The libraries that a room uses.
-enum class Libraries { standard, standardAndPosix, any };
+enum class Libraries { standard, standardAndPosix, standardAndJson, any };
 
 struct Room {
   std::set<std::string, std::less<>> mayUse;  ///< rooms below, besides itself
@@ -24,12 +24,15 @@ const std::map<std::string, Room, std::less<>>& rooms() {
       {"charts", {{"astro", "reports"}, Libraries::standard}},
       {"almanac", {{"astro", "reports", "charts"}, Libraries::standard}},
       {"documents", {{"astro", "reports", "charts"}, Libraries::standard}},
+      {"records",
+       {{"astro", "reports", "charts", "almanac", "documents"}, Libraries::standardAndJson}},
       {"model", {{"astro", "reports", "charts", "documents", "files"}, Libraries::any}},
       {"drawing", {{"astro"}, Libraries::any}},
       {"export",
        {{"astro", "reports", "charts", "documents", "drawing", "files", "model"}, Libraries::any}},
       {"cli",
-       {{"astro", "reports", "charts", "documents", "files", "model", "export"}, Libraries::any}},
+       {{"astro", "reports", "charts", "documents", "records", "files", "model", "export"},
+        Libraries::any}},
       {"ui/controls", {{"astro"}, Libraries::any}},
       {"ui/charts",
        {{"astro", "reports", "charts", "documents", "drawing", "ui/controls"}, Libraries::any}},
@@ -60,7 +63,8 @@ bool isPosixHeader(const std::string& header) {
 
 bool isLibraryAllowed(Libraries libraries, const std::string& header) {
   return libraries == Libraries::any || isStandardHeader(header) ||
-         (libraries == Libraries::standardAndPosix && isPosixHeader(header));
+         (libraries == Libraries::standardAndPosix && isPosixHeader(header)) ||
+         (libraries == Libraries::standardAndJson && header == "nlohmann/json.hpp");
 }
 
 /// Whether a file of the room may include what stands between the quotes or brackets.

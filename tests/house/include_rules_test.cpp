@@ -71,6 +71,19 @@ TEST(IncludeRules, FilesUseTheSystemBesides) {
   EXPECT_EQ(forbiddenIncludes("files", "#include <CLI/CLI.hpp>\n").size(), 1U);
 }
 
+/// It takes long to compile, and what is made with it is text.
+TEST(IncludeRules, RecordsKnowJsonInTheirSourcesOnly) {
+  const std::string json = "#include <nlohmann/json.hpp>\n";
+  EXPECT_TRUE(forbiddenIncludes("records", json).empty());
+  EXPECT_EQ(forbiddenIncludes("almanac", json).size(), 1U);
+  for (const auto& entry : fs::directory_iterator(sourcePath("records"))) {
+    if (entry.path().extension() == ".h") {
+      EXPECT_EQ(fileContent(entry.path().string()).find("nlohmann"), std::string::npos)
+          << entry.path();
+    }
+  }
+}
+
 TEST(IncludeRules, EverySourceOfTheHouseKeepsThem) {
   int sources = 0;
   for (const std::string& room : roomNames()) {

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "records/record.h"
+
+/// Values as JSON, on one line.
+namespace veyruna::records {
+
+/// A text with its quotes. Bytes that are no UTF-8 become U+FFFD.
+std::string jsonTextOf(std::string_view text);
+
+/// Any value but nothing.
+std::string jsonTextOf(const Value& value);
+
+/// The members of a row, `"name":value` with a comma between two; those without a value are left
+/// out. Appended to `out`, behind a comma where something stands there already.
+void appendMembers(std::string& out, const std::vector<Field>& fields, const Row& row);
+
+/// `{"name":"events","version":1}`.
+std::string schemaMemberOf(const RecordType& type);
+
+/// The text itself in UTF-8 whatever it held: bytes that are none become U+FFFD.
+std::string validTextOf(std::string_view text);
+
+}  // namespace veyruna::records
