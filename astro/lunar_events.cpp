@@ -62,6 +62,11 @@ bool alignmentIsPossible(double separation, double reach) {
   return separation < partialSolarLimit + reach || separation > penumbralLunarLimit - reach;
 }
 
+/// The moment itself, if sun, world and moon are nearly aligned then.
+std::optional<double> whereAligned(double t) {
+  return lunarEventCode(t).empty() ? std::nullopt : std::optional(t);
+}
+
 }  // namespace
 
 std::string_view lunarEventCode(double t) {
@@ -84,20 +89,25 @@ std::string lunarEventText(double t) {
   return text;
 }
 
-std::string nodeEclipseEvent(double start, double step) {
+std::optional<double> nodeEclipse(double start, double step) {
   requireInvariant(std::isfinite(step), "an interval ends at some time", step);
   if (!alignmentIsPossible(std::abs(elongation(start, newMoonElongation)), reachOf(step))) {
-    return {};
+    return std::nullopt;
   }
   const double atStart = moonLatitude(start);
   if (std::abs(atStart) < onEcliptic) {
-    return lunarEventText(start);
+    return whereAligned(start);
   }
   const double end = start + step;
   if (atStart * moonLatitude(end) >= 0.0) {
-    return {};
+    return std::nullopt;
   }
-  return lunarEventText(bisectSignChange({start, end}, atStart, moonLatitude));
+  return whereAligned(bisectSignChange({start, end}, atStart, moonLatitude));
+}
+
+std::string nodeEclipseEvent(double start, double step) {
+  const std::optional<double> moment = nodeEclipse(start, step);
+  return moment ? lunarEventText(*moment) : std::string();
 }
 
 }  // namespace veyruna::astro

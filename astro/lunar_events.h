@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -13,9 +14,12 @@ std::string lunarEventText(double t);
 /// Its code without blanks: "TS", "PS", "FUL", "FPL", "PPL", or the empty text.
 std::string_view lunarEventCode(double t);
 
-/// lunarEventText of the moment in [start, start + step] (days) at which the moon crosses the
-/// ecliptic; empty where it does not, or where sun and moon are not aligned then.
-/// A step that is not finite is a broken invariant too.
+/// The moment in [start, start + step] (days) at which the moon crosses the ecliptic; nothing where
+/// it does not, or where sun and moon are not aligned then. A moon that is on the ecliptic at the
+/// start counts as crossing it there. A step that is not finite is a broken invariant too.
+std::optional<double> nodeEclipse(double start, double step);
+
+/// lunarEventText of that moment, or the empty text.
 std::string nodeEclipseEvent(double start, double step);
 
 }  // namespace veyruna::astro

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "astro/angle.h"
 #include "astro/arc.h"
@@ -57,16 +58,10 @@ void appendAngle(std::string& out, double angle) {
 }
 
 /// The columns of moon, sun and planets, in this order.
-struct Block {
-  double moon;
-  double sun;
-  astro::PerPlanet<double> planets;
-};
-
-void appendBlock(std::string& out, const Block& block) {
-  appendAngle(out, block.moon);
-  appendAngle(out, block.sun);
-  for (const double angle : block.planets) {
+void appendBlock(std::string& out, const BodyAngles& angles) {
+  appendAngle(out, angles.moon);
+  appendAngle(out, angles.sun);
+  for (const double angle : angles.planets) {
     appendAngle(out, angle);
   }
 }
@@ -76,25 +71,19 @@ double rightAscensionOf(const astro::Vec3D& ecliptic) {
 }
 
 void appendRow(std::string& out, double t) {
-  const astro::Sun sun(t);
-  const astro::Vec3D moon(astro::moonLongitude(t), astro::moonLatitude(t));
-  astro::PerPlanet<double> longitudes{};
-  astro::PerPlanet<double> rightAscensions{};
-  for (const astro::Planet planet : astro::allPlanets) {
-    const astro::Vec3D ecliptic = planetEcliptic(planet, t, sun);
-    longitudes[indexOf(planet)] = ecliptic.phi;
-    rightAscensions[indexOf(planet)] = rightAscensionOf(ecliptic);
-  }
-
+  const ConjunctionEntry entry = conjunctionEntry(t);
   astro::appendCalendarLabel(out, t);
   out += "  ";
   // The planets' columns stand crossed; see conjunctionTable.
-  appendBlock(out, {.moon = rightAscensionOf(moon), .sun = sun.eq.phi, .planets = longitudes});
+  BodyAngles first = entry.rightAscensions;
+  BodyAngles second = entry.longitudes;
+  std::swap(first.planets, second.planets);
+  appendBlock(out, first);
   out += "  ";
-  appendBlock(out, {.moon = moon.phi, .sun = sun.ec.phi, .planets = rightAscensions});
-  for (const astro::PlanetPair& pair : astro::allPlanetPairs) {
-    if (isConjunct(longitudes[indexOf(pair.first)], longitudes[indexOf(pair.second)])) {
-      appendCode(out, pair);
+  appendBlock(out, second);
+  for (std::size_t i = 0; i < astro::planetPairCount; ++i) {
+    if (entry.isConjunctPair[i]) {
+      appendCode(out, astro::allPlanetPairs[i]);
       out += ' ';
     }
   }
@@ -106,6 +95,26 @@ void appendRow(std::string& out, double t) {
 bool isConjunct(double a, double b) {
   const double apart = std::abs(astro::wrappedToHalfTurns(a) - astro::wrappedToHalfTurns(b));
   return apart < closest || apart > acrossSeam;
+}
+
+ConjunctionEntry conjunctionEntry(double baseTime) {
+  const astro::Sun sun(baseTime);
+  const astro::Vec3D moon(astro::moonLongitude(baseTime), astro::moonLatitude(baseTime));
+  ConjunctionEntry entry{.baseTime = baseTime,
+                         .rightAscensions = {.moon = rightAscensionOf(moon), .sun = sun.eq.phi},
+                         .longitudes = {.moon = moon.phi, .sun = sun.ec.phi},
+                         .isConjunctPair = {}};
+  astro::PerPlanet<double>& longitudes = entry.longitudes.planets;
+  for (const astro::Planet planet : astro::allPlanets) {
+    const astro::Vec3D ecliptic = planetEcliptic(planet, baseTime, sun);
+    longitudes[indexOf(planet)] = ecliptic.phi;
+    entry.rightAscensions.planets[indexOf(planet)] = rightAscensionOf(ecliptic);
+  }
+  for (std::size_t i = 0; i < astro::planetPairCount; ++i) {
+    const auto& [first, second] = astro::allPlanetPairs[i];
+    entry.isConjunctPair[i] = isConjunct(longitudes[indexOf(first)], longitudes[indexOf(second)]);
+  }
+  return entry;
 }
 
 void writeConjunctionTable(double start, const TableSize& size, const TextSink& sink) {

@@ -8,7 +8,6 @@
 #include "astro/moon.h"
 #include "astro/number_text.h"
 #include "astro/sun.h"
-#include "reports/rise_set.h"
 #include "reports/table_rows.h"
 
 namespace veyruna::reports {
@@ -17,8 +16,6 @@ namespace {
 
 constexpr std::string_view ephemerisHeader =
     "YR MO DAY TIME        I-RA     I-DEC    Ec-Lat   Ec-Long  T-RA    T-DEC     T-Long   Phase\n";
-
-constexpr int intervalsPerDay = 4;
 
 /// " 012.50", "-005.25": seven characters, the sign in a column of its own.
 void appendAngleField(std::string& out, double radians) {
@@ -38,54 +35,82 @@ double phaseOf(double moonLongitude, double sunLongitude) {
   return (apart > 180.0 ? 360.0 - apart : apart) / 180.0;
 }
 
-/// The rows of one table; the searches remember where they were from row to row.
-class EphemerisRows {
+/// The entries of one table; the searches remember where they were from one to the next.
+class EphemerisEntries {
  public:
-  explicit EphemerisRows(double latitude)
+  explicit EphemerisEntries(double latitude)
       : moonSearch_(risingMoon, latitude), sunSearch_(risingSun, latitude) {}
 
-  void append(std::string& out, double t) {
+  EphemerisEntry at(double t) {
     const astro::Moon moon(t);
     const astro::Sun sun(t);
-    astro::appendCalendarLabel(out, t);
-    out += "  ";
-    for (const double angle : {moon.eq.phi, moon.eq.theta, moon.ec.theta, moon.ec.phi, sun.eq.phi,
-                               sun.eq.theta, sun.ec.phi}) {
-      appendAngleField(out, angle);
-      out += "  ";
+    EphemerisEntry entry{.baseTime = t,
+                         .moonRightAscension = moon.eq.phi,
+                         .moonDeclination = moon.eq.theta,
+                         .moonLatitude = moon.ec.theta,
+                         .moonLongitude = moon.ec.phi,
+                         .sunRightAscension = sun.eq.phi,
+                         .sunDeclination = sun.eq.theta,
+                         .sunLongitude = sun.ec.phi,
+                         .phase = phaseOf(moon.ec.phi, sun.ec.phi)};
+    for (std::size_t k = 0; k < entry.eclipses.size(); ++k) {
+      const double start = t + static_cast<double>(k) * eventIntervalDays;
+      entry.moonEvents[k] = moonSearch_.event(start, eventIntervalDays);
+      entry.sunEvents[k] = sunSearch_.event(start, eventIntervalDays);
+      entry.eclipses[k] = astro::nodeEclipse(start, eventIntervalDays);
     }
-    out += ' ';
-    astro::appendFixed(out, phaseOf(moon.ec.phi, sun.ec.phi), 2);
-    out += "   ";
-    appendEvents(out, t);
-    out += '\n';
+    return entry;
   }
 
  private:
-  /// All events of the moon, then those of the sun, then the eclipses, each in order of time.
-  void appendEvents(std::string& out, double t) {
-    for (int k = 0; k < intervalsPerDay; ++k) {
-      moonSearch_.appendEvent(out, t + k * eventIntervalDays, eventIntervalDays);
-    }
-    for (int k = 0; k < intervalsPerDay; ++k) {
-      sunSearch_.appendEvent(out, t + k * eventIntervalDays, eventIntervalDays);
-    }
-    for (int k = 0; k < intervalsPerDay; ++k) {
-      out += astro::nodeEclipseEvent(t + k * eventIntervalDays, eventIntervalDays);
-    }
-  }
-
   RiseSetSearch moonSearch_;
   RiseSetSearch sunSearch_;
 };
 
+void appendEvents(std::string& out, const RisingBody& body, const PerQuarter<RiseSet>& events) {
+  for (const std::optional<RiseSet>& event : events) {
+    if (event) {
+      appendRiseSetText(out, body, *event);
+    }
+  }
+}
+
+void appendRow(std::string& out, const EphemerisEntry& entry) {
+  astro::appendCalendarLabel(out, entry.baseTime);
+  out += "  ";
+  for (const double angle :
+       {entry.moonRightAscension, entry.moonDeclination, entry.moonLatitude, entry.moonLongitude,
+        entry.sunRightAscension, entry.sunDeclination, entry.sunLongitude}) {
+    appendAngleField(out, angle);
+    out += "  ";
+  }
+  out += ' ';
+  astro::appendFixed(out, entry.phase, 2);
+  out += "   ";
+  // All events of the moon, then those of the sun, then the eclipses, each in order of time.
+  appendEvents(out, risingMoon, entry.moonEvents);
+  appendEvents(out, risingSun, entry.sunEvents);
+  for (const std::optional<double>& eclipse : entry.eclipses) {
+    if (eclipse) {
+      out += astro::lunarEventText(*eclipse);
+    }
+  }
+  out += '\n';
+}
+
 }  // namespace
+
+void forEachEphemerisEntry(const astro::Observer& observer, const TableSize& size,
+                           const std::function<void(const EphemerisEntry&)>& take) {
+  EphemerisEntries entries(observer.latitude);
+  forEachMoment(observer.baseTime, size, [&](double t) { take(entries.at(t)); });
+}
 
 void writeEphemerisTable(const astro::Observer& observer, const TableSize& size,
                          const TextSink& sink) {
-  EphemerisRows table(observer.latitude);
+  EphemerisEntries entries(observer.latitude);
   writeRows(ephemerisHeader, observer.baseTime, size, sink,
-            [&table](std::string& row, double t) { table.append(row, t); });
+            [&entries](std::string& row, double t) { appendRow(row, entries.at(t)); });
 }
 
 std::string ephemerisTable(const astro::Observer& observer, const TableSize& size) {

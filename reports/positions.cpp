@@ -38,33 +38,47 @@ std::string fittedName(std::string_view name) {
   return fitted.append(nameWidth - std::min(characters, nameWidth), ' ');
 }
 
-PositionRow rowOf(std::string_view name, std::string_view bodyType, const astro::Vec3D& equatorial,
+BodyPlace placeOf(std::string_view name, std::string_view bodyType, const astro::Vec3D& equatorial,
                   double ecliptic, const astro::HorizonFrame& horizon) {
   const astro::Vec3D seen = horizon.toHorizon(equatorial);
-  return {std::string(name),
-          std::string(bodyType),
-          astro::Arc(seen.phi).degMinText(),
-          astro::Arc(seen.theta).degMinText(),
-          astro::Arc(ecliptic).degMinText(),
-          std::string(signName(ecliptic))};
+  return {.name = name,
+          .bodyType = bodyType,
+          .azimuth = seen.phi,
+          .altitude = seen.theta,
+          .ecLong = ecliptic};
+}
+
+PositionRow rowOf(const BodyPlace& place) {
+  return {std::string(place.name),
+          std::string(place.bodyType),
+          astro::Arc(place.azimuth).degMinText(),
+          astro::Arc(place.altitude).degMinText(),
+          astro::Arc(place.ecLong).degMinText(),
+          std::string(signName(place.ecLong))};
 }
 
 }  // namespace
 
-std::array<PositionRow, astro::bodyCount> positionRows(const astro::Observer& observer) {
+std::array<BodyPlace, astro::bodyCount> bodyPlaces(const astro::Observer& observer) {
   const double t = observer.baseTime;
   const astro::HorizonFrame horizon(observer);
   const astro::Sun sun(t);
   const astro::Moon moon(observer);
-  std::array<PositionRow, astro::bodyCount> rows;
-  auto row = rows.begin();
-  *row++ = rowOf(astro::sunName, "Sun", sun.eq, sun.ec.phi, horizon);
-  *row++ = rowOf(astro::moonName, "Moon", moon.eq, moon.ec.phi, horizon);
+  std::array<BodyPlace, astro::bodyCount> places;
+  auto place = places.begin();
+  *place++ = placeOf(astro::sunName, "Sun", sun.eq, sun.ec.phi, horizon);
+  *place++ = placeOf(astro::moonName, "Moon", moon.eq, moon.ec.phi, horizon);
   for (const astro::PlanetFacts& facts : astro::planetFacts) {
     const astro::Vec3D ecliptic = planetEcliptic(facts.planet, t, sun);
-    *row++ = rowOf(facts.name, facts.kind, rotated(ecliptic, astro::eclipticToEquatorial),
-                   ecliptic.phi, horizon);
+    *place++ = placeOf(facts.name, facts.kind, rotated(ecliptic, astro::eclipticToEquatorial),
+                       ecliptic.phi, horizon);
   }
+  return places;
+}
+
+std::array<PositionRow, astro::bodyCount> positionRows(const astro::Observer& observer) {
+  std::array<PositionRow, astro::bodyCount> rows;
+  std::ranges::transform(bodyPlaces(observer), rows.begin(), rowOf);
   return rows;
 }
 

@@ -32,17 +32,6 @@ astro::Vec3D sunDirection(double t) {
   return {astro::sunLongitude(t), 0.0};
 }
 
-void appendEventText(std::string& out, std::string_view code, double t) {
-  const double hoursSinceNoon = astro::fractionOfTurn(t) * 24.0;
-  const double hours = std::floor(hoursSinceNoon);
-  const double minutes = std::floor((hoursSinceNoon - hours) * 60.0);
-  out += code;
-  astro::appendPaddedFixed(out, hours, 2, 0);
-  out += ':';
-  astro::appendPaddedFixed(out, minutes, 2, 0);
-  out += ' ';
-}
-
 std::string singleEvent(const RisingBody& body, double start, double step, double latitude) {
   std::string text;
   RiseSetSearch(body, latitude).appendEvent(text, start, step);
@@ -87,7 +76,7 @@ bool RiseSetSearch::isOnHorizon(double t, double sine) const {
   return std::abs(sine) < 2.0 * onHorizon && std::abs(altitude(t)) < onHorizon;
 }
 
-void RiseSetSearch::appendEvent(std::string& out, double start, double step) {
+std::optional<RiseSet> RiseSetSearch::event(double start, double step) {
   const double end = start + step;
   const double atStart = start == lastEnd_ ? signAtLastEnd_ : signOfAltitude(start);
   const double atEnd = signOfAltitude(end);
@@ -95,15 +84,31 @@ void RiseSetSearch::appendEvent(std::string& out, double start, double step) {
   signAtLastEnd_ = atEnd;
 
   if (isOnHorizon(start, atStart)) {
-    appendEventText(out, atEnd > 0.0 ? body_.riseCode : body_.setCode, start);
-    return;
+    return RiseSet{.baseTime = start, .isRise = atEnd > 0.0};
   }
   if (atStart * atEnd >= 0.0) {
-    return;
+    return std::nullopt;
   }
   const double crossing = astro::bisectSignChange({start, end}, atStart,
                                                   [this](double t) { return signOfAltitude(t); });
-  appendEventText(out, atStart < 0.0 ? body_.riseCode : body_.setCode, crossing);
+  return RiseSet{.baseTime = crossing, .isRise = atStart < 0.0};
+}
+
+void RiseSetSearch::appendEvent(std::string& out, double start, double step) {
+  if (const std::optional<RiseSet> found = event(start, step)) {
+    appendRiseSetText(out, body_, *found);
+  }
+}
+
+void appendRiseSetText(std::string& out, const RisingBody& body, const RiseSet& event) {
+  const double hoursSinceNoon = astro::fractionOfTurn(event.baseTime) * 24.0;
+  const double hours = std::floor(hoursSinceNoon);
+  const double minutes = std::floor((hoursSinceNoon - hours) * 60.0);
+  out += event.isRise ? body.riseCode : body.setCode;
+  astro::appendPaddedFixed(out, hours, 2, 0);
+  out += ':';
+  astro::appendPaddedFixed(out, minutes, 2, 0);
+  out += ' ';
 }
 
 std::string moonRiseSetEvent(double start, double step, double latitude) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <limits>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -19,6 +20,12 @@ struct RisingBody {
   std::string_view setCode;            ///< three characters
 };
 
+/// A body passes the horizon.
+struct RiseSet {
+  double baseTime = 0.0;  ///< days
+  bool isRise = true;
+};
+
 extern const RisingBody risingMoon;  ///< "MR@", "MS@"
 extern const RisingBody risingSun;   ///< "SR@", "SS@"
 
@@ -29,9 +36,10 @@ class RiseSetSearch {
   /// Latitude in radians, positive north.
   RiseSetSearch(const RisingBody& body, double latitude);
 
-  /// Appends the event in [start, start + step] (days): code, clock reading and one blank, such as
-  /// "MR@18:47 ". Appends nothing where the body does not pass the horizon. The clock is that of
-  /// the base time's fraction, whose day begins at noon: an event at 06:00 reads 18:00.
+  /// The event in [start, start + step] (days); nothing where the body does not pass the horizon.
+  std::optional<RiseSet> event(double start, double step);
+
+  /// Appends its text, or nothing.
   void appendEvent(std::string& out, double start, double step);
 
  private:
@@ -48,6 +56,10 @@ class RiseSetSearch {
   double lastEnd_ = std::numeric_limits<double>::quiet_NaN();
   double signAtLastEnd_ = 0.0;
 };
+
+/// Appends code, clock reading and one blank, such as "MR@18:47 ". The clock is that of the base
+/// time's fraction, whose day begins at noon: an event at 06:00 reads 18:00.
+void appendRiseSetText(std::string& out, const RisingBody& body, const RiseSet& event);
 
 /// One event as a text of its own; see RiseSetSearch::appendEvent.
 std::string moonRiseSetEvent(double start, double step, double latitude);
