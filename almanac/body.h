@@ -33,8 +33,10 @@ constexpr std::optional<astro::Planet> planetOf(Body body) {
              : std::optional(static_cast<astro::Planet>(row - astro::rowOf(astro::Planet{})));
 }
 
-/// "thessil", "ivro", "bralo" and so on: its word in every list that programs read. None is a
-/// broken invariant.
+/// "Thessil", "Ivro", "Bralo" and so on. None is a broken invariant, here and below.
+std::string_view nameOf(Body body);
+
+/// "thessil", "ivro", "bralo" and so on: its word in every list that programs read.
 std::string_view wordOf(Body body);
 
 }  // namespace veyruna::almanac

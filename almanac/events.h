@@ -10,11 +10,12 @@ namespace veyruna::almanac {
 
 /// Which events are sought.
 struct EventQuery {
-  Range range;
-  std::set<EventKind> kinds;
+  Range range = {};
+  std::set<EventKind> kinds = {};
   /// Of conjunctions and oppositions: pairs with the sun and the moon, too, not the planets alone.
-  std::set<EventKind> withSunAndMoon;
-  std::vector<astro::Observer> places;  ///< of risings and the like; their moments do not matter
+  std::set<EventKind> withSunAndMoon = {};
+  std::vector<astro::Observer> places =
+      {};  ///< of risings and the like; their moments do not matter
 };
 
 /// Hands on every event of the query in the order of their moments; those of one moment in the

@@ -14,28 +14,32 @@ namespace {
 class Stations final : public EventSource {
  public:
   Stations(Body body, const Range& range)
-      : body_(body), range_(range), last_(std::nextafter(range.from, range.from - 1.0)) {}
+      : body_(body), range_(range), searchedTo_(range.from - aWhile) {}
 
   std::optional<Event> next() override {
-    do {
-      const std::optional<double> station = nextStation(body_, last_);
-      if (!station || *station >= range_.to) {
+    while (const std::optional<double> station = nextStation(body_, searchedTo_)) {
+      if (*station >= range_.to) {
         return std::nullopt;
       }
-      last_ = std::max(*station, std::nextafter(last_, range_.to));
-    } while (last_ < range_.from);
-    // The rate is 0 here: which way it goes on is seen a while later.
-    constexpr double aWhile = 0.01;
-    return Event{.kind = EventKind::station,
-                 .baseTime = last_,
-                 .body = body_,
-                 .isForward = motionAt(body_, last_ + aWhile).rate > 0.0};
+      searchedTo_ = *station + aWhile;
+      if (*station >= range_.from) {
+        return Event{.kind = EventKind::station,
+                     .baseTime = *station,
+                     .body = body_,
+                     .isForward = motionAt(body_, searchedTo_).rate > 0.0};
+      }
+    }
+    return std::nullopt;
   }
 
  private:
+  /// Days, beyond the rounding of a turn and far within the days until the next: which way the body
+  /// goes on is seen by then.
+  static constexpr double aWhile = 0.01;
+
   Body body_;
   Range range_;
-  double last_;
+  double searchedTo_;
 };
 
 class SignEntries final : public EventSource {

@@ -75,6 +75,23 @@ std::string_view lunarEventCode(double t) {
   return padded.substr(begin, padded.find_last_not_of(' ') + 1 - begin);
 }
 
+std::string_view lunarEventMeaning(std::string_view code) {
+  struct Meaning {
+    std::string_view code;
+    std::string_view words;
+  };
+  static constexpr std::array<Meaning, 5> meanings = {{
+      {"TS", "total eclipse of the sun"},
+      {"PS", "partial eclipse of the sun"},
+      {"FUL", "total eclipse of the moon"},
+      {"FPL", "partial eclipse of the moon"},
+      {"PPL", "penumbral eclipse of the moon"},
+  }};
+  const auto* const found = std::ranges::find(meanings, code, &Meaning::code);
+  requireInvariant(found != meanings.end(), "a code of an eclipse has its meaning");
+  return found->words;
+}
+
 std::string lunarEventText(double t) {
   const double e = elongation(t, newMoonElongation);
   const std::string_view code = eventCode(std::abs(e));

@@ -14,6 +14,9 @@ std::string lunarEventText(double t);
 /// Its code without blanks: "TS", "PS", "FUL", "FPL", "PPL", or the empty text.
 std::string_view lunarEventCode(double t);
 
+/// What such a code means: "total eclipse of the sun". Any other text is a broken invariant.
+std::string_view lunarEventMeaning(std::string_view code);
+
 /// The moment in [start, start + step] (days) at which the moon crosses the ecliptic; nothing where
 /// it does not, or where sun and moon are not aligned then. A moon that is on the ecliptic at the
 /// start counts as crossing it there. A step that is not finite is a broken invariant too.

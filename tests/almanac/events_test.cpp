@@ -140,6 +140,18 @@ TEST(Events, StationsTurnOneWayAndTheOther) {
   }
 }
 
+TEST(Events, AStationIsToldOnce) {
+  const std::vector<Event> stations =
+      ofKind(EventKind::station, {.from = 0.0, .to = 1000.0 * 360.0});
+  for (const Body body : almanac::allBodies) {
+    const std::vector<Event> turns = of(stations, body);
+    for (std::size_t i = 1; i < turns.size(); ++i) {
+      EXPECT_GT(turns[i].baseTime, turns[i - 1].baseTime + 1.0) << wordOf(body);
+      EXPECT_NE(turns[i].isForward, turns[i - 1].isForward) << wordOf(body);
+    }
+  }
+}
+
 TEST(Events, PairsAreThoseOfThePlainScan) {
   for (const double from : {0.0, 258'840.0, 719'640.125}) {
     const Range range{.from = from, .to = from + 100.0};

@@ -1,4 +1,4 @@
-#include "cli/arguments.h"
+#include "cli/typed/arguments.h"
 
 #include <functional>
 #include <gtest/gtest.h>
@@ -7,8 +7,8 @@
 #include "astro/angle.h"
 #include "astro/calendar.h"
 #include "astro/number_text.h"
-#include "cli/errors.h"
-#include "cli/quoting.h"
+#include "cli/typed/errors.h"
+#include "cli/typed/quoting.h"
 #include "tests/support/random_sky.h"
 
 namespace veyruna {

@@ -7,7 +7,7 @@
 #include <random>
 #include <thread>
 
-#include "cli/command_line.h"
+#include "cli/program/command_line.h"
 #include "documents/forms.h"
 #include "tests/cli/process.h"
 #include "tests/cli/scratch_folder.h"

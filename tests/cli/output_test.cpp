@@ -10,7 +10,7 @@
 #include <thread>
 #include <unistd.h>
 
-#include "cli/command_line.h"
+#include "cli/program/command_line.h"
 #include "tests/cli/process.h"
 #include "tests/cli/scratch_folder.h"
 #include "tests/support/reference_case.h"

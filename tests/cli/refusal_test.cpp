@@ -2,7 +2,7 @@
 #include <algorithm>
 #include <gtest/gtest.h>
 
-#include "cli/command_line.h"
+#include "cli/program/command_line.h"
 #include "tests/cli/process.h"
 
 namespace veyruna {

@@ -11,7 +11,7 @@
 #include <thread>
 #include <unistd.h>
 
-#include "cli/progress.h"
+#include "cli/written/progress.h"
 #include "reports/conjunctions.h"
 #include "tests/cli/process.h"
 #include "tests/cli/scratch_folder.h"
@@ -91,7 +91,7 @@ std::string progressShown(bool isOutOnTerminal, bool showsDocument) {
       _exit(1);
     }
     {
-      cli::Progress progress(1000, showsDocument);
+      cli::Progress progress(1000, "rows", showsDocument);
       std::this_thread::sleep_for(std::chrono::milliseconds(1100));
       for (int row = 0; row < 256; ++row) {
         progress.advance();

@@ -2,7 +2,7 @@
 // neither.
 #include <gtest/gtest.h>
 
-#include "cli/command_line.h"
+#include "cli/program/command_line.h"
 #include "model/locations_text.h"
 #include "tests/cli/process.h"
 #include "tests/model/disk.h"

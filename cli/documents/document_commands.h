@@ -3,10 +3,10 @@
 #include <string>
 #include <vector>
 
-#include "cli/document_writer.h"
-#include "cli/grammar.h"
-#include "cli/rendering.h"
-#include "cli/sky.h"
+#include "cli/documents/rendering.h"
+#include "cli/typed/grammar.h"
+#include "cli/typed/sky.h"
+#include "cli/written/document_writer.h"
 #include "reports/table_size.h"
 #include "reports/text_sink.h"
 

@@ -1,4 +1,4 @@
-#include "cli/places.h"
+#include "cli/typed/places.h"
 
 #include <QList>
 #include <QString>
@@ -8,8 +8,8 @@
 
 #include "astro/angle.h"
 #include "astro/number_text.h"
-#include "cli/errors.h"
-#include "cli/quoting.h"
+#include "cli/typed/errors.h"
+#include "cli/typed/quoting.h"
 #include "model/calculation.h"
 #include "model/city_preset.h"
 #include "model/first_places.h"
@@ -108,6 +108,17 @@ Place savedPlace(const std::string& name) {
   return place.id == model::manualCityID()
              ? placeAt(place.latitude, place.longitude)
              : Place{place.latitude, place.longitude, place.name.toStdString()};
+}
+
+std::vector<Place> savedPlaces() {
+  std::vector<Place> places;
+  for (const CityPreset& place : model::withManualFirst(savedOrFirstPlaces())) {
+    if (place.id != model::manualCityID() &&
+        model::isPlaceWithinReach(place.latitude, place.longitude)) {
+      places.push_back({place.latitude, place.longitude, place.name.toStdString()});
+    }
+  }
+  return places;
 }
 
 std::string savedPlacesText() {

@@ -1,4 +1,4 @@
-#include "cli/streams.h"
+#include "cli/written/streams.h"
 
 #include <csignal>
 #include <fcntl.h>

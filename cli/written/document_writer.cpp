@@ -1,11 +1,11 @@
-#include "cli/document_writer.h"
+#include "cli/written/document_writer.h"
 
 #include <system_error>
 #include <unistd.h>
 #include <utility>
 
-#include "cli/errors.h"
-#include "cli/quoting.h"
+#include "cli/typed/errors.h"
+#include "cli/typed/quoting.h"
 
 namespace veyruna::cli {
 

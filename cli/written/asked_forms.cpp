@@ -1,14 +1,14 @@
-#include "cli/asked_forms.h"
+#include "cli/written/asked_forms.h"
 
 #include <algorithm>
 #include <filesystem>
 #include <optional>
 #include <unistd.h>
 
-#include "cli/arguments.h"
-#include "cli/document_writer.h"
-#include "cli/errors.h"
-#include "cli/quoting.h"
+#include "cli/typed/arguments.h"
+#include "cli/typed/errors.h"
+#include "cli/typed/quoting.h"
+#include "cli/written/document_writer.h"
 
 namespace veyruna::cli {
 

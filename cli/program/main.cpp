@@ -2,8 +2,8 @@
 #include <string>
 #include <vector>
 
-#include "cli/command_line.h"
-#include "cli/streams.h"
+#include "cli/program/command_line.h"
+#include "cli/written/streams.h"
 
 int main(int argc, char** argv) {
   veyruna::cli::prepareStreams();

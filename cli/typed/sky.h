@@ -3,7 +3,8 @@
 #include <string>
 
 #include "astro/observer.h"
-#include "cli/grammar.h"
+#include "cli/typed/grammar.h"
+#include "cli/typed/places.h"
 
 namespace veyruna::cli {
 
@@ -13,11 +14,10 @@ struct Sky {
   std::string place;  ///< in words
 };
 
+/// The place that was typed, or that of a first start. Throws UsageError.
+Place placeOf(const Typed& typed);
+
 /// Throws UsageError where a part of it is not accepted or lies too far away.
 Sky skyOf(const Typed& typed);
-
-/// The base time itself, where it is within the engine's range. Throws UsageError, in which `what`
-/// names the moment.
-double checkedBaseTime(double baseTime, const std::string& what);
 
 }  // namespace veyruna::cli

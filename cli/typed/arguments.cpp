@@ -1,4 +1,4 @@
-#include "cli/arguments.h"
+#include "cli/typed/arguments.h"
 
 #include <algorithm>
 #include <charconv>
@@ -9,8 +9,8 @@
 #include "astro/calendar.h"
 #include "astro/clock.h"
 #include "astro/number_text.h"
-#include "cli/errors.h"
-#include "cli/quoting.h"
+#include "cli/typed/errors.h"
+#include "cli/typed/quoting.h"
 
 namespace veyruna::cli {
 
@@ -19,7 +19,7 @@ namespace {
 /// All of `text` as a number, or nothing. A leading plus and a typographic minus are understood,
 /// other notations are not.
 template <class Number>
-std::optional<Number> numberOf(std::string_view text) {
+std::optional<Number> readingOf(std::string_view text) {
   constexpr std::string_view minusSign = "−";
   std::string plain(text);
   if (text.starts_with(minusSign)) {
@@ -34,11 +34,6 @@ std::optional<Number> numberOf(std::string_view text) {
     return std::nullopt;
   }
   return number;
-}
-
-std::optional<double> finiteNumberOf(std::string_view text) {
-  const std::optional<double> number = numberOf<double>(text);
-  return number && std::isfinite(*number) ? number : std::nullopt;
 }
 
 char lowered(char letter) {
@@ -72,7 +67,7 @@ double readAngle(std::string_view what, std::string_view text, double most, Hemi
   if (number.ends_with(degreeSign)) {
     number.remove_suffix(degreeSign.size());
   }
-  const std::optional<double> degrees = finiteNumberOf(number);
+  const std::optional<double> degrees = numberOf(number);
   if (!degrees || std::abs(*degrees) > most || (hasLetter && std::signbit(*degrees))) {
     refuse(what, text, accepted);
   }
@@ -87,9 +82,26 @@ void refuse(std::string_view what, std::string_view text, std::string_view accep
                    std::string(accepted));
 }
 
+std::optional<double> numberOf(std::string_view text) {
+  const std::optional<double> number = readingOf<double>(text);
+  return number && std::isfinite(*number) ? number : std::nullopt;
+}
+
+std::optional<std::int64_t> monthIndexOf(std::string_view text) {
+  const auto* const named =
+      std::find_if(astro::monthNames.begin(), astro::monthNames.end(),
+                   [text](std::string_view name) { return equalIgnoringCase(name, text); });
+  if (named != astro::monthNames.end()) {
+    return named - astro::monthNames.begin();
+  }
+  const std::optional<std::int64_t> number = readingOf<std::int64_t>(text);
+  return number && *number >= 1 && *number <= astro::monthsPerYear ? std::optional(*number - 1)
+                                                                   : std::nullopt;
+}
+
 std::int64_t readWholeNumber(std::string_view what, std::string_view text, std::int64_t least,
                              std::int64_t most) {
-  const std::optional<std::int64_t> number = numberOf<std::int64_t>(text);
+  const std::optional<std::int64_t> number = readingOf<std::int64_t>(text);
   if (!number || *number < least || *number > most) {
     refuse(what, text,
            "a whole number from " + std::to_string(least) + " to " + std::to_string(most));
@@ -98,7 +110,7 @@ std::int64_t readWholeNumber(std::string_view what, std::string_view text, std::
 }
 
 double readNumber(std::string_view what, std::string_view text, double least, double most) {
-  const std::optional<double> number = finiteNumberOf(text);
+  const std::optional<double> number = numberOf(text);
   if (!number || *number < least || *number > most) {
     std::string accepted = "a number from ";
     astro::appendFixed(accepted, least, 0);
@@ -110,21 +122,15 @@ double readNumber(std::string_view what, std::string_view text, double least, do
 }
 
 std::int64_t readMonthIndex(std::string_view text) {
-  const auto* const named =
-      std::find_if(astro::monthNames.begin(), astro::monthNames.end(),
-                   [text](std::string_view name) { return equalIgnoringCase(name, text); });
-  if (named != astro::monthNames.end()) {
-    return named - astro::monthNames.begin();
-  }
-  const std::optional<std::int64_t> number = numberOf<std::int64_t>(text);
-  if (!number || *number < 1 || *number > astro::monthsPerYear) {
+  const std::optional<std::int64_t> index = monthIndexOf(text);
+  if (!index) {
     std::string accepted = "1 to 12 or one of";
     for (const std::string_view name : astro::monthNames) {
       accepted.append(" ").append(name);
     }
     refuse("--month", text, accepted);
   }
-  return *number - 1;
+  return *index;
 }
 
 double readHour(std::string_view text) {
@@ -147,9 +153,9 @@ double readLongitude(std::string_view text) {
 
 double readStepDays(std::string_view text) {
   const std::size_t slash = text.find('/');
-  const std::optional<double> above = finiteNumberOf(text.substr(0, slash));
+  const std::optional<double> above = numberOf(text.substr(0, slash));
   const std::optional<double> below =
-      slash == std::string_view::npos ? 1.0 : finiteNumberOf(text.substr(slash + 1));
+      slash == std::string_view::npos ? 1.0 : numberOf(text.substr(slash + 1));
   if (above && below && *below != 0.0 && std::abs(*above / *below) <= astro::baseTimeLimitDays) {
     return *above / *below;
   }

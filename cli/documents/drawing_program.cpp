@@ -1,4 +1,4 @@
-#include "cli/drawing_program.h"
+#include "cli/documents/drawing_program.h"
 
 #include <cerrno>
 #include <filesystem>
@@ -6,7 +6,7 @@
 #include <system_error>
 #include <unistd.h>
 
-#include "cli/quoting.h"
+#include "cli/typed/quoting.h"
 
 namespace veyruna::cli {
 

@@ -6,8 +6,8 @@
 #include <unistd.h>
 #include <vector>
 
-#include "cli/command_line.h"
-#include "cli/streams.h"
+#include "cli/program/command_line.h"
+#include "cli/written/streams.h"
 #include "export/sheet.h"
 
 namespace {

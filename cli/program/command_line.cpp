@@ -1,18 +1,20 @@
-#include "cli/command_line.h"
+#include "cli/program/command_line.h"
 
 #include <algorithm>
+#include <array>
 #include <cstdio>
 #include <exception>
 
 #include "astro/number_text.h"
-#include "cli/asked_forms.h"
-#include "cli/document_commands.h"
-#include "cli/document_writer.h"
-#include "cli/drawing_program.h"
-#include "cli/errors.h"
-#include "cli/grammar.h"
-#include "cli/places.h"
-#include "cli/sky.h"
+#include "cli/almanac/event_command.h"
+#include "cli/documents/document_commands.h"
+#include "cli/documents/drawing_program.h"
+#include "cli/typed/errors.h"
+#include "cli/typed/grammar.h"
+#include "cli/typed/places.h"
+#include "cli/typed/sky.h"
+#include "cli/written/asked_forms.h"
+#include "cli/written/document_writer.h"
 
 namespace veyruna::cli {
 
@@ -54,8 +56,20 @@ std::string plainText(const Grammar& grammar, const Typed& typed) {
   return astro::shortestText(skyOf(typed).observer.baseTime) + "\n";
 }
 
+/// The commands that write something other than documents of one moment and place.
+struct OwnCommand {
+  std::string_view word;
+  void (*run)(const Typed& typed);
+};
+constexpr std::array ownCommands = {OwnCommand{"events", writeEvents}};
+
 void run(const Grammar& grammar, const Typed& typed, const std::vector<std::string>& arguments,
          const Renderer& renderer) {
+  const auto* const own = std::ranges::find(ownCommands, typed.command, &OwnCommand::word);
+  if (own != ownCommands.end()) {
+    own->run(typed);
+    return;
+  }
   const Entry* const document = documentOf(typed);
   const std::vector<Form> forms =
       askedForms(typed, document == nullptr ? documents::Kind::label : document->kind);

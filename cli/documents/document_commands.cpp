@@ -1,15 +1,16 @@
-#include "cli/document_commands.h"
+#include "cli/documents/document_commands.h"
 
 #include <algorithm>
 #include <filesystem>
 #include <optional>
 
 #include "astro/invariant.h"
-#include "cli/arguments.h"
-#include "cli/asked_forms.h"
-#include "cli/errors.h"
-#include "cli/progress.h"
-#include "cli/quoting.h"
+#include "cli/typed/arguments.h"
+#include "cli/typed/dates.h"
+#include "cli/typed/errors.h"
+#include "cli/typed/quoting.h"
+#include "cli/written/asked_forms.h"
+#include "cli/written/progress.h"
 #include "reports/conjunctions.h"
 #include "reports/ephemeris.h"
 
@@ -120,7 +121,7 @@ reports::TableSize DocumentCommands::typedSize() const {
 
 void DocumentCommands::writeRows(const Entry& likeIt, const reports::TableSize& size,
                                  const reports::TextSink& sink) const {
-  Progress progress(size.rows + 1, isStandardOutput(typed_.file));
+  Progress progress(size.rows + 1, "rows", isStandardOutput(typed_.file));
   const reports::TextSink counted = [&](std::string_view piece) {
     sink(piece);
     progress.advance();

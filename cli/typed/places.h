@@ -1,6 +1,8 @@
 #pragma once
 
 #include <string>
+#include <string_view>
+#include <vector>
 
 namespace veyruna::cli {
 
@@ -19,6 +21,13 @@ Place placeAt(double latitude, double longitude);
 /// first start.
 /// Throws UsageError that lists the known names, or std::runtime_error where the file is no list.
 Place savedPlace(const std::string& name);
+
+/// What stands for every saved place where several may be named.
+inline constexpr std::string_view everyPlace = "all";
+
+/// Every saved place that is on the globe, in their order. Throws std::runtime_error where the file
+/// is no list.
+std::vector<Place> savedPlaces();
 
 /// Every saved place with its coordinates, "Manual" first, a line each.
 std::string savedPlacesText();

@@ -1,11 +1,13 @@
-#include "cli/grammar.h"
+#include "cli/typed/grammar.h"
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
 
-#include "cli/errors.h"
-#include "cli/option_values.h"
-#include "cli/quoting.h"
+#include "almanac/event.h"
+#include "cli/typed/dates.h"
+#include "cli/typed/errors.h"
+#include "cli/typed/option_values.h"
+#include "cli/typed/quoting.h"
 #include "documents/documents.h"
 
 namespace veyruna::cli {
@@ -16,6 +18,20 @@ namespace {
 CLI::Option* addValue(CLI::App& command, const std::string& name, const std::string& type,
                       std::string& typed, const std::string& description) {
   return command.add_option(name, typed, description)->type_name(type);
+}
+
+/// "--for", "3", "years" with the number and its unit in one word.
+std::vector<std::string> withUnitsJoined(std::vector<std::string> arguments) {
+  for (std::size_t i = 0; i + 1 < arguments.size(); ++i) {
+    const bool isAttached = arguments[i].starts_with("--for=");
+    const std::size_t number = isAttached ? i : i + 1;
+    const bool isLength = isAttached || arguments[i] == "--for";
+    if (isLength && number + 1 < arguments.size() && isUnitOfTime(arguments[number + 1])) {
+      arguments[number] += " " + arguments[number + 1];
+      arguments.erase(arguments.begin() + static_cast<std::ptrdiff_t>(number) + 1);
+    }
+  }
+  return arguments;
 }
 
 }  // namespace
@@ -41,6 +57,7 @@ Grammar::Grammar()
   app_->get_subcommand("horoscope")->add_flag("--bw", typed_.blackAndWhite, "Black on white");
   addTable("ephemeris", "Moon and sun at moments of your own", "--rows 24 --step 1/24");
   addTable("conjunctions", "All bodies at moments of your own", "--rows 720 --step 10");
+  addEvents();
   addCommand("base-time", "The moment as days since noon of the first day");
   CLI::App* const all = addCommand("all", "Every document, into one folder", " --out campaign");
   addValue(*all, "--out", "DIR", typed_.folder, "The folder; made where it is missing");
@@ -53,7 +70,7 @@ Grammar::Grammar()
 Grammar::~Grammar() = default;
 
 const Typed& Grammar::parse(const std::vector<std::string>& arguments) {
-  std::vector<std::string> fromTheBack = withValuesAttached(*app_, arguments);
+  std::vector<std::string> fromTheBack = withValuesAttached(*app_, withUnitsJoined(arguments));
   std::reverse(fromTheBack.begin(), fromTheBack.end());
   try {
     app_->parse(fromTheBack);
@@ -71,6 +88,8 @@ const Typed& Grammar::parse(const std::vector<std::string>& arguments) {
   refuseTwoOf("--base-time", typed_.baseTime, {"--year", "--month", "--day", "--hour", "--local"},
               "moments");
   refuseTwoOf("--location", typed_.location, {"--lat", "--long"}, "places");
+  typed_.hasPlace = isGiven("--lat") || isGiven("--long") || !typed_.location.empty();
+  refuseMomentBesideStretch();
   const std::vector<std::string> extras = app_->remaining(true);
   if (!extras.empty()) {
     refuseExtra(extras.front());
@@ -132,10 +151,27 @@ void Grammar::addOutput() {
   add("--size", "PIXELS", typed_.size, "How wide a PNG is, 16 to 10000 (720, a horoscope 1440)");
 }
 
+bool Grammar::isGiven(const char* option) const {
+  return app_->get_option(option)->count() > 0;
+}
+
+void Grammar::refuseMomentBesideStretch() const {
+  if (typed_.command.empty() ||
+      app_->get_subcommand(typed_.command)->get_option_no_throw("--from") == nullptr) {
+    return;
+  }
+  for (const char* const option : {"--base-time", "--year", "--month", "--day", "--hour"}) {
+    if (isGiven(option)) {
+      throw UsageError(std::string(option) + " is of one moment; " + typed_.command +
+                       " takes --from DATE and --to DATE, or --for N UNIT");
+    }
+  }
+}
+
 void Grammar::refuseTwoOf(const char* whole, const std::string& typed,
                           std::initializer_list<const char*> parts, const char* what) const {
   for (const char* const part : parts) {
-    if (!typed.empty() && app_->get_option(part)->count() > 0) {
+    if (!typed.empty() && isGiven(part)) {
       throw UsageError(std::string(whole) + " " + inQuotes(typed) + " and " + part + " name two " +
                        what + "; give one");
     }
@@ -151,6 +187,35 @@ CLI::App* Grammar::addCommand(std::string_view name, std::string_view summary,
       "  veyruna --year 720 --month Dovri --day 10 --hour 18:15 --lat 40.5N --long 20.9W " +
       word + exampleEnd);
   return command;
+}
+
+CLI::App* Grammar::addStretchCommand(std::string_view name, std::string_view summary,
+                                     const std::string& exampleEnd) {
+  const std::string word(name);
+  CLI::App* const command = app_->add_subcommand(word, std::string(summary))->group("Commands");
+  addValue(*command, "--from", "DATE", typed_.from, "The beginning, 720-06-12 or 720-06-12T22:30");
+  addValue(*command, "--to", "DATE", typed_.to, "The end, which is no part of it");
+  addValue(*command, "--for", "N UNIT", typed_.length,
+           "Instead of the end: 10 days, months, years");
+  command->footer(
+      "`veyruna --help` says how a place and a file (-o) are given.\n\nExample:\n"
+      "  veyruna " +
+      word + exampleEnd);
+  return command;
+}
+
+void Grammar::addEvents() {
+  CLI::App* const events =
+      addStretchCommand("events", "What happens in the sky, in the order of time",
+                        " --from 720-01-01 --for 1 year --kind eclipse,season --location Wendmark");
+  std::string kinds;
+  for (const almanac::EventKindEntry& kind : almanac::allEventKinds) {
+    kinds += (kinds.empty() ? "" : ", ") + std::string(kind.word);
+  }
+  addValue(*events, "--kind", "KIND[,KIND...]", typed_.kinds,
+           "Instead of all: of " + kinds +
+               "; conjunction:all and opposition:all pair the sun and "
+               "the moon, too");
 }
 
 void Grammar::addTable(const std::string& name, const std::string& summary,

@@ -1,9 +1,9 @@
-#include "cli/option_values.h"
+#include "cli/typed/option_values.h"
 
 #include <CLI/CLI.hpp>
 
-#include "cli/errors.h"
-#include "cli/quoting.h"
+#include "cli/typed/errors.h"
+#include "cli/typed/quoting.h"
 
 namespace veyruna::cli {
 

@@ -1,4 +1,4 @@
-#include "cli/quoting.h"
+#include "cli/typed/quoting.h"
 
 #include <algorithm>
 

@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "cli/rendering.h"
+#include "cli/documents/rendering.h"
 
 namespace veyruna::cli {
 

@@ -23,6 +23,11 @@ struct Typed {
   std::string latitude = "40.5";
   std::string longitude = "-20.9";
   std::string location;    ///< empty where the place is given as coordinates
+  bool hasPlace = false;   ///< whether a place was typed in any form
+  std::string from;        ///< of a stretch of time, as the next two
+  std::string to;          ///< empty where its length is given
+  std::string length;      ///< "3 months"; empty where its end is given
+  std::string kinds;       ///< of events; empty for all
   std::string file = "-";  ///< "-" for standard output
   std::string formats;     ///< empty where the file's ending, or nothing, says the form
   std::string size;        ///< empty for a picture as wide as the page
@@ -54,9 +59,15 @@ class Grammar {
   void addOutput();
   CLI::App* addCommand(std::string_view name, std::string_view summary,
                        const std::string& exampleEnd = "");
+  /// A command over a stretch of time.
+  CLI::App* addStretchCommand(std::string_view name, std::string_view summary,
+                              const std::string& exampleEnd);
+  void addEvents();
   void addTable(const std::string& name, const std::string& summary, const std::string& example);
   [[nodiscard]] std::string commandNames() const;
   [[nodiscard]] std::string chosenCommand() const;
+  [[nodiscard]] bool isGiven(const char* option) const;
+  void refuseMomentBesideStretch() const;
   void refuseTwoOf(const char* whole, const std::string& typed,
                    std::initializer_list<const char*> parts, const char* what) const;
   /// The commands that have an option, joined by "or".

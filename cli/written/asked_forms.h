@@ -3,7 +3,7 @@
 #include <string_view>
 #include <vector>
 
-#include "cli/grammar.h"
+#include "cli/typed/grammar.h"
 #include "documents/forms.h"
 
 namespace veyruna::cli {

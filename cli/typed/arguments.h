@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -11,14 +12,20 @@ namespace veyruna::cli {
 /// Throws the error that quotes what was typed for `what` and says what is accepted.
 [[noreturn]] void refuse(std::string_view what, std::string_view text, std::string_view accepted);
 
+/// 1 to 12 or a month's name in any letter case, as 0 to 11; nothing for anything else.
+std::optional<std::int64_t> monthIndexOf(std::string_view text);
+
 /// A whole number within [least, most]; `what` names it in the message, such as "--year".
 std::int64_t readWholeNumber(std::string_view what, std::string_view text, std::int64_t least,
                              std::int64_t most);
 
+/// A finite number, or nothing.
+std::optional<double> numberOf(std::string_view text);
+
 /// A finite number within [least, most].
 double readNumber(std::string_view what, std::string_view text, double least, double most);
 
-/// 1 to 12 or a month's name in any letter case; returns 0 to 11.
+/// As monthIndexOf, for --month.
 std::int64_t readMonthIndex(std::string_view text);
 
 /// Hours 0 to 24: "18.25", or "18:15" as astro::hourOfClock.
