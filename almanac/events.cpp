@@ -7,6 +7,7 @@
 #include "almanac/motion.h"
 #include "astro/horizon.h"
 #include "astro/vec3d.h"
+#include "astro/vector_registers.h"
 
 namespace veyruna::almanac {
 
@@ -76,6 +77,7 @@ void addSources(EventKind kind, const EventQuery& query, std::vector<OwnedSource
 }  // namespace
 
 void forEachEvent(const EventQuery& query, const std::function<void(const Event&)>& take) {
+  astro::releaseUpperRegisters();
   std::vector<OwnedSource> sources;
   for (const EventKind kind : query.kinds) {
     addSources(kind, query, sources);

@@ -6,6 +6,7 @@
 #include "astro/invariant.h"
 #include "astro/local_time.h"
 #include "astro/lunar_phases.h"
+#include "astro/vector_registers.h"
 #include "charts/horoscope.h"
 #include "charts/star_map.h"
 #include "reports/conjunctions.h"
@@ -158,11 +159,13 @@ const Entry& entryOf(Document document) {
 }
 
 std::string textOf(Document document, const Observer& observer) {
+  astro::releaseUpperRegisters();
   const Entry& entry = entryOf(document);
   return entry.write(observer, entry.size);
 }
 
 charts::ChartMarks marksOf(Document document, const Observer& observer) {
+  astro::releaseUpperRegisters();
   const Entry& entry = entryOf(document);
   return entry.marks == nullptr ? charts::ChartMarks() : entry.marks(observer);
 }

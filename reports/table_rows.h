@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "astro/invariant.h"
+#include "astro/vector_registers.h"
 #include "reports/table_size.h"
 #include "reports/text_sink.h"
 
@@ -16,6 +17,7 @@ void forEachMoment(double start, const TableSize& size, Take take) {
   astro::requireInvariant(size.rows >= 0, "a table has no negative number of rows", size.rows);
   double t = start;
   for (std::int64_t i = 0; i < size.rows; ++i) {
+    astro::releaseUpperRegisters();
     take(t);
     t += size.stepDays;
   }
