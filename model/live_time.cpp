@@ -6,6 +6,7 @@
 
 #include "astro/calendar.h"
 #include "astro/invariant.h"
+#include "model/input_signals.h"
 
 namespace veyruna::model {
 
@@ -27,15 +28,10 @@ LiveTime::LiveTime(AstronomyModel& model, std::shared_ptr<UnhurriedStore> store,
   connect(&frames_, &QTimer::timeout, this, &LiveTime::advance);
   connect(&soon_, &QTimer::timeout, this, &LiveTime::show);
   connect(&resting_, &QTimer::timeout, this, &LiveTime::rest);
-  for (const auto changed : {&AstronomyModel::monthIndexChanged, &AstronomyModel::dayIndexChanged,
-                             &AstronomyModel::yearChanged, &AstronomyModel::hourChanged,
-                             &AstronomyModel::useLocalTimeChanged}) {
+  for (const auto changed : momentSignals) {
     connect(&model_, changed, this, &LiveTime::onMomentChanged);
   }
-  for (const auto changed :
-       {&AstronomyModel::citiesChanged, &AstronomyModel::selectedCityIDChanged,
-        &AstronomyModel::manualLatDegChanged, &AstronomyModel::manualLongDegChanged,
-        &AstronomyModel::latNorthChanged, &AstronomyModel::longWestChanged}) {
+  for (const auto changed : placeSignals) {
     connect(&model_, changed, this, &LiveTime::onPlaceChanged);
   }
   connect(&model_, &AstronomyModel::isCalculatingChanged, this, [this] {

@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "model/input_signals.h"
 #include "ui/controls/coordinates_text.h"
 #include "ui/controls/icons.h"
 #include "ui/controls/named.h"
@@ -148,10 +149,7 @@ void MapLocationPickerView::followArea() {
 }
 
 void MapLocationPickerView::followModel() {
-  for (const auto signal :
-       {&AstronomyModel::citiesChanged, &AstronomyModel::selectedCityIDChanged,
-        &AstronomyModel::manualLatDegChanged, &AstronomyModel::manualLongDegChanged,
-        &AstronomyModel::latNorthChanged, &AstronomyModel::longWestChanged}) {
+  for (const auto signal : model::placeSignals) {
     connect(model_, signal, this, &MapLocationPickerView::showMarks);
   }
   connect(model_, &QObject::destroyed, this, &MapLocationPickerView::showMarks);

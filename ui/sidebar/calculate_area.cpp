@@ -5,6 +5,7 @@
 #include <QShortcut>
 #include <QVBoxLayout>
 
+#include "model/input_signals.h"
 #include "ui/controls/alert.h"
 #include "ui/controls/named.h"
 #include "ui/controls/small_type.h"
@@ -40,15 +41,13 @@ CalculateArea::CalculateArea(AstronomyModel& model, QWidget* parent)
   connect(button_, &QPushButton::clicked, this, &CalculateArea::calculateRequested);
   connect(&model_, &AstronomyModel::isCalculatingChanged, this, &CalculateArea::showProgress);
   connect(&model_, &AstronomyModel::errorMessageChanged, this, &CalculateArea::showError);
-  for (const auto signal :
-       {&AstronomyModel::citiesChanged, &AstronomyModel::selectedCityIDChanged,
-        &AstronomyModel::manualLatDegChanged, &AstronomyModel::manualLongDegChanged,
-        &AstronomyModel::latNorthChanged, &AstronomyModel::longWestChanged,
-        &AstronomyModel::monthIndexChanged, &AstronomyModel::dayIndexChanged,
-        &AstronomyModel::yearChanged, &AstronomyModel::hourChanged,
-        &AstronomyModel::useLocalTimeChanged, &AstronomyModel::published}) {
+  for (const auto signal : model::placeSignals) {
     connect(&model_, signal, this, &CalculateArea::showDifference);
   }
+  for (const auto signal : model::momentSignals) {
+    connect(&model_, signal, this, &CalculateArea::showDifference);
+  }
+  connect(&model_, &AstronomyModel::published, this, &CalculateArea::showDifference);
   showProgress();
   showError();
   showDifference();
