@@ -61,7 +61,7 @@ class TurningWheel final : public QProgressBar {
 
  private:
   static constexpr int spokes = 8;
-  QTimer turning_;
+  QTimer turning_{this};
   int spoke_ = 0;
 };
 
