@@ -29,6 +29,11 @@ bool isValueOf(const Field& field, const Value& value) {
       const double* const number = std::get_if<double>(&value);
       return number != nullptr && std::isfinite(*number);
     }
+    case ValueType::numbers: {
+      const auto* const numbers = std::get_if<std::vector<double>>(&value);
+      return numbers != nullptr &&
+             std::ranges::all_of(*numbers, [](double number) { return std::isfinite(number); });
+    }
     case ValueType::text:
     case ValueType::date: {
       const auto* const text = std::get_if<std::string>(&value);

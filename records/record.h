@@ -14,14 +14,15 @@ enum class ValueType {
   boolean,
   integer,
   number,  ///< written so that it reads back as the same double
-  text,    ///< UTF-8; bytes that are none are replaced
-  texts,   ///< several, in an order that matters
-  date     ///< "720-06-12T22:30"; see dateOf
+  numbers,
+  text,   ///< UTF-8; bytes that are none are replaced
+  texts,  ///< several, in an order that matters
+  date    ///< "720-06-12T22:30"; see dateOf
 };
 
 /// A value, or nothing where a field has none in this row.
-using Value =
-    std::variant<std::monostate, bool, std::int64_t, double, std::string, std::vector<std::string>>;
+using Value = std::variant<std::monostate, bool, std::int64_t, double, std::vector<double>,
+                           std::string, std::vector<std::string>>;
 
 struct Field {
   std::string name;  ///< in snake case, with the unit where there is one: "altitude_degrees"

@@ -37,11 +37,21 @@ struct CsvAppender {
   void operator()(bool holds) const { out += holds ? "true" : "false"; }
   void operator()(std::int64_t number) const { astro::appendInteger(out, number); }
   void operator()(double number) const { out += astro::shortestText(number); }
+  void operator()(const std::vector<double>& numbers) const {
+    std::string_view gap;
+    for (const double number : numbers) {
+      out += gap;
+      out += astro::shortestText(number);
+      gap = " ";
+    }
+  }
   void operator()(const std::string& text) const { appendCsvText(out, text); }
   void operator()(const std::vector<std::string>& texts) const {
     std::string joined;
+    std::string_view gap;
     for (const std::string& text : texts) {
-      joined += (joined.empty() ? "" : " ") + text;
+      joined.append(gap).append(text);
+      gap = " ";
     }
     appendCsvText(out, joined);
   }

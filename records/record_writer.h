@@ -15,8 +15,8 @@ enum class Notation {
 };
 
 /// Writes rows to a sink, one at a time: memory does not grow with their number. Always UTF-8. In
-/// JSON a value that is absent has no member, in CSV it is empty; several texts in one field of CSV
-/// are joined by blanks.
+/// JSON a value that is absent has no member, in CSV it is empty; several texts or numbers in one
+/// field of CSV are joined by blanks.
 class RecordWriter {
  public:
   /// Writes what comes before the rows. Keeps a reference to the type; `about` are the values of

@@ -25,6 +25,8 @@ Json valueSchema(const Field& field) {
       return {{"type", "integer"}};
     case ValueType::number:
       return {{"type", "number"}};
+    case ValueType::numbers:
+      return {{"type", "array"}, {"items", {{"type", "number"}}}};
     case ValueType::text:
       return textSchema(field.words);
     case ValueType::texts:

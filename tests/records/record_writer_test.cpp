@@ -25,6 +25,7 @@ using records::Row;
 using records::Value;
 using tests::csvLines;
 using tests::weatherType;
+using Numbers = std::vector<double>;
 using Texts = std::vector<std::string>;
 
 std::string written(Notation notation, const RecordType& type, const std::vector<Row>& rows,
@@ -39,8 +40,8 @@ std::string written(Notation notation, const RecordType& type, const std::vector
 }
 
 const std::vector<Row> twoDays = {{true, std::int64_t{12}, 0.1, "so \"wet\", so\nwet", "sea",
-                                   Texts{"low", "grey"}, "720-06-12T22:30"},
-                                  {{}, {}, -3.0, {}, {}, {}, {}}};
+                                   Texts{"low", "grey"}, Numbers{0.1, -2.0}, "720-06-12T22:30"},
+                                  {{}, {}, -3.0, {}, {}, {}, {}, {}}};
 const Row inEbb = {"Ebb", 7.25};
 
 TEST(RecordWriter, WritesOneDocumentOfJson) {
@@ -52,7 +53,7 @@ TEST(RecordWriter, WritesOneDocumentOfJson) {
             "\n"
             R"({"is_wet":true,"sheep_blown_away":12,"wind_knots":0.1,)"
             R"("remark":"so \"wet\", so\nwet","from":"sea","clouds":["low","grey"],)"
-            R"("date":"720-06-12T22:30"},)"
+            R"("gusts_knots":[0.1,-2.0],"date":"720-06-12T22:30"},)"
             "\n"
             R"({"wind_knots":-3.0})"
             "\n]\n}\n");
@@ -62,7 +63,7 @@ TEST(RecordWriter, WritesADocumentALine) {
   EXPECT_EQ(written(Notation::jsonl, weatherType(), twoDays, {"Ebb", {}}),
             R"({"schema":{"name":"weather","version":3},"place":"Ebb","is_wet":true,)"
             R"("sheep_blown_away":12,"wind_knots":0.1,"remark":"so \"wet\", so\nwet","from":"sea",)"
-            R"("clouds":["low","grey"],"date":"720-06-12T22:30"})"
+            R"("clouds":["low","grey"],"gusts_knots":[0.1,-2.0],"date":"720-06-12T22:30"})"
             "\n"
             R"({"schema":{"name":"weather","version":3},"place":"Ebb","wind_knots":-3.0})"
             "\n");
@@ -70,9 +71,10 @@ TEST(RecordWriter, WritesADocumentALine) {
 
 TEST(RecordWriter, WritesCommaSeparatedValues) {
   EXPECT_EQ(written(Notation::csv, weatherType(), twoDays, {"Ebb", {}}),
-            "place,height_metres,is_wet,sheep_blown_away,wind_knots,remark,from,clouds,date\n"
-            "Ebb,,true,12,0.1,\"so \"\"wet\"\", so\nwet\",sea,low grey,720-06-12T22:30\n"
-            "Ebb,,,,-3,,,,\n");
+            "place,height_metres,is_wet,sheep_blown_away,wind_knots,remark,from,clouds,"
+            "gusts_knots,date\n"
+            "Ebb,,true,12,0.1,\"so \"\"wet\"\", so\nwet\",sea,low grey,0.1 -2,720-06-12T22:30\n"
+            "Ebb,,,,-3,,,,,\n");
 }
 
 TEST(RecordWriter, WithoutRowsADocumentIsWholeAllTheSame) {
@@ -124,7 +126,7 @@ rc::Gen<std::string> anyText() {
 }
 
 Row dayWith(double wind, const Value& remark) {
-  return {{}, {}, wind, remark, {}, {}, {}};
+  return {{}, {}, wind, remark, {}, {}, {}, {}};
 }
 
 bool isSameDouble(double one, double other) {

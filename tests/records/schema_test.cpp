@@ -57,7 +57,7 @@ TEST(Schema, AsksForWhatIsNotOptional) {
 
 TEST(Schema, SaysOfEachFieldWhatItHoldsAndMeans) {
   const Json& day = document["properties"]["days"]["items"]["properties"];
-  EXPECT_EQ(day.size(), 7U);
+  EXPECT_EQ(day.size(), 8U);
   EXPECT_EQ(day["is_wet"], Json({{"type", "boolean"}, {"description", "Whether it rains"}}));
   EXPECT_EQ(day["sheep_blown_away"]["type"], "integer");
   EXPECT_EQ(day["wind_knots"]["type"], "number");
@@ -65,6 +65,7 @@ TEST(Schema, SaysOfEachFieldWhatItHoldsAndMeans) {
   EXPECT_EQ(day["from"]["enum"], Json({"sea", "land"}));
   EXPECT_EQ(day["clouds"]["type"], "array");
   EXPECT_EQ(day["clouds"]["items"], Json({{"type", "string"}}));
+  EXPECT_EQ(day["gusts_knots"]["items"], Json({{"type", "number"}}));
   EXPECT_TRUE(day["date"].contains("pattern"));
   for (const auto& [name, schema] : day.items()) {
     EXPECT_EQ(line["properties"][name], schema) << name;

@@ -20,6 +20,7 @@ inline const records::RecordType& weatherType() {
                  {"remark", ValueType::text, "What was said", true},
                  {"from", ValueType::text, "Where the wind comes from", true, {"sea", "land"}},
                  {"clouds", ValueType::texts, "Kinds of clouds", true},
+                 {"gusts_knots", ValueType::numbers, "Gusts", true},
                  {"date", ValueType::date, "The day", true}}};
   return type;
 }
