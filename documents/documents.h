@@ -36,7 +36,8 @@ enum class Kind {
   chart,  ///< SVG
   table,  ///< a line a moment, under a header
   list,   ///< lines of one moment
-  label   ///< one line without its line feed; no file of its own
+  label,  ///< one line without its line feed; no file of its own
+  log     ///< lines of many moments or places, which no document is: text, or for programs
 };
 
 /// What is said of a document.

@@ -28,6 +28,24 @@ constexpr std::array<FormEntry, formCount> allForms = {{
      .isText = true},
     {.form = Form::pdf, .extension = "pdf", .name = "PDF", .isOfCharts = true, .isOfTables = true},
     {.form = Form::png, .extension = "png", .name = "PNG", .isOfCharts = true},
+    {.form = Form::json,
+     .extension = "json",
+     .name = "JSON",
+     .isOfTables = true,
+     .isOfValues = true,
+     .isText = true},
+    {.form = Form::jsonl,
+     .extension = "jsonl",
+     .name = "JSON Lines",
+     .isOfTables = true,
+     .isOfValues = true,
+     .isText = true},
+    {.form = Form::csv,
+     .extension = "csv",
+     .name = "CSV",
+     .isOfTables = true,
+     .isOfValues = true,
+     .isText = true},
 }};
 
 namespace {
@@ -65,11 +83,25 @@ Form ownForm(Kind kind) {
   return kind == Kind::chart ? Form::svg : Form::text;
 }
 
+bool isDrawn(Form form) {
+  const FormEntry& entry = formEntry(form);
+  return !entry.isAsItIs && !entry.isOfValues;
+}
+
 bool canBe(Kind kind, Form form) {
   const FormEntry& entry = formEntry(form);
-  return kind == Kind::chart   ? entry.isOfCharts
-         : kind == Kind::label ? form == Form::text
-                               : entry.isOfTables;
+  switch (kind) {
+    case Kind::chart:
+      return entry.isOfCharts;
+    case Kind::table:
+    case Kind::list:
+      return entry.isOfTables;
+    case Kind::label:
+      return form == Form::text;
+    case Kind::log:
+      return entry.isOfTables && !isDrawn(form);
+  }
+  return false;
 }
 
 std::string acceptedExtensions(Kind kind, std::string_view prefix) {

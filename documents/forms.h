@@ -17,6 +17,9 @@ enum class Form {
   html,
   pdf,
   png,
+  json,
+  jsonl,
+  csv,
   count  ///< none: how many there are
 };
 
@@ -29,7 +32,8 @@ struct FormEntry {
   std::string_view name;       ///< what a person reads
   bool isOfCharts = false;
   bool isOfTables = false;  ///< and of lists
-  bool isAsItIs = false;    ///< the document's own text; any other form is made of that
+  bool isAsItIs = false;    ///< the document's own text
+  bool isOfValues = false;  ///< for programs to read: made of the sky's values; others of that text
   bool isText = false;      ///< may be read on a terminal
 };
 
@@ -44,6 +48,9 @@ std::optional<Form> formOf(std::string_view extension);
 
 /// The form of a document's own text.
 Form ownForm(Kind kind);
+
+/// Whether the form is drawn or set on pages, which takes fonts.
+bool isDrawn(Form form);
 
 /// Whether a document of that kind can be written in the form; a label is text alone.
 bool canBe(Kind kind, Form form);

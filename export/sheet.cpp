@@ -81,6 +81,9 @@ QByteArray bytesOf(const Sheet& sheet, Form form, int widthPixels) {
       [[fallthrough]];
     case Form::svg:
     case Form::text:
+    case Form::json:
+    case Form::jsonl:
+    case Form::csv:
     case Form::count:
       break;
   }

@@ -50,7 +50,7 @@ const RecordType& ephemerisType() {
       .version = 1,
       .description =
           "Moon and sun from the world's centre, and what happens in the 24 hours after each "
-          "moment; risings and settings are those on the meridian of longitude 0",
+          "moment",
       .rowsMember = "moments",
       .about = {placeFields().front()},
       .fields = joined(
@@ -63,10 +63,11 @@ const RecordType& ephemerisType() {
            {"thessil_declination_degrees", number, "Of the sun"},
            {"thessil_ecliptic_longitude_degrees", number, "Of the sun, from 0 to less than 360"},
            {"ivro_phase", number, "0 at new moon, 1 at full moon"},
-           {"ivro_rise_base_time_days", numbers, "When the moon rises"},
-           {"ivro_set_base_time_days", numbers, "When the moon sets"},
-           {"thessil_rise_base_time_days", numbers, "When the sun rises"},
-           {"thessil_set_base_time_days", numbers, "When the sun sets"},
+           {"ivro_rise_base_time_days", numbers,
+            "When the moon rises on the meridian of longitude 0"},
+           {"ivro_set_base_time_days", numbers, "When the moon sets there"},
+           {"thessil_rise_base_time_days", numbers, "When the sun rises there"},
+           {"thessil_set_base_time_days", numbers, "When the sun sets there"},
            {"eclipse_base_time_days", numbers,
             "Node crossings of the moon near a syzygy; one on a quarter of the 24 hours may stand "
             "twice and slightly aside"},

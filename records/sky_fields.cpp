@@ -15,6 +15,7 @@ double degreesInTurn(double radians) {
 const std::vector<std::string>& bodyWords() {
   static const std::vector<std::string> words = [] {
     std::vector<std::string> all;
+    all.reserve(almanac::allBodies.size());
     for (const almanac::Body body : almanac::allBodies) {
       all.emplace_back(almanac::wordOf(body));
     }
@@ -37,6 +38,7 @@ const std::vector<std::string>& planetPairWords() {
 const std::vector<std::string>& signWords() {
   static const std::vector<std::string> words = [] {
     std::vector<std::string> all;
+    all.reserve(reports::zodiacSigns.size());
     for (const reports::ZodiacSign& sign : reports::zodiacSigns) {
       all.push_back(wordOf(sign));
     }

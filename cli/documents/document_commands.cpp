@@ -10,7 +10,9 @@
 #include "cli/typed/errors.h"
 #include "cli/typed/quoting.h"
 #include "cli/written/asked_forms.h"
+#include "cli/written/notation.h"
 #include "cli/written/progress.h"
+#include "records/document_records.h"
 #include "reports/conjunctions.h"
 #include "reports/ephemeris.h"
 
@@ -54,17 +56,16 @@ DocumentCommands::DocumentCommands(const Typed& typed, const Sky& sky,
       widthPixels_(askedWidth(typed, forms)) {}
 
 void DocumentCommands::writeOne(const Entry& document) const {
-  const std::string text = documents::textOf(document.document, sky_.observer);
-  writeWhole(DocumentWriter::to(typed_.file),
-             rendered(document, headingOf(document), text, forms_.front()));
+  std::optional<std::string> text;
+  writeContent(document, forms_.front(), typed_.file, text);
 }
 
 void DocumentCommands::writeTable(const Entry& likeIt) const {
   const reports::TableSize size = typedSize();
   const Form form = forms_.front();
-  if (form == documents::ownForm(likeIt.kind)) {
+  if (!documents::isDrawn(form)) {
     DocumentWriter writer = DocumentWriter::to(typed_.file);
-    writeRows(likeIt, size, [&](std::string_view piece) { writer.write(piece); });
+    writeRows(likeIt, size, form, [&](std::string_view piece) { writer.write(piece); });
     writer.finish();
     return;
   }
@@ -74,7 +75,8 @@ void DocumentCommands::writeTable(const Entry& likeIt) const {
                      std::to_string(mostRowsOnPages) + ", or a name that ends in .txt");
   }
   std::string text;
-  writeRows(likeIt, size, [&](std::string_view piece) { text += piece; });
+  writeRows(likeIt, size, documents::ownForm(likeIt.kind),
+            [&](std::string_view piece) { text += piece; });
   const std::string heading = typed_.rows + " rows, a step of " + typed_.step + " days";
   writeWhole(DocumentWriter::to(typed_.file), rendered(likeIt, heading, text, form));
 }
@@ -95,12 +97,9 @@ void DocumentCommands::writeAll() const {
       if (document.fileName.empty() || !documents::canBe(document.kind, form)) {
         continue;
       }
-      if (!text) {
-        text = documents::textOf(document.document, sky_.observer);
-      }
       const std::string path =
           (std::filesystem::path(typed_.folder) / fileNameOf(document, form)).string();
-      writeWhole(DocumentWriter::to(path), rendered(document, headingOf(document), *text, form));
+      writeContent(document, form, path, text);
       list.write(path + "\n");
     }
   }
@@ -119,18 +118,35 @@ reports::TableSize DocumentCommands::typedSize() const {
   return size;
 }
 
-void DocumentCommands::writeRows(const Entry& likeIt, const reports::TableSize& size,
+void DocumentCommands::writeRows(const Entry& likeIt, const reports::TableSize& size, Form form,
                                  const reports::TextSink& sink) const {
   Progress progress(size.rows + 1, "rows", isStandardOutput(typed_.file));
   const reports::TextSink counted = [&](std::string_view piece) {
     sink(piece);
     progress.advance();
   };
-  if (likeIt.document == Document::hourly) {
+  if (documents::formEntry(form).isOfValues) {
+    records::writeRecords(likeIt.document, sky_.observer, size, notationOf(form), counted);
+  } else if (likeIt.document == Document::hourly) {
     reports::writeEphemerisTable(sky_.observer, size, counted);
   } else {
     reports::writeConjunctionTable(sky_.observer.baseTime, size, counted);
   }
+}
+
+void DocumentCommands::writeContent(const Entry& document, Form form, const std::string& file,
+                                    std::optional<std::string>& text) const {
+  DocumentWriter writer = DocumentWriter::to(file);
+  if (documents::formEntry(form).isOfValues) {
+    records::writeRecords(document.document, sky_.observer, document.size, notationOf(form),
+                          [&writer](std::string_view piece) { writer.write(piece); });
+  } else {
+    if (!text) {
+      text = documents::textOf(document.document, sky_.observer);
+    }
+    writer.write(rendered(document, headingOf(document), *text, form));
+  }
+  writer.finish();
 }
 
 std::string DocumentCommands::rendered(const Entry& document, const std::string& heading,

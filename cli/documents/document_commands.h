@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -15,7 +16,7 @@ namespace veyruna::cli {
 /// The commands that write documents of one moment and place, in the forms that were asked for.
 class DocumentCommands {
  public:
-  /// Keeps references. Forms other than the documents' own text need the renderer.
+  /// Keeps references. Forms that are drawn need the renderer.
   DocumentCommands(const Typed& typed, const Sky& sky, const std::vector<documents::Form>& forms,
                    const Renderer& renderer);
 
@@ -30,8 +31,11 @@ class DocumentCommands {
 
  private:
   [[nodiscard]] reports::TableSize typedSize() const;
+  /// `text` keeps the document's text from one form to the next.
+  void writeContent(const documents::Entry& document, documents::Form form, const std::string& file,
+                    std::optional<std::string>& text) const;
   void writeRows(const documents::Entry& likeIt, const reports::TableSize& size,
-                 const reports::TextSink& sink) const;
+                 documents::Form form, const reports::TextSink& sink) const;
   [[nodiscard]] std::string rendered(const documents::Entry& document, const std::string& heading,
                                      const std::string& text, documents::Form form) const;
 

@@ -9,9 +9,10 @@
 #include "cli/almanac/event_command.h"
 #include "cli/documents/document_commands.h"
 #include "cli/documents/drawing_program.h"
+#include "cli/documents/locations_command.h"
+#include "cli/documents/schema_command.h"
 #include "cli/typed/errors.h"
 #include "cli/typed/grammar.h"
-#include "cli/typed/places.h"
 #include "cli/typed/sky.h"
 #include "cli/written/asked_forms.h"
 #include "cli/written/document_writer.h"
@@ -50,9 +51,6 @@ std::string plainText(const Grammar& grammar, const Typed& typed) {
   if (typed.command == "version") {
     return "veyruna " VEYRUNA_VERSION " (build " VEYRUNA_BUILD_NUMBER ")\n";
   }
-  if (typed.command == "locations") {
-    return savedPlacesText();
-  }
   return astro::shortestText(skyOf(typed).observer.baseTime) + "\n";
 }
 
@@ -61,7 +59,9 @@ struct OwnCommand {
   std::string_view word;
   void (*run)(const Typed& typed);
 };
-constexpr std::array ownCommands = {OwnCommand{"events", writeEvents}};
+constexpr std::array ownCommands = {OwnCommand{"events", writeEvents},
+                                    OwnCommand{"locations", writeLocations},
+                                    OwnCommand{"schema", writeSchema}};
 
 void run(const Grammar& grammar, const Typed& typed, const std::vector<std::string>& arguments,
          const Renderer& renderer) {
@@ -82,9 +82,7 @@ void run(const Grammar& grammar, const Typed& typed, const std::vector<std::stri
   }
   const Sky sky = skyOf(typed);
   const DocumentCommands commands(typed, sky, forms, renderer);
-  const bool isMade =
-      std::ranges::any_of(forms, [](Form form) { return !documents::formEntry(form).isAsItIs; });
-  if (isMade && !renderer) {
+  if (std::ranges::any_of(forms, documents::isDrawn) && !renderer) {
     becomeDrawingProgram(arguments);
   }
   if (document == nullptr) {

@@ -62,6 +62,7 @@ Grammar::Grammar()
   CLI::App* const all = addCommand("all", "Every document, into one folder", " --out campaign");
   addValue(*all, "--out", "DIR", typed_.folder, "The folder; made where it is missing");
   addCommand("locations", "The saved places with their coordinates");
+  addSchema();
   app_->add_subcommand("help", "Show what a command does, with an example")
       ->group("Commands")
       ->add_option("COMMAND", typed_.helpTopic, "The command");
@@ -145,9 +146,10 @@ void Grammar::addOutput() {
     addValue(*app_, name, type, typed, description)->group("Output");
   };
   add("-o", "FILE", typed_.file,
-      "Write to FILE instead of standard output; .html, .pdf and .png are drawn");
+      "Write to FILE instead of standard output; .html, .pdf and .png are drawn, .json, .jsonl "
+      "and .csv are for programs");
   add("--format", "FORM", typed_.formats,
-      "The form, whatever the file is called; of all, several such as svg,pdf,txt");
+      "The form, whatever the file is called; of all, several such as svg,pdf,csv");
   add("--size", "PIXELS", typed_.size, "How wide a PNG is, 16 to 10000 (720, a horoscope 1440)");
 }
 
@@ -216,6 +218,16 @@ void Grammar::addEvents() {
            "Instead of all: of " + kinds +
                "; conjunction:all and opposition:all pair the sun and "
                "the moon, too");
+}
+
+void Grammar::addSchema() {
+  CLI::App* const schema =
+      app_->add_subcommand("schema", "What JSON and JSON Lines hold, as a JSON Schema")
+          ->group("Commands");
+  schema->add_option("NAME", typed_.schema, "Of what; without it the names are listed");
+  schema->footer(
+      "--format jsonl asks for the schema of a line.\n\nExample:\n"
+      "  veyruna schema events -o events.schema.json");
 }
 
 void Grammar::addTable(const std::string& name, const std::string& summary,

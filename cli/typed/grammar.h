@@ -35,6 +35,7 @@ struct Typed {
   std::string rows;
   std::string step;
   std::string folder;
+  std::string schema;     ///< whose schema is asked for; empty for a list of them
   std::string helpTopic;  ///< empty for the help of the whole
 };
 
@@ -63,6 +64,7 @@ class Grammar {
   CLI::App* addStretchCommand(std::string_view name, std::string_view summary,
                               const std::string& exampleEnd);
   void addEvents();
+  void addSchema();
   void addTable(const std::string& name, const std::string& summary, const std::string& example);
   [[nodiscard]] std::string commandNames() const;
   [[nodiscard]] std::string chosenCommand() const;

@@ -140,4 +140,17 @@ std::string savedPlacesText() {
   return text;
 }
 
+std::vector<records::Row> savedPlacesRows() {
+  std::vector<records::Row> rows;
+  for (const CityPreset& place : knownPlaces()) {
+    const bool isOnGlobe = model::isPlaceWithinReach(place.latitude, place.longitude);
+    const auto degrees = [isOnGlobe](double radians) {
+      return isOnGlobe ? records::Value(astro::typedDegreesOf(radians)) : records::Value();
+    };
+    rows.push_back(
+        {place.name.toStdString(), isOnGlobe, degrees(place.latitude), degrees(place.longitude)});
+  }
+  return rows;
+}
+
 }  // namespace veyruna::cli

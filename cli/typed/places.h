@@ -4,6 +4,8 @@
 #include <string_view>
 #include <vector>
 
+#include "records/record.h"
+
 namespace veyruna::cli {
 
 /// A place as the engine takes it: radians, north and east positive.
@@ -31,5 +33,8 @@ std::vector<Place> savedPlaces();
 
 /// Every saved place with its coordinates, "Manual" first, a line each.
 std::string savedPlacesText();
+
+/// The same as rows of records::locationsType.
+std::vector<records::Row> savedPlacesRows();
 
 }  // namespace veyruna::cli

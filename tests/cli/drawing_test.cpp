@@ -29,10 +29,9 @@ using tests::ScratchFolder;
 using tests::words;
 
 /// The bytes by which a file of the form begins.
-const std::map<Form, std::string> beginnings = {{Form::svg, "<?xml"},
-                                                {Form::html, "<!DOCTYPE html>"},
-                                                {Form::pdf, "%PDF-"},
-                                                {Form::png, "\x89PNG\r\n"}};
+const std::map<Form, std::string> beginnings = {
+    {Form::svg, "<?xml"},       {Form::html, "<!DOCTYPE html>"}, {Form::pdf, "%PDF-"},
+    {Form::png, "\x89PNG\r\n"}, {Form::json, "{\n\"schema\":{"}, {Form::jsonl, "{\"schema\":{"}};
 
 /// Without the one line that a PDF made a moment later has differently.
 std::string undated(const std::string& pdf) {
@@ -78,6 +77,8 @@ TEST_F(Drawing, EveryDocumentInEveryFormItCanHave) {
         const std::string content = written(command, file);
         if (form.form == documents::ownForm(document.kind)) {
           EXPECT_TRUE(content == runWith({command}).out) << command << ' ' << file;
+        } else if (form.form == Form::csv) {
+          EXPECT_NE(content.substr(0, content.find('\n')).find("_degrees,"), std::string::npos);
         } else {
           EXPECT_TRUE(content.starts_with(beginnings.at(form.form))) << command << ' ' << file;
         }
@@ -191,16 +192,16 @@ TEST_F(Drawing, WhatIsNotAcceptedIsQuoted) {
        "-o: \"sky.jpg\" is not accepted; give a name that ends in .svg, "
        ".html, .pdf or .png for star-map"},
       {"hourly -o h.png",
-       "-o: \"h.png\" is not accepted; give a name that ends in .txt, .html or "
-       ".pdf for hourly"},
+       "-o: \"h.png\" is not accepted; give a name that ends in .txt, .html, "
+       ".pdf, .json, .jsonl or .csv for hourly"},
       {"base-time -o b.pdf",
        "-o: \"b.pdf\" is not accepted; give a name that ends in .txt for base-time"},
       {"help -o h.html", "\"h.html\""},
       {"locations --format pdf",
-       "--format: \"pdf\" is not accepted; give one of txt for locations"},
+       "--format: \"pdf\" is not accepted; give one of txt, json, jsonl or csv for locations"},
       {"star-map --format gif",
        "--format: \"gif\" is not accepted; give one or several of svg, "
-       "txt, html, pdf, png, with commas between them"},
+       "txt, html, pdf, png, json, jsonl, csv, with commas between them"},
       {"all --out x --format svg,,png", "\"svg,,png\""},
       {"star-map --format svg,png",
        "--format: \"svg,png\" is not accepted; give one of svg, html, "

@@ -30,13 +30,23 @@ TEST(Forms, AreFoundByTheirExtensionInAnyLetterCase) {
 
 TEST(Forms, AreThoseThatADocumentCanHave) {
   EXPECT_EQ(documents::acceptedExtensions(Kind::chart, "."), ".svg, .html, .pdf or .png");
-  EXPECT_EQ(documents::acceptedExtensions(Kind::table), "txt, html or pdf");
-  EXPECT_EQ(documents::acceptedExtensions(Kind::list), "txt, html or pdf");
+  EXPECT_EQ(documents::acceptedExtensions(Kind::table), "txt, html, pdf, json, jsonl or csv");
+  EXPECT_EQ(documents::acceptedExtensions(Kind::list), "txt, html, pdf, json, jsonl or csv");
+  EXPECT_EQ(documents::acceptedExtensions(Kind::log), "txt, json, jsonl or csv");
   EXPECT_EQ(documents::acceptedExtensions(Kind::label), "txt");
-  for (const Kind kind : {Kind::chart, Kind::table, Kind::list, Kind::label}) {
+  for (const Kind kind : {Kind::chart, Kind::table, Kind::list, Kind::label, Kind::log}) {
     EXPECT_TRUE(canBe(kind, documents::ownForm(kind)));
     EXPECT_TRUE(documents::formEntry(documents::ownForm(kind)).isAsItIs);
     EXPECT_TRUE(documents::formEntry(documents::ownForm(kind)).isText);
+  }
+}
+
+TEST(Forms, AreDrawnWhereTheyAreNeitherTheTextNorForPrograms) {
+  for (const Form form : {Form::html, Form::pdf, Form::png}) {
+    EXPECT_TRUE(documents::isDrawn(form));
+  }
+  for (const Form form : {Form::svg, Form::text, Form::json, Form::jsonl, Form::csv}) {
+    EXPECT_FALSE(documents::isDrawn(form));
   }
 }
 

@@ -1,0 +1,66 @@
+#include "cli/documents/schema_command.h"
+
+#include <algorithm>
+#include <string>
+
+#include "cli/typed/arguments.h"
+#include "cli/typed/errors.h"
+#include "cli/typed/quoting.h"
+#include "cli/written/asked_forms.h"
+#include "cli/written/document_writer.h"
+#include "records/all_types.h"
+#include "records/schema.h"
+
+namespace veyruna::cli {
+
+namespace {
+
+using records::TypeEntry;
+
+/// A line a schema: its name and what is written by it.
+std::string schemaList() {
+  std::size_t width = 0;
+  for (const TypeEntry& entry : records::allTypes) {
+    width = std::max(width, entry.name.size());
+  }
+  std::string list;
+  for (const TypeEntry& entry : records::allTypes) {
+    list.append(entry.name).append(width + 2 - entry.name.size(), ' ');
+    list += entry.type().description + "\n";
+  }
+  return list;
+}
+
+const records::RecordType& typeNamed(const std::string& name) {
+  const auto* const found = std::ranges::find(records::allTypes, name, &TypeEntry::name);
+  if (found == records::allTypes.end()) {
+    std::string names;
+    for (const TypeEntry& entry : records::allTypes) {
+      names.append(names.empty() ? "" : ", ").append(entry.name);
+    }
+    throw UsageError("schema: " + inQuotes(name) + " has none; give one of " + names);
+  }
+  return found->type();
+}
+
+}  // namespace
+
+void writeSchema(const Typed& typed) {
+  askedWidth(typed, {});
+  const bool isOfLines = typed.formats == "jsonl";
+  if (!isOfLines && !typed.formats.empty() && typed.formats != "json") {
+    refuse("--format", typed.formats, "json or jsonl, the forms that have a schema");
+  }
+  if (typed.schema.empty() && !typed.formats.empty()) {
+    throw UsageError("--format " + inQuotes(typed.formats) +
+                     " is of one schema; veyruna schema lists their names");
+  }
+  const std::string text = typed.schema.empty() ? schemaList()
+                           : isOfLines          ? records::lineSchema(typeNamed(typed.schema))
+                                                : records::documentSchema(typeNamed(typed.schema));
+  DocumentWriter writer = DocumentWriter::to(typed.file);
+  writer.write(text);
+  writer.finish();
+}
+
+}  // namespace veyruna::cli
