@@ -20,6 +20,7 @@
 #include "charts/interpretation.h"
 #include "charts/mark_recorder.h"
 #include "charts/moon_glyph.h"
+#include "charts/nativity.h"
 #include "charts/svg_writer.h"
 
 namespace veyruna::charts {
@@ -43,13 +44,6 @@ constexpr double southernmostPoleCircle = -astro::obliquity;
 
 using astro::Planet;
 
-double ascendantOf(double siderealAngle, double latitude) {
-  return astro::wrappedToTurn(
-      std::atan2(-std::cos(siderealAngle), std::sin(siderealAngle) * astro::cosObliquity +
-                                               std::tan(latitude) * astro::sinObliquity) +
-      astro::pi);
-}
-
 double midheavenOf(double siderealAngle) {
   return astro::wrappedToTurn(
       std::atan2(std::sin(siderealAngle), std::cos(siderealAngle) * astro::cosObliquity));
@@ -68,7 +62,7 @@ class Horoscope {
         sun_(observer.baseTime),
         moon_(observer.baseTime),
         catalogue_(catalogue),
-        nativity_(nativityOf()) {}
+        nativity_(nativityOf(observer, siderealAngle_, sun_, moon_)) {}
 
   void draw() {
     svg_.markup(horoscopeHead);
@@ -90,18 +84,6 @@ class Horoscope {
   }
 
  private:
-  [[nodiscard]] Nativity nativityOf() const {
-    Nativity nativity{sun_.ec.phi,
-                      moon_.ec.phi,
-                      moon_.ec.theta,
-                      {},
-                      ascendantOf(siderealAngle_, observer_.latitude)};
-    for (const Planet planet : astro::allPlanets) {
-      nativity.planets[indexOf(planet)] = planetEcliptic(planet, observer_.baseTime, sun_).phi;
-    }
-    return nativity;
-  }
-
   /// The colour a thing is drawn in. On the white disc of black and white the light colours would
   /// not be seen: those of stars, signs and lines, of sun and moon, and the yellow chord are black.
   [[nodiscard]] std::string_view ink(std::string_view color) const {

@@ -1,15 +1,14 @@
 #include "charts/interpretation.h"
 
 #include <array>
-#include <cmath>
 #include <cstdint>
 #include <string>
-#include <utility>
 
 #include "astro/angle.h"
 #include "charts/body_style.h"
 #include "charts/chart_frame.h"
 #include "charts/element.h"
+#include "charts/verdict.h"
 #include "reports/zodiac.h"
 
 namespace veyruna::charts {
@@ -18,8 +17,6 @@ namespace {
 
 using astro::Planet;
 using reports::signNameWithMeaning;
-
-constexpr double unitsPerTurn = 200.0;
 
 constexpr std::int64_t headingX = 400;
 constexpr std::int64_t rowX = 410;
@@ -59,8 +56,9 @@ std::array<std::string, 4> elementTexts(const Element& element, const Nativity& 
   std::string code;
   appendCode(code, element.pair);
   return {std::string(element.name), code, std::string(element.bodyPart),
-          std::string(pairStrength(nativity.planets[indexOf(element.pair.first)],
-                                   nativity.planets[indexOf(element.pair.second)]))};
+          std::string(entryOf(strengthOf(nativity.planets[indexOf(element.pair.first)],
+                                         nativity.planets[indexOf(element.pair.second)]))
+                          .name)};
 }
 
 /// The panel of one moment and place, drawn piece by piece.
@@ -74,13 +72,14 @@ class Panel {
     drawText(rowX, 10, "House: ", signNameWithMeaning(nativity_.sun));
     drawText(headingX, 50, "Ivroar Influence (Fate)");
     drawText(rowX, 60, "House: ", signNameWithMeaning(nativity_.moon));
-    drawText(rowX, 70, "Power: ", powerVerdict(nativity_.moonLatitude));
+    drawText(rowX, 70, "Power: ", entryOf(powerOf(nativity_.moonLatitude)).verdict);
     drawText(headingX, 100, "Planetary Influences");
     drawPlanetRows();
     drawText(headingX, 200, "Elemental Influences");
     drawElementRows();
     drawText(headingX, natalHeadingY, "Natal Forces (Origins)");
-    drawText(rowX, 300, "Dominant Sphere: ", aspectVerdict(nativity_.ascendant, nativity_));
+    drawText(rowX, 300,
+             "Dominant Sphere: ", entryOf(sphereOf(nativity_.ascendant, nativity_)).verdict);
     drawText(rowX, 310, "Ascending Sign (Purpose): ", signNameWithMeaning(nativity_.ascendant));
     drawText(rowX, 320, "Descending Sign (Displacement): ",
              signNameWithMeaning(nativity_.ascendant + astro::pi));
@@ -104,7 +103,7 @@ class Panel {
       const double longitude = nativity_.planets[indexOf(planet)];
       drawText(rowX, y, withGift(std::string(displayName(planet)), planet));
       drawText(500, y, signNameWithMeaning(longitude));
-      drawText(650, y, aspectVerdict(longitude, nativity_));
+      drawText(650, y, entryOf(sphereOf(longitude, nativity_)).verdict);
       svg_.element("circle")
           .attribute("cx", 405)
           .attribute("cy", y - 3)
@@ -139,17 +138,18 @@ class Panel {
     std::int64_t y = natalRowsY;
     for (const Planet planet : astro::allPlanets) {
       drawText(rowX, y, withGift(inCapitals(displayName(planet)), planet) + " - ",
-               pairStrength(nativity_.planets[indexOf(planet)], nativity_.ascendant));
+               entryOf(strengthOf(nativity_.planets[indexOf(planet)], nativity_.ascendant)).name);
       y += rowHeight;
     }
   }
 
   void drawKeep() {
-    if (isTwistedKeep(nativity_.planets)) {
-      beginText(svg_, headingX, keepY, "9").endWithText("Twisted Keep!");
-      marks_.panelText(headingX, keepY, "Twisted Keep!", 9.0);
+    const KeepEntry& keep = keepEntry(isTwistedKeep(nativity_.planets));
+    if (keep.isTwisted) {
+      beginText(svg_, headingX, keepY, "9").endWithText(keep.verdict);
+      marks_.panelText(headingX, keepY, keep.verdict, 9.0);
     } else {
-      drawText(headingX, keepY, "Straight Keep");
+      drawText(headingX, keepY, keep.verdict);
     }
   }
 
@@ -159,70 +159,6 @@ class Panel {
 };
 
 }  // namespace
-
-double separation(double a, double b) {
-  constexpr double manyTurns = 1000.0 * astro::twoPi;
-  const double apart = std::abs(a - b);
-  const double angle = apart > manyTurns ? std::fmod(apart, astro::twoPi) : apart;
-  double units = angle * unitsPerTurn / astro::twoPi;
-  while (units > unitsPerTurn) {
-    units -= unitsPerTurn;
-  }
-  return units > unitsPerTurn / 2.0 ? unitsPerTurn - units : units;
-}
-
-std::string_view aspectVerdict(double longitude, const Nativity& nativity) {
-  constexpr double clearlyNearer = 20.0;
-  const double fromSun = separation(longitude, nativity.sun);
-  const double fromMoon = separation(longitude, nativity.moon);
-  if (fromSun > fromMoon + clearlyNearer) {
-    return "IVRO (Fate)";
-  }
-  return fromSun > fromMoon - clearlyNearer ? "BALANCED" : "THESSIL (Will)";
-}
-
-std::string_view pairStrength(double a, double b) {
-  const double units = separation(a, b);
-  if (units > 75.0) {
-    return "Exceptional";
-  }
-  if (units > 50.0) {
-    return "Strong";
-  }
-  if (units > 30.0) {
-    return "Neutral";
-  }
-  if (units > 15.0) {
-    return "Weak";
-  }
-  return units > 5.0 ? "Feeble" : "Impotent";
-}
-
-std::string_view powerVerdict(double moonLatitude) {
-  constexpr double threeDegrees = 0.05235987755982988;
-  if (moonLatitude > threeDegrees) {
-    return "SUPERIOR.  The Fates hold sway over Veyruna.";
-  }
-  return moonLatitude > -threeDegrees ? "BALANCED.  Fate and Will are equal in Veyruna."
-                                      : "INFERIOR.  Will can overcome Fate across Veyruna.";
-}
-
-bool isTwistedKeep(const astro::PerPlanet<double>& planetLongitudes) {
-  static_assert(astro::planetCount == 4, "the keep is that of two groups of two planets");
-  astro::PerPlanet<std::pair<double, int>> order{};
-  for (std::size_t i = 0; i < order.size(); ++i) {
-    order[i] = {astro::wrappedToClosedTurn(planetLongitudes[i]), static_cast<int>(i % 2)};
-  }
-  // A bubble sort, descending: planets at one longitude keep their places, and so their verdict.
-  for (std::size_t pass = 0; pass + 1 < order.size(); ++pass) {
-    for (std::size_t i = 0; i + 1 < order.size(); ++i) {
-      if (order[i].first < order[i + 1].first) {
-        std::swap(order[i], order[i + 1]);
-      }
-    }
-  }
-  return order[0].second == order[2].second;
-}
 
 std::string elementLine(const Element& element, const Nativity& nativity) {
   std::string line;

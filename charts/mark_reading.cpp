@@ -1,7 +1,6 @@
 #include "charts/mark_reading.h"
 
 #include <algorithm>
-#include <array>
 #include <set>
 #include <string_view>
 
@@ -9,6 +8,7 @@
 #include "astro/horizon.h"
 #include "astro/number_text.h"
 #include "astro/rotation.h"
+#include "charts/verdict.h"
 #include "reports/positions.h"
 #include "reports/zodiac.h"
 
@@ -88,11 +88,10 @@ std::string figuresSentence(const ChartMarks& marks) {
 
 /// The keep and the strongest of the elements; empty where there is no interpretation.
 std::string interpretationSentence(const ChartMarks& marks) {
-  constexpr std::array<std::string_view, 6> strengths = {"Exceptional", "Strong", "Neutral",
-                                                         "Weak",        "Feeble", "Impotent"};
   const auto rank = [&](const ChartMark& chord) {
-    return std::ranges::find_if(strengths,
-                                [&](std::string_view word) { return chord.line.ends_with(word); }) -
+    return std::ranges::find_if(
+               strengths,
+               [&](const StrengthEntry& entry) { return chord.line.ends_with(entry.name); }) -
            strengths.begin();
   };
   const ChartMark* strongest = nullptr;

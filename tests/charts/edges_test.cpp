@@ -5,8 +5,8 @@
 
 #include "astro/rotation.h"
 #include "charts/horoscope.h"
-#include "charts/interpretation.h"
 #include "charts/star_map.h"
+#include "charts/verdict.h"
 #include "tests/charts/sphere.h"
 #include "tests/charts/xml_check.h"
 #include "tests/support/expect_stop.h"
@@ -91,8 +91,8 @@ TEST(ChartEdges, JudgementsOfHugeAnglesEnd) {
     const double apart = separation(huge, 0.25);
     EXPECT_GE(apart, 0.0);
     EXPECT_LE(apart, 100.0);
-    EXPECT_FALSE(pairStrength(0.25, huge).empty());
-    EXPECT_FALSE(aspectVerdict(huge, Nativity{1.0, huge, 0.0, {}, 0.0}).empty());
+    EXPECT_NE(strengthOf(0.25, huge), Strength::count);
+    EXPECT_NE(sphereOf(huge, Nativity{1.0, huge, 0.0, {}, 0.0}), Sphere::count);
     isTwistedKeep({huge, 1.0, -huge, 2.0});
   }
 }

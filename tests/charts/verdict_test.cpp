@@ -1,4 +1,4 @@
-#include "charts/interpretation.h"
+#include "charts/verdict.h"
 
 #include <algorithm>
 #include <cmath>
@@ -57,18 +57,22 @@ RC_GTEST_PROP(Separation, IsTheAngleBetweenTwoDirections, ()) {
   RC_ASSERT(separation(a, b) <= 100.0);
 }
 
+std::string_view strengthWord(double a, double b) {
+  return entryOf(strengthOf(a, b)).name;
+}
+
 TEST(PairStrength, OppositionIsStrongestAndConjunctionWeakest) {
-  EXPECT_EQ(pairStrength(0.3, 0.3 + astro::pi), "Exceptional");
-  EXPECT_EQ(pairStrength(0.3, 0.3), "Impotent");
-  EXPECT_EQ(pairStrength(-0.3, 0.3), "Weak");
+  EXPECT_EQ(strengthWord(0.3, 0.3 + astro::pi), "Exceptional");
+  EXPECT_EQ(strengthWord(0.3, 0.3), "Impotent");
+  EXPECT_EQ(strengthWord(-0.3, 0.3), "Weak");
 }
 
 TEST(PairStrength, FiveUnitsExactlyAreImpotentAndTheNextAngleFeeble) {
   const double nineDegrees = lastWithin(5.0);
   ASSERT_EQ(separation(nineDegrees, 0.0), 5.0);
   ASSERT_NEAR(degrees(nineDegrees), 9.0, 1e-13);
-  EXPECT_EQ(pairStrength(nineDegrees, 0.0), "Impotent");
-  EXPECT_EQ(pairStrength(justBeyond(nineDegrees), 0.0), "Feeble");
+  EXPECT_EQ(strengthWord(nineDegrees, 0.0), "Impotent");
+  EXPECT_EQ(strengthWord(justBeyond(nineDegrees), 0.0), "Feeble");
 }
 
 struct Step {
@@ -89,9 +93,9 @@ TEST_P(PairStrengthStep, TheStepItselfStillBelongsToTheWeakerSide) {
   ASSERT_LE(separation(last, 0.0), step.units);
   ASSERT_GT(separation(justBeyond(last), 0.0), step.units);
   ASSERT_NEAR(degrees(last), step.degrees, 1e-12);
-  EXPECT_EQ(pairStrength(last, 0.0), step.upTo);
-  EXPECT_EQ(pairStrength(0.0, last), step.upTo);
-  EXPECT_EQ(pairStrength(justBeyond(last), 0.0), step.beyond);
+  EXPECT_EQ(strengthWord(last, 0.0), step.upTo);
+  EXPECT_EQ(strengthWord(0.0, last), step.upTo);
+  EXPECT_EQ(strengthWord(justBeyond(last), 0.0), step.beyond);
 }
 
 INSTANTIATE_TEST_SUITE_P(Steps, PairStrengthStep,
@@ -103,7 +107,7 @@ INSTANTIATE_TEST_SUITE_P(Steps, PairStrengthStep,
 
 /// A longitude of 0 judged against sun and moon.
 std::string_view verdictBetween(double sun, double moon) {
-  return aspectVerdict(0.0, Nativity{sun, moon, 0.0, {}, 0.0});
+  return entryOf(sphereOf(0.0, Nativity{sun, moon, 0.0, {}, 0.0})).verdict;
 }
 
 TEST(AspectVerdict, FollowsTheNearerLight) {
@@ -130,6 +134,10 @@ TEST(AspectVerdict, TwentyUnitsNearerToTheSunIsTheSuns) {
   const double twenty = lastWithin(20.0);
   EXPECT_EQ(verdictBetween(0.0, twenty), "THESSIL (Will)");
   EXPECT_EQ(verdictBetween(0.0, twenty - 1e-12), "BALANCED");
+}
+
+std::string_view powerVerdict(double moonLatitude) {
+  return entryOf(powerOf(moonLatitude)).verdict;
 }
 
 TEST(PowerVerdict, ThreeDegreesNorthIsBalancedAndThreeSouthInferior) {
