@@ -120,13 +120,20 @@ std::optional<double> nextStation(Body body, double t) {
   return next;
 }
 
+Course courseOnEcliptic(const Motion& motion) {
+  const double sinL = std::sin(motion.longitude);
+  const double cosL = std::cos(motion.longitude);
+  return {toEquator({cosL, sinL, 0.0}), toEquator({-sinL * motion.rate, cosL * motion.rate, 0.0})};
+}
+
 Course courseAt(Body body, double t) {
-  const auto [longitude, rate] = motionAt(body, t);
+  const Motion motion = motionAt(body, t);
+  if (body != Body::ivro) {
+    return courseOnEcliptic(motion);
+  }
+  const auto [longitude, rate] = motion;
   const double sinL = std::sin(longitude);
   const double cosL = std::cos(longitude);
-  if (body != Body::ivro) {
-    return {toEquator({cosL, sinL, 0.0}), toEquator({-sinL * rate, cosL * rate, 0.0})};
-  }
   const double latitude = astro::moonLatitude(t);
   const double u =
       twoPi * astro::fractionOfTurn(t * astro::moonNodalRate) + astro::moonLatitudePhase;

@@ -33,6 +33,9 @@ struct Course {
 
 Course courseAt(Body body, double t);
 
+/// That of a point on the ecliptic.
+Course courseOnEcliptic(const Motion& motion);
+
 /// The most that the direction moves in a day, and the most that its rate changes.
 struct CourseBounds {
   double speed = 0.0;

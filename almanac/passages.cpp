@@ -1,9 +1,10 @@
-// θ local sidereal angle, φ latitude; z the sine of a body's altitude, H its hour angle.
+// z the sine of a body's altitude.
 #include <algorithm>
 #include <cmath>
 
 #include "almanac/change.h"
 #include "almanac/event_source.h"
+#include "almanac/height.h"
 #include "almanac/motion.h"
 #include "astro/angle.h"
 #include "astro/horizon.h"
@@ -13,8 +14,6 @@
 namespace veyruna::almanac {
 
 namespace {
-
-constexpr double skyRate = astro::twoPi * astro::siderealRate;
 
 /// No body comes nearer to the celestial poles than this cosine of its declination.
 const double leastCosine = std::cos(astro::obliquity + astro::moonInclination);
@@ -29,7 +28,7 @@ class Passages final : public EventSource {
         number_(number),
         range_(range),
         bounds_(courseBoundsOf(body)),
-        bend_(skyRate * skyRate + 2.0 * skyRate * bounds_.speed + bounds_.bend),
+        bend_(heightBend(bounds_, place.latitude)),
         // What happens at the very beginning is seen from just before it.
         last_(range.from - leastStepDays) {}
 
@@ -50,14 +49,7 @@ class Passages final : public EventSource {
  private:
   [[nodiscard]] State above(double t) const {
     const auto [u, rate] = courseAt(body_, t);
-    const double theta = astro::localSiderealAngle(place_.at(t));
-    const double cosT = std::cos(theta);
-    const double sinT = std::sin(theta);
-    const double sinP = std::sin(place_.latitude);
-    const double cosP = std::cos(place_.latitude);
-    const double z = sinP * u[2] + cosP * (u[0] * cosT + u[1] * sinT);
-    const double zRate = sinP * rate[2] + cosP * (rate[0] * cosT + rate[1] * sinT +
-                                                  skyRate * (u[1] * cosT - u[0] * sinT));
+    const auto [z, zRate] = heightOf({u, rate}, place_.at(t));
     return {z > 0.0, daysUntilReached(std::abs(z), z > 0.0 ? zRate : -zRate, bend_)};
   }
 

@@ -19,15 +19,14 @@ namespace veyruna::astro {
 
 namespace {
 
-/// Below these elongations the moon can cover the sun: wholly (1.70°), in part (2.54°).
+/// Below this elongation the moon can cover the sun wholly (1.70°), up to partialSolarLimit in
+/// part.
 constexpr double totalSolarLimit = 0.029670597283903602;
-constexpr double partialSolarLimit = 0.044331363000655974;
 
-/// Above these the world can shade the moon: wholly (179.65°), for the most (179.11°), in the
-/// penumbra (178.42°).
+/// Above these the world can shade the moon: wholly (179.65°), for the most (179.11°); above
+/// penumbralLunarLimit in the penumbra.
 constexpr double fullLunarLimit = 3.135484001207813;
 constexpr double mostlyLunarLimit = 3.1260592232470437;
-constexpr double penumbralLunarLimit = 3.1140164514082826;
 
 /// A latitude this small (radians) at an interval's start is a crossing by itself.
 constexpr double onEcliptic = 0.0001;

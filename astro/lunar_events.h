@@ -6,6 +6,11 @@
 
 namespace veyruna::astro {
 
+/// The outermost elongations (radians, unsigned) at which there is such an event: below this by the
+/// sun (2.54°), above this opposite to it (178.42°).
+inline constexpr double partialSolarLimit = 0.044331363000655974;
+inline constexpr double penumbralLunarLimit = 3.1140164514082826;
+
 /// The near-alignment of sun, world and moon at base time `t` (days), or the empty text:
 /// code ("  TS ", "  PS ", " FUL ", " FPL ", " PPL "), calendar label, blank, elongation with
 /// seconds (signed), blank. A moment that is not finite is a broken invariant, here and below.
