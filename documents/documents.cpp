@@ -87,32 +87,32 @@ constexpr TableSize none;
 
 // A table's size stands beside its summary, which says it in words.
 constexpr std::array<Entry, documentCount> allDocuments = {{
-    {Document::starMap, "star-map", "star-map.svg", "Star Map", "The sky above the place, as SVG",
-     Kind::chart, none, starMap, 0, starMapMarks},
-    {Document::horoscope, "horoscope", "horoscope.svg", "Horoscope",
+    {Document::starMap, "star-map", "star-map.svg", "Star Map", "Star Map",
+     "The sky above the place, as SVG", Kind::chart, none, starMap, 0, starMapMarks},
+    {Document::horoscope, "horoscope", "horoscope.svg", "Horoscope", "Horoscope",
      "The horoscope with its interpretation, as SVG", Kind::chart, none, horoscope, 0,
      horoscopeMarks},
-    {Document::horoscopeOnPaper, "", "horoscope-black-and-white.svg", "Horoscope, black on white",
-     "The horoscope black on white, as SVG", Kind::chart, none, horoscopeOnPaper, 0,
-     horoscopeMarks},
-    {Document::hourly, "hourly", "ephemeris-hourly.txt", "Hourly", "Moon and sun for 24 hours",
-     Kind::table, TableSize{24, 1.0 / 24.0}, ephemeris, 1},
-    {Document::monthly, "monthly", "ephemeris-monthly.txt", "Monthly", "Moon and sun for 30 days",
-     Kind::table, TableSize{30, 1.0}, ephemeris, 1},
-    {Document::daily, "daily", "conjunctions-daily.txt", "Daily",
+    {Document::horoscopeOnPaper, "", "horoscope-black-and-white.svg", "Horoscope",
+     "Horoscope, black on white", "The horoscope black on white, as SVG", Kind::chart, none,
+     horoscopeOnPaper, 0, horoscopeMarks},
+    {Document::hourly, "hourly", "ephemeris-hourly.txt", "Sun & Moon", "Hourly",
+     "Moon and sun for 24 hours", Kind::table, TableSize{24, 1.0 / 24.0}, ephemeris, 1},
+    {Document::monthly, "monthly", "ephemeris-monthly.txt", "Sun & Moon", "Monthly",
+     "Moon and sun for 30 days", Kind::table, TableSize{30, 1.0}, ephemeris, 1},
+    {Document::daily, "daily", "conjunctions-daily.txt", "Positions", "Daily",
      "All bodies every ten minutes of a day", Kind::table, TableSize{144, 1.0 / 144.0},
      conjunctions, 2},
-    {Document::yearly, "yearly", "conjunctions-yearly.txt", "Yearly",
+    {Document::yearly, "yearly", "conjunctions-yearly.txt", "Positions", "Yearly",
      "All bodies every day of a year", Kind::table, TableSize{360, 1.0}, conjunctions, 2},
-    {Document::positions, "positions", "positions.txt", "Positions", "Where every body stands",
-     Kind::list, none, positions, 2},
-    {Document::date, "", "", "Date", "The moment as a date", Kind::label, none, date},
-    {Document::nextFullMoon, "", "", "Next full moon", "When the moon is full next", Kind::label,
-     none, nextFullMoon},
-    {Document::nextNewMoon, "", "", "Next new moon", "When the moon is new next", Kind::label, none,
-     nextNewMoon},
-    {Document::moment, "moment", "moment.txt", "Moment", "The date with the next full and new moon",
-     Kind::list, none, moment},
+    {Document::positions, "positions", "positions.txt", "Planets", "Positions",
+     "Where every body stands", Kind::list, none, positions, 2},
+    {Document::date, "", "", "", "Date", "The moment as a date", Kind::label, none, date},
+    {Document::nextFullMoon, "", "", "", "Next full moon", "When the moon is full next",
+     Kind::label, none, nextFullMoon},
+    {Document::nextNewMoon, "", "", "", "Next new moon", "When the moon is new next", Kind::label,
+     none, nextNewMoon},
+    {Document::moment, "moment", "moment.txt", "Moment", "Moment",
+     "The date with the next full and new moon", Kind::list, none, moment},
 }};
 
 namespace {
@@ -133,7 +133,8 @@ constexpr bool isComplete(const Entry& entry) {
   return !entry.heading.empty() && !entry.summary.empty() && entry.write != nullptr &&
          (entry.size.rows > 0) == isTable && (entry.size.stepDays > 0.0) == isTable &&
          (entry.marks != nullptr) == (entry.kind == Kind::chart) &&
-         entry.fileName.empty() == isLabel && (!isLabel || entry.command.empty());
+         entry.fileName.empty() == isLabel && entry.fileTitle.empty() == isLabel &&
+         (!isLabel || entry.command.empty());
 }
 static_assert(std::ranges::all_of(allDocuments, isComplete), "something of a document is not said");
 

@@ -20,7 +20,7 @@ QString messageFor(Form form) {
 }
 
 QString nameFor(const AstronomyModel& model, const TabEntry& tab, Form form) {
-  return proposedFileName(model, tab.filePrefix, saidText(documents::formEntry(form).extension));
+  return proposedFileName(model, filePrefix(tab), saidText(documents::formEntry(form).extension));
 }
 
 /// The chart of a tab that has one.

@@ -4,6 +4,7 @@
 
 #include "astro/invariant.h"
 #include "export/report_pages.h"
+#include "export/said_text.h"
 
 namespace veyruna::exports {
 
@@ -21,18 +22,15 @@ constexpr std::array positionsSections = {TabSection{Document::daily, u"Daily Co
 
 }  // namespace
 
-// The bodies' tab is called after the sun; the conjunctions' files after their tab, their report
-// after what it holds.
+// The bodies' tab is called after the sun; the conjunctions' report after what it holds.
 constexpr std::array<TabEntry, outputTabCount> allTabs = {{
-    {OutputTab::starMap, u"Star Map", starMapSections, u"Star Map", u"", QSizeF(720, 720)},
-    {OutputTab::horoscope, u"Horoscope", horoscopeSections, u"Horoscope", u"", QSizeF(1440, 760)},
-    {OutputTab::planets, u"Thessil System", planetsSections, u"Planets", u"Planet Positions",
+    {OutputTab::starMap, u"Star Map", starMapSections, u"", QSizeF(720, 720)},
+    {OutputTab::horoscope, u"Horoscope", horoscopeSections, u"", QSizeF(1440, 760)},
+    {OutputTab::planets, u"Thessil System", planetsSections, u"Planet Positions",
      reportPageSizePoints},
-    {OutputTab::sunMoon, u"Sun & Moon", sunMoonSections, u"Sun & Moon", u"Sun & Moon",
-     reportPageSizePoints},
-    {OutputTab::positions, u"Positions", positionsSections, u"Positions", u"Conjunctions",
-     reportPageSizePoints},
-    {OutputTab::location, u"Location", {}, u"", u"", QSizeF()},
+    {OutputTab::sunMoon, u"Sun & Moon", sunMoonSections, u"Sun & Moon", reportPageSizePoints},
+    {OutputTab::positions, u"Positions", positionsSections, u"Conjunctions", reportPageSizePoints},
+    {OutputTab::location, u"Location", {}, u"", QSizeF()},
 }};
 
 namespace {
@@ -49,7 +47,7 @@ static_assert(everyTabHasItsRowInOrder());
 
 constexpr bool isComplete(const TabEntry& entry) {
   const bool saves = !entry.sections.empty();
-  return !entry.title.empty() && entry.filePrefix.empty() != saves &&
+  return !entry.title.empty() &&
          (entry.pageSizePoints.width() > 0 && entry.pageSizePoints.height() > 0) == saves &&
          (saves || entry.reportTitle.empty()) &&
          std::ranges::all_of(entry.sections, [](const TabSection& section) {
@@ -71,8 +69,13 @@ QString title(OutputTab tab) {
 }
 
 QString heading(Document document) {
-  const std::string_view text = documents::entryOf(document).heading;
-  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+  return saidText(documents::entryOf(document).heading);
+}
+
+QString filePrefix(const TabEntry& tab) {
+  return tab.sections.empty()
+             ? QString()
+             : saidText(documents::entryOf(tab.sections.front().document).fileTitle);
 }
 
 bool isChart(OutputTab tab) {

@@ -35,7 +35,6 @@ struct TabEntry {
   OutputTab tab = OutputTab::count;
   QStringView title;                     ///< what a person reads on it
   std::span<const TabSection> sections;  ///< one chart, or tables; of one that saves nothing, none
-  QStringView filePrefix;                ///< what its files are called
   QStringView reportTitle;               ///< over its tables on pages; a chart has none
   QSizeF pageSizePoints;
 };
@@ -51,6 +50,10 @@ QString title(OutputTab tab);
 
 /// What a person reads over the document: "Hourly", "Next full moon" and so on.
 QString heading(documents::Document document);
+
+/// What the names of a tab's files begin with, as those of its documents do; empty for one that
+/// saves nothing.
+QString filePrefix(const TabEntry& tab);
 
 /// Whether the tab shows a chart, which is saved as a picture; the others are saved as text.
 bool isChart(OutputTab tab);

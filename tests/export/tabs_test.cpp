@@ -51,7 +51,7 @@ TEST(EveryTab, IsCalledLikeNoOther) {
   for (const TabEntry& tab : exports::allTabs) {
     titles.insert(tab.title.toString());
     if (!tab.sections.empty()) {
-      prefixes.insert(tab.filePrefix.toString());
+      prefixes.insert(exports::filePrefix(tab));
       ++saving;
     }
   }
@@ -65,6 +65,8 @@ TEST(EveryTab, IsAChartOrAReport) {
     SCOPED_TRACE(tab.title.toString().toStdString());
     EXPECT_EQ(tab.reportTitle.isEmpty(), tab.sections.empty() || exports::isChart(tab.tab));
     for (const exports::TabSection& section : tab.sections) {
+      EXPECT_EQ(documents::entryOf(section.document).fileTitle,
+                exports::filePrefix(tab).toStdString());
       const bool isChart = documents::entryOf(section.document).kind == documents::Kind::chart;
       EXPECT_EQ(isChart, exports::isChart(tab.tab));
       EXPECT_TRUE(!isChart || tab.sections.size() == 1);
@@ -125,9 +127,9 @@ TEST_P(EveryTabSaved, HoldsItsDocumentsInBothForms) {
       EXPECT_TRUE(exports::htmlOf(*pdf).contains(text));
     }
     if (native) {
-      EXPECT_TRUE(native->proposedName.startsWith(tab.filePrefix));
+      EXPECT_TRUE(native->proposedName.startsWith(exports::filePrefix(tab)));
       EXPECT_TRUE(native->proposedName.endsWith(exports::isChart(tab.tab) ? u".svg" : u".txt"));
-      EXPECT_TRUE(pdf->proposedName.startsWith(tab.filePrefix));
+      EXPECT_TRUE(pdf->proposedName.startsWith(exports::filePrefix(tab)));
       EXPECT_TRUE(pdf->proposedName.endsWith(u".pdf"));
       EXPECT_EQ(pdf->pageSizePoints, tab.pageSizePoints);
       EXPECT_EQ(exports::htmlOf(*pdf).contains(u"<h1>"_s), !exports::isChart(tab.tab));
