@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "astro/invariant.h"
+#include "cli/documents/document_content.h"
 #include "cli/typed/arguments.h"
 #include "cli/typed/dates.h"
 #include "cli/typed/errors.h"
@@ -38,11 +39,6 @@ std::string fileNameOf(const Entry& document, Form form) {
   return std::filesystem::path(document.fileName)
       .replace_extension(documents::formEntry(form).extension)
       .string();
-}
-
-/// Over one that has none of its own in the tabs.
-std::string headingOf(const Entry& document) {
-  return std::string(document.document == Document::moment ? document.summary : document.heading);
 }
 
 }  // namespace
@@ -137,29 +133,13 @@ void DocumentCommands::writeRows(const Entry& likeIt, const reports::TableSize& 
 void DocumentCommands::writeContent(const Entry& document, Form form, const std::string& file,
                                     std::optional<std::string>& text) const {
   DocumentWriter writer = DocumentWriter::to(file);
-  if (documents::formEntry(form).isOfValues) {
-    records::writeRecords(document.document, sky_.observer, document.size, notationOf(form),
-                          [&writer](std::string_view piece) { writer.write(piece); });
-  } else {
-    if (!text) {
-      text = documents::textOf(document.document, sky_.observer);
-    }
-    writer.write(rendered(document, headingOf(document), *text, form));
-  }
+  writer.write(contentOf(form, document, sky_, renderer_, widthPixels_, text));
   writer.finish();
 }
 
 std::string DocumentCommands::rendered(const Entry& document, const std::string& heading,
                                        const std::string& text, Form form) const {
-  if (form == documents::ownForm(document.kind)) {
-    return text;
-  }
-  return renderer_({.document = document.document,
-                    .heading = heading,
-                    .text = text,
-                    .date = documents::textOf(Document::date, sky_.observer),
-                    .place = sky_.place},
-                   form, widthPixels_);
+  return inForm(form, document, heading, text, sky_, renderer_, widthPixels_);
 }
 
 }  // namespace veyruna::cli

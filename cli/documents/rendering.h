@@ -17,10 +17,16 @@ struct Original {
   std::string place;  ///< the place in words
 };
 
-/// What a file of the form holds; a PNG is so many pixels wide, or as wide as it is on paper where
-/// that is 0. Throws std::runtime_error where it cannot be made. Of the two programs one is given
-/// such a function; the other, which starts without what drawing takes, has it empty.
-using Renderer =
-    std::function<std::string(const Original& original, documents::Form form, int widthPixels)>;
+/// What draws. Of the two programs one has it; the other, which starts without what drawing takes,
+/// has it empty.
+struct Renderer {
+  /// Makes ready; on the main thread, before anything is drawn.
+  std::function<void()> open;
+  /// What a file of the form holds; a PNG is so many pixels wide, or as wide as it is on paper
+  /// where that is 0. Safe from any thread. Throws std::runtime_error where it cannot be made.
+  std::function<std::string(const Original& original, documents::Form form, int widthPixels)> draw;
+
+  explicit operator bool() const { return draw != nullptr; }
+};
 
 }  // namespace veyruna::cli

@@ -7,6 +7,7 @@
 
 #include "astro/number_text.h"
 #include "cli/almanac/event_command.h"
+#include "cli/batch/batch_command.h"
 #include "cli/documents/document_commands.h"
 #include "cli/documents/drawing_program.h"
 #include "cli/documents/locations_command.h"
@@ -63,6 +64,14 @@ constexpr std::array ownCommands = {OwnCommand{"events", writeEvents},
                                     OwnCommand{"locations", writeLocations},
                                     OwnCommand{"schema", writeSchema}};
 
+/// To draw, in this program or in the one that can.
+void makeReady(const Renderer& renderer, const std::vector<std::string>& arguments) {
+  if (!renderer) {
+    becomeDrawingProgram(arguments);
+  }
+  renderer.open();
+}
+
 void run(const Grammar& grammar, const Typed& typed, const std::vector<std::string>& arguments,
          const Renderer& renderer) {
   const auto* const own = std::ranges::find(ownCommands, typed.command, &OwnCommand::word);
@@ -73,17 +82,25 @@ void run(const Grammar& grammar, const Typed& typed, const std::vector<std::stri
   const Entry* const document = documentOf(typed);
   const std::vector<Form> forms =
       askedForms(typed, document == nullptr ? documents::Kind::label : document->kind);
-  if (document == nullptr && typed.command != "all") {
+  if (document == nullptr && typed.command != "all" && typed.command != "batch") {
     askedWidth(typed, forms);
     DocumentWriter writer = DocumentWriter::to(typed.file);
     writer.write(plainText(grammar, typed));
     writer.finish();
     return;
   }
+  if (typed.command == "batch") {
+    const BatchCommand batch(typed, forms, renderer);
+    if (batch.draws()) {
+      makeReady(renderer, arguments);
+    }
+    batch.run();
+    return;
+  }
   const Sky sky = skyOf(typed);
   const DocumentCommands commands(typed, sky, forms, renderer);
-  if (std::ranges::any_of(forms, documents::isDrawn) && !renderer) {
-    becomeDrawingProgram(arguments);
+  if (std::ranges::any_of(forms, documents::isDrawn)) {
+    makeReady(renderer, arguments);
   }
   if (document == nullptr) {
     commands.writeAll();

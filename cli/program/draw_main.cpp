@@ -49,12 +49,6 @@ int main(int argc, char** argv) {
   cli::prepareStreams();
   qInstallMessageHandler(hear);
   std::optional<Studio> studio;  // opened when the arguments have turned out to be fine
-  return cli::runCommandLine(
-      std::vector<std::string>(argv + (argc > 0 ? 1 : 0), argv + argc),
-      [&studio](const cli::Original& original, documents::Form form, int widthPixels) {
-        if (!studio) {
-          studio.emplace();
-        }
-        return drawn(original, form, widthPixels);
-      });
+  return cli::runCommandLine(std::vector<std::string>(argv + (argc > 0 ? 1 : 0), argv + argc),
+                             {.open = [&studio] { studio.emplace(); }, .draw = &drawn});
 }

@@ -40,11 +40,6 @@ char lowered(char letter) {
   return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
 }
 
-bool equalIgnoringCase(std::string_view a, std::string_view b) {
-  return std::equal(a.begin(), a.end(), b.begin(), b.end(),
-                    [](char x, char y) { return lowered(x) == lowered(y); });
-}
-
 /// What the letters behind an angle mean: `positive` and `negative` in lower case.
 struct Hemispheres {
   char positive;
@@ -52,8 +47,7 @@ struct Hemispheres {
 };
 
 /// Degrees with a sign, or with a hemisphere's letter behind them, as radians.
-double readAngle(std::string_view what, std::string_view text, double most, Hemispheres letters,
-                 std::string_view accepted) {
+std::optional<double> angleOf(std::string_view text, double most, Hemispheres letters) {
   constexpr std::string_view degreeSign = "°";
   std::string_view number = text;
   const char letter = number.empty() ? '\0' : lowered(number.back());
@@ -69,17 +63,27 @@ double readAngle(std::string_view what, std::string_view text, double most, Hemi
   }
   const std::optional<double> degrees = numberOf(number);
   if (!degrees || std::abs(*degrees) > most || (hasLetter && std::signbit(*degrees))) {
-    refuse(what, text, accepted);
+    return std::nullopt;
   }
   const double radians = astro::radiansOf(*degrees);
   return hasLetter && letter == letters.negative ? -radians : radians;
 }
+
+constexpr double mostLatitude = 90.0;
+constexpr double mostLongitude = 180.0;
+constexpr Hemispheres northAndSouth{'n', 's'};
+constexpr Hemispheres eastAndWest{'e', 'w'};
 
 }  // namespace
 
 void refuse(std::string_view what, std::string_view text, std::string_view accepted) {
   throw UsageError(std::string(what) + ": " + inQuotes(text) + " is not accepted; give " +
                    std::string(accepted));
+}
+
+bool equalIgnoringCase(std::string_view a, std::string_view b) {
+  return std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                    [](char x, char y) { return lowered(x) == lowered(y); });
 }
 
 std::optional<double> numberOf(std::string_view text) {
@@ -136,19 +140,33 @@ std::int64_t readMonthIndex(std::string_view text) {
 double readHour(std::string_view text) {
   const std::optional<double> hour = astro::hourFromText(text);
   if (!hour) {
-    refuse("--hour", text, "hours from 0 to 24 such as 18.25, or 18:15");
+    refuse("--hour", text, acceptedHour);
   }
   return *hour;
 }
 
 double readLatitude(std::string_view text) {
-  return readAngle("--lat", text, 90.0, {'n', 's'},
-                   "degrees from -90 to 90, or 0 to 90 with N or S such as 40.5N");
+  const std::optional<double> latitude = latitudeOf(text);
+  if (!latitude) {
+    refuse("--lat", text, "degrees from -90 to 90, or 0 to 90 with N or S such as 40.5N");
+  }
+  return *latitude;
+}
+
+std::optional<double> latitudeOf(std::string_view text) {
+  return angleOf(text, mostLatitude, northAndSouth);
 }
 
 double readLongitude(std::string_view text) {
-  return readAngle("--long", text, 180.0, {'e', 'w'},
-                   "degrees from -180 to 180, or 0 to 180 with E or W such as 20.9W");
+  const std::optional<double> longitude = longitudeOf(text);
+  if (!longitude) {
+    refuse("--long", text, "degrees from -180 to 180, or 0 to 180 with E or W such as 20.9W");
+  }
+  return *longitude;
+}
+
+std::optional<double> longitudeOf(std::string_view text) {
+  return angleOf(text, mostLongitude, eastAndWest);
 }
 
 double readStepDays(std::string_view text) {

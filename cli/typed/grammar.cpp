@@ -61,6 +61,7 @@ Grammar::Grammar()
   addCommand("base-time", "The moment as days since noon of the first day");
   CLI::App* const all = addCommand("all", "Every document, into one folder", " --out campaign");
   addValue(*all, "--out", "DIR", typed_.folder, "The folder; made where it is missing");
+  addBatch();
   addCommand("locations", "The saved places with their coordinates");
   addSchema();
   app_->add_subcommand("help", "Show what a command does, with an example")
@@ -90,7 +91,7 @@ const Typed& Grammar::parse(const std::vector<std::string>& arguments) {
               "moments");
   refuseTwoOf("--location", typed_.location, {"--lat", "--long"}, "places");
   typed_.hasPlace = isGiven("--lat") || isGiven("--long") || !typed_.location.empty();
-  refuseMomentBesideStretch();
+  refuseMomentBesideOthers();
   const std::vector<std::string> extras = app_->remaining(true);
   if (!extras.empty()) {
     refuseExtra(extras.front());
@@ -149,7 +150,7 @@ void Grammar::addOutput() {
       "Write to FILE instead of standard output; .html, .pdf and .png are drawn, .json, .jsonl "
       "and .csv are for programs");
   add("--format", "FORM", typed_.formats,
-      "The form, whatever the file is called; of all, several such as svg,pdf,csv");
+      "The form, whatever the file is called; of all and batch, several such as svg,pdf,csv");
   add("--size", "PIXELS", typed_.size, "How wide a PNG is, 16 to 10000 (720, a horoscope 1440)");
 }
 
@@ -157,16 +158,22 @@ bool Grammar::isGiven(const char* option) const {
   return app_->get_option(option)->count() > 0;
 }
 
-void Grammar::refuseMomentBesideStretch() const {
-  if (typed_.command.empty() ||
-      app_->get_subcommand(typed_.command)->get_option_no_throw("--from") == nullptr) {
-    return;
-  }
-  for (const char* const option : {"--base-time", "--year", "--month", "--day", "--hour"}) {
-    if (isGiven(option)) {
-      throw UsageError(std::string(option) + " is of one moment; " + typed_.command +
-                       " takes --from DATE and --to DATE, or --for N UNIT");
+void Grammar::refuseMomentBesideOthers() const {
+  const auto refuseIfGiven = [this](std::initializer_list<const char*> options,
+                                    const std::string& instead) {
+    for (const char* const option : options) {
+      if (isGiven(option)) {
+        throw UsageError(std::string(option) + " is of one moment; " + typed_.command + " takes " +
+                         instead);
+      }
     }
+  };
+  if (typed_.command == "batch") {
+    refuseIfGiven({"--base-time", "--year", "--month", "--day"}, "the date of each row");
+  } else if (!typed_.command.empty() &&
+             app_->get_subcommand(typed_.command)->get_option_no_throw("--from") != nullptr) {
+    refuseIfGiven({"--base-time", "--year", "--month", "--day", "--hour"},
+                  "--from DATE and --to DATE, or --for N UNIT");
   }
 }
 
@@ -228,6 +235,21 @@ void Grammar::addSchema() {
   schema->footer(
       "--format jsonl asks for the schema of a line.\n\nExample:\n"
       "  veyruna schema events -o events.schema.json");
+}
+
+void Grammar::addBatch() {
+  CLI::App* const batch =
+      app_->add_subcommand("batch", "Documents of many people or scenes, a row of a table each")
+          ->group("Commands");
+  batch->add_option("FILE.csv", typed_.table, "The table; - for standard input");
+  addValue(*batch, "--out", "DIR", typed_.folder, "The folder; made where it is missing");
+  addValue(*batch, "--documents", "COMMAND[,COMMAND...]", typed_.documents,
+           "What is written of each row (horoscope,star-map)");
+  batch->add_flag("--bw", typed_.blackAndWhite, "Horoscopes black on white");
+  batch->footer(
+      "The table's first line names its columns: name, date, hour, local and place, in any order.\n"
+      "Where a row says no hour or place, --hour, --local and --location do.\n\nExample:\n"
+      "  veyruna batch people.csv --out campaign --documents horoscope,hourly --format pdf");
 }
 
 void Grammar::addTable(const std::string& name, const std::string& summary,

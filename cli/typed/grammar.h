@@ -36,6 +36,8 @@ struct Typed {
   std::string step;
   std::string folder;
   std::string schema;     ///< whose schema is asked for; empty for a list of them
+  std::string table;      ///< the file of a batch; "-" for standard input
+  std::string documents;  ///< of a batch, as command words; empty for the usual
   std::string helpTopic;  ///< empty for the help of the whole
 };
 
@@ -65,11 +67,12 @@ class Grammar {
                               const std::string& exampleEnd);
   void addEvents();
   void addSchema();
+  void addBatch();
   void addTable(const std::string& name, const std::string& summary, const std::string& example);
   [[nodiscard]] std::string commandNames() const;
   [[nodiscard]] std::string chosenCommand() const;
   [[nodiscard]] bool isGiven(const char* option) const;
-  void refuseMomentBesideStretch() const;
+  void refuseMomentBesideOthers() const;
   void refuseTwoOf(const char* whole, const std::string& typed,
                    std::initializer_list<const char*> parts, const char* what) const;
   /// The commands that have an option, joined by "or".

@@ -71,7 +71,7 @@ std::string rightAligned(const std::string& text, qsizetype width) {
 }
 
 /// "Manual" is found without the list of places, which may be unreadable.
-CityPreset placeNamed(const std::string& name) {
+CityPreset placeNamed(const std::string& name, const std::string& what) {
   const QString wanted = QString::fromStdString(name).trimmed();
   const auto isWanted = [&wanted](const CityPreset& place) {
     return model::isSameName(place.name, wanted);
@@ -86,7 +86,7 @@ CityPreset placeNamed(const std::string& name) {
     for (const CityPreset& place : places) {
       known += (known.empty() ? "" : ", ") + listedName(place).toStdString();
     }
-    throw UsageError("--location: " + inQuotes(name) + " is not a saved place; known are " + known);
+    throw UsageError(what + ": " + inQuotes(name) + " is not a saved place; known are " + known);
   }
   return *found;
 }
@@ -98,10 +98,10 @@ Place placeAt(double latitude, double longitude) {
           coordinate(latitude, 'N', 'S') + "  " + coordinate(longitude, 'E', 'W')};
 }
 
-Place savedPlace(const std::string& name) {
-  const CityPreset place = placeNamed(name);
+Place savedPlace(const std::string& name, const std::string& what) {
+  const CityPreset place = placeNamed(name, what);
   if (!model::isPlaceWithinReach(place.latitude, place.longitude)) {
-    throw UsageError("--location: " + inQuotes(name) +
+    throw UsageError(what + ": " + inQuotes(name) +
                      " is not on the globe; its stored coordinates are beyond 1000 radians");
   }
   // The coordinates under "Manual" say more than that word.

@@ -21,8 +21,9 @@ Place placeAt(double latitude, double longitude);
 /// The saved place of that name in any letter case; "Manual" is the stored manual fields, and needs
 /// no list. Reads the person's own files and writes nothing; without a file of places, those of a
 /// first start.
-/// Throws UsageError that lists the known names, or std::runtime_error where the file is no list.
-Place savedPlace(const std::string& name);
+/// Throws UsageError in which `what` names what was typed and which lists the known names, or
+/// std::runtime_error where the file is no list.
+Place savedPlace(const std::string& name, const std::string& what = "--location");
 
 /// What stands for every saved place where several may be named.
 inline constexpr std::string_view everyPlace = "all";

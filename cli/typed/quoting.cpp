@@ -73,6 +73,17 @@ void appendHexadecimal(std::string& out, std::string_view bytes) {
 
 }  // namespace
 
+bool isUtf8(std::string_view text) {
+  while (!text.empty()) {
+    const std::size_t length = characterLength(text);
+    if (length == 0) {
+      return false;
+    }
+    text.remove_prefix(length);
+  }
+  return true;
+}
+
 std::string inQuotes(std::string_view text) {
   constexpr std::size_t longest = 120;
   std::string out = "\"";

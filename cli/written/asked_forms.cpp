@@ -91,7 +91,7 @@ Form formOfOne(const Typed& typed, Kind kind) {
 }  // namespace
 
 std::vector<Form> askedForms(const Typed& typed, Kind kind) {
-  if (typed.command == "all") {
+  if (typed.command == "all" || typed.command == "batch") {
     return typed.formats.empty() ? std::vector{Form::svg, Form::text} : listedForms(typed.formats);
   }
   const Form form = formOfOne(typed, kind);

@@ -73,7 +73,7 @@ std::vector<std::string> environmentWith(const std::vector<std::string>& changes
 /// In the child, between fork and exec: calls of the system only.
 [[noreturn]] void become(const Invocation& how, int program, int out, int err, char* const* argv,
                          char* const* envp) {
-  const int in = open("/dev/null", O_RDONLY);
+  const int in = open(how.standardInput.c_str(), O_RDONLY);
   bool isReady = dup2(in, STDIN_FILENO) == STDIN_FILENO && dup2(err, STDERR_FILENO) >= 0;
   if (how.closesStandardOutput) {
     close(STDOUT_FILENO);

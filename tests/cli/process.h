@@ -6,11 +6,12 @@
 
 namespace veyruna::tests {
 
-/// How the command is started. Its standard input is empty.
+/// How the command is started.
 struct Invocation {
   std::vector<std::string> arguments = {};
   std::vector<std::string> environment = {};  ///< "NAME=text", over what the tests run under
   std::string folder = {};                    ///< where it works; the tests' own where empty
+  std::string standardInput = "/dev/null";    ///< an existing file
   std::string standardOutput = {};            ///< an existing file; a pipe where empty
   bool closesStandardOutput = false;          ///< it starts with none at all
   bool outputOnTerminal = false;              ///< standard output is a terminal, not a pipe

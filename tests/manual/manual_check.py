@@ -9,6 +9,7 @@ Prints a line for each fault; exit status 1 where there is one."""
 import os
 import re
 import shlex
+import shutil
 import subprocess
 import sys
 import tempfile
@@ -160,6 +161,8 @@ def faults_of(manual, veyruna):
     yield from (f"{name} {fault}" for name, page in pages.items() for fault in page.faults)
     yield from check_links(manual, pages)
     with tempfile.TemporaryDirectory() as home:
+        for table in manual.glob("*.csv"):
+            shutil.copy(table, home)
         program = Program(veyruna, home)
         yield from check_examples(pages, program)
         yield from check_command_line(pages["command-line.html"], program)

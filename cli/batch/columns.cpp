@@ -1,0 +1,68 @@
+#include "cli/batch/columns.h"
+
+#include <algorithm>
+
+#include "cli/typed/arguments.h"
+#include "cli/typed/errors.h"
+#include "cli/typed/quoting.h"
+
+namespace veyruna::cli {
+
+namespace {
+
+std::string listed(const std::vector<std::string>& names) {
+  std::string text;
+  for (const std::string& name : names) {
+    text += (text.empty() ? "" : ", ") + inQuotes(name);
+  }
+  return text;
+}
+
+std::string allColumns() {
+  std::string text;
+  for (const std::string_view name : columnNames) {
+    text.append(text.empty() ? "" : ", ").append(name);
+  }
+  return text;
+}
+
+}  // namespace
+
+Columns::Columns(const CsvRecord& header, bool needsPlace) : width_(header.fields.size()) {
+  for (std::size_t i = 0; i < header.fields.size(); ++i) {
+    const auto* const name = std::ranges::find_if(columnNames, [&](std::string_view known) {
+      return equalIgnoringCase(known, header.fields[i]);
+    });
+    if (name == columnNames.end()) {
+      continue;
+    }
+    std::optional<std::size_t>& index =
+        indices_.at(static_cast<std::size_t>(name - columnNames.begin()));
+    if (index) {
+      throw UsageError("the header has the column " + inQuotes(*name) +
+                       " twice: " + listed(header.fields));
+    }
+    index = i;
+  }
+  for (const Column column : {Column::name, Column::date, Column::place}) {
+    if (!indexOf(column) && (column != Column::place || needsPlace)) {
+      throw UsageError("the column " + inQuotes(columnNames.at(static_cast<std::size_t>(column))) +
+                       " is missing; the header has " + listed(header.fields) + ", known are " +
+                       allColumns());
+    }
+  }
+}
+
+std::string_view Columns::textIn(const CsvRecord& record, Column column) const {
+  const std::optional<std::size_t>& index = indexOf(column);
+  return index && *index < record.fields.size() ? std::string_view(record.fields[*index])
+                                                : std::string_view();
+}
+
+bool Columns::isOverfull(const CsvRecord& record) const {
+  const std::size_t width = std::min(width_, record.fields.size());
+  return std::any_of(record.fields.begin() + static_cast<std::ptrdiff_t>(width),
+                     record.fields.end(), [](const std::string& field) { return !field.empty(); });
+}
+
+}  // namespace veyruna::cli

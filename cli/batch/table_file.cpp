@@ -1,0 +1,57 @@
+#include "cli/batch/table_file.h"
+
+#include <array>
+#include <cerrno>
+#include <fcntl.h>
+#include <stdexcept>
+#include <system_error>
+#include <unistd.h>
+
+#include "cli/typed/quoting.h"
+#include "files/descriptor.h"
+
+namespace veyruna::cli {
+
+namespace {
+
+constexpr std::size_t mostBytes = std::size_t{256} << 20U;
+
+/// A descriptor of its own, which can be closed.
+files::Descriptor opened(const std::string& file) {
+  return files::Descriptor(file == "-" ? fcntl(STDIN_FILENO, F_DUPFD_CLOEXEC, STDERR_FILENO + 1)
+                                       : open(file.c_str(), O_RDONLY | O_CLOEXEC));
+}
+
+std::string contentOf(const files::Descriptor& file) {
+  std::string content;
+  std::array<char, 65536> piece{};
+  for (;;) {
+    const ssize_t count = read(file.number(), piece.data(), piece.size());
+    if (count == 0) {
+      return content;
+    }
+    if (count < 0 && errno != EINTR) {
+      files::throwErrno();
+    }
+    content.append(piece.data(), count > 0 ? static_cast<std::size_t>(count) : 0);
+    if (content.size() > mostBytes) {
+      throw std::system_error(EFBIG, std::generic_category());
+    }
+  }
+}
+
+}  // namespace
+
+std::string contentOfTable(const std::string& file) {
+  try {
+    return contentOf(opened(file));
+  } catch (const std::system_error& error) {
+    throw std::runtime_error("cannot read " + nameOfTable(file) + ": " + error.code().message());
+  }
+}
+
+std::string nameOfTable(const std::string& file) {
+  return file == "-" ? "standard input" : inQuotes(file);
+}
+
+}  // namespace veyruna::cli
