@@ -20,7 +20,7 @@ using tests::run;
 using tests::writeFile;
 using Names = std::vector<std::string>;
 
-std::size_t countOf(const std::string& text, const std::string& part) {
+std::size_t timesIn(const std::string& text, const std::string& part) {
   std::size_t count = 0;
   for (std::size_t at = text.find(part); at != std::string::npos; at = text.find(part, at + 1)) {
     ++count;
@@ -42,7 +42,7 @@ class BatchTrouble : public tests::Batch {
     EXPECT_EQ(outcome.status, cli::usageWrong);
     EXPECT_EQ(outcome.out, "");
     EXPECT_TRUE(outcome.err.starts_with("veyruna: ")) << outcome.err;
-    EXPECT_EQ(countOf(outcome.err, "\n"), 1U) << outcome.err;
+    EXPECT_EQ(timesIn(outcome.err, "\n"), 1U) << outcome.err;
     EXPECT_TRUE(has(outcome.err, quoted) && has(outcome.err, accepted)) << outcome.err;
     EXPECT_FALSE(fs::exists(out));
   }
@@ -121,8 +121,8 @@ TEST_F(BatchTrouble, AllThatIsWrongWithARowIsSaid) {
   const Outcome outcome = batch("name,date,hour,local,place\n,1-1-32,99,?,Nowhere\n");
   EXPECT_EQ(outcome.status, cli::writeFailed);
   for (const std::string column : {"name", "date", "hour", "local", "place"}) {
-    EXPECT_EQ(countOf(outcome.err, column + ": \""), 1U) << outcome.err;
-    EXPECT_EQ(countOf(outcome.out, column + ": \""), 1U) << outcome.out;
+    EXPECT_EQ(timesIn(outcome.err, column + ": \""), 1U) << outcome.err;
+    EXPECT_EQ(timesIn(outcome.out, column + ": \""), 1U) << outcome.out;
   }
   EXPECT_TRUE(outcome.out.ends_with("\n0 rows of 1 written, 0 files\n")) << outcome.out;
   EXPECT_FALSE(fs::exists(out)) << "nothing is made for bad rows alone";
@@ -161,7 +161,7 @@ TEST_F(BatchTrouble, AFolderThatTakesNothingIsReportedOnce) {
   writeFile(out, "no folder");
   const Outcome noFolder = batch(rows);
   EXPECT_EQ(noFolder.status, cli::writeFailed);
-  EXPECT_EQ(countOf(noFolder.err, "\n"), 1U) << noFolder.err;
+  EXPECT_EQ(timesIn(noFolder.err, "\n"), 1U) << noFolder.err;
   EXPECT_TRUE(has(noFolder.err, "folder \"" + out + "\": ")) << noFolder.err;
   fs::remove(out);
   fs::create_directory(out);
@@ -206,8 +206,8 @@ TEST_F(BatchTrouble, AFullDiskIsSaidOnce) {
   }
   umount2(out.c_str(), MNT_DETACH);
   EXPECT_EQ(outcome.status, cli::writeFailed);
-  EXPECT_EQ(countOf(outcome.err, "No space left on device"), 1U) << outcome.err;
-  EXPECT_EQ(countOf(outcome.err, "\n"), 2U) << outcome.err;
+  EXPECT_EQ(timesIn(outcome.err, "No space left on device"), 1U) << outcome.err;
+  EXPECT_EQ(timesIn(outcome.err, "\n"), 2U) << outcome.err;
   EXPECT_TRUE(has(outcome.out, "not written: the disk is full\n")) << outcome.out;
   EXPECT_GT(names.size(), 0U);
   EXPECT_LT(names.size(), 40U);
