@@ -1,6 +1,8 @@
 #include "cli/written/progress.h"
 
+#include <algorithm>
 #include <cstdio>
+#include <string>
 #include <unistd.h>
 
 namespace veyruna::cli {
@@ -9,6 +11,8 @@ namespace {
 
 /// Of work that goes on one by one: the clock would cost more than it.
 constexpr std::int64_t advancesBetweenLooks = 256;
+
+constexpr std::size_t barWidth = 20;
 
 }  // namespace
 
@@ -42,8 +46,11 @@ void Progress::showIfDue() {
   }
   isShown_ = true;
   nextUpdate_ = Clock::now() + std::chrono::milliseconds(200);
-  std::fprintf(stderr, "\r%lld of %lld %.*s, %lld %%\x1b[K", static_cast<long long>(done_),
-               static_cast<long long>(total_), static_cast<int>(unit_.size()), unit_.data(),
+  std::string bar(barWidth, '.');
+  std::fill_n(bar.begin(), done_ * static_cast<std::int64_t>(barWidth) / total_, '#');
+  std::fprintf(stderr, "\r[%s] %lld of %lld %.*s, %lld %%\x1b[K", bar.c_str(),
+               static_cast<long long>(done_), static_cast<long long>(total_),
+               static_cast<int>(unit_.size()), unit_.data(),
                static_cast<long long>(done_ * 100 / total_));
   std::fflush(stderr);
 }

@@ -6,8 +6,8 @@
 
 namespace veyruna::cli {
 
-/// Shows how far long work is, on standard error, after its first second. Silent where standard
-/// error is no terminal, or where what is made scrolls through it.
+/// Shows how far long work is, as a bar and in figures, on standard error, after its first second.
+/// Silent where standard error is no terminal, or where what is made scrolls through it.
 class Progress {
  public:
   /// `total` of `unit`, such as "rows"; `showsDocument` says that what is made goes to standard

@@ -115,7 +115,7 @@ std::string progressShown(bool isOutOnTerminal, bool showsDocument) {
 }
 
 TEST(Progress, StaysOutOfATableOnTheSameTerminal) {
-  const std::string line = "\r256 of 1000 rows, 25 %\x1b[K\r\x1b[K";
+  const std::string line = "\r[#####...............] 256 of 1000 rows, 25 %\x1b[K\r\x1b[K";
   EXPECT_EQ(progressShown(true, true), "");
   EXPECT_EQ(progressShown(true, false), line);  // the table goes to a file
   EXPECT_EQ(progressShown(false, true), line);
