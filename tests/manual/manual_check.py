@@ -25,7 +25,7 @@ class Page(HTMLParser):
     def __init__(self, path):
         super().__init__(convert_charrefs=True)
         self.anchors, self.links, self.sources, self.faults = set(), [], [], []
-        self.examples, self.first_cells = [], []
+        self.examples, self.writings, self.first_cells = [], [], []
         self._open, self._cells_in_row, self._collects = [], 0, None
         self.feed(path.read_text(encoding="utf-8"))
         self.close()
@@ -59,6 +59,9 @@ class Page(HTMLParser):
         if tag == "pre" and "data-command" in given:
             self.examples.append([given["data-command"], ""])
             self._collects = "example"
+        if tag == "pre" and "data-writes" in given:
+            self.writings.append([given["data-writes"], ""])
+            self._collects = "writing"
 
     def handle_endtag(self, tag):
         if tag in VOID:
@@ -73,6 +76,8 @@ class Page(HTMLParser):
             self.first_cells[-1] += text
         elif self._collects == "example":
             self.examples[-1][1] += text
+        elif self._collects == "writing":
+            self.writings[-1][1] += text
 
 
 def check_links(manual, pages):
@@ -122,6 +127,14 @@ class Program:
         )
         return [line.rstrip() for line in (result.stdout + result.stderr).splitlines()]
 
+    def has(self, file):
+        return os.path.exists(os.path.join(self._home, file))
+
+    def clear(self, files):
+        for file in files:
+            if self.has(file):
+                os.remove(os.path.join(self._home, file))
+
     def commands(self):
         text = "\n".join(self.lines("--help"))
         return re.findall(r"^  ([a-z][a-z-]*)  ", text.split("Commands:")[1], re.MULTILINE)
@@ -147,6 +160,20 @@ def check_examples(pages, program):
                     break
 
 
+def check_writings(pages, program):
+    """Faults of commands that are shown because they write a file."""
+    for name, page in pages.items():
+        for files, commands in page.writings:
+            program.clear(files.split())
+            for command in commands.split("\n"):
+                program.lines(*shlex.split(command)[1:])
+            yield from (
+                f"{name}: `{commands}` does not write {file}"
+                for file in files.split()
+                if not program.has(file)
+            )
+
+
 def check_command_line(page, program):
     """Differences between the tables of the page and what the program offers."""
     words = {word for cell in page.first_cells for word in re.split(r"[\s,]+", cell)}
@@ -165,6 +192,7 @@ def faults_of(manual, veyruna):
             shutil.copy(table, home)
         program = Program(veyruna, home)
         yield from check_examples(pages, program)
+        yield from check_writings(pages, program)
         yield from check_command_line(pages["command-line.html"], program)
 
 

@@ -64,6 +64,10 @@ class ManualCheckTest(unittest.TestCase):
         self.replace("tables.html", "151:05", "151:06")
         self.expect("tables.html", "does not write", "151:06")
 
+    def test_example_that_leaves_no_file(self):
+        self.replace("command-line.html", "-o birth.svg", "-o berth.svg")
+        self.expect("command-line.html", "does not write birth.svg")
+
     def test_lacking_option(self):
         self.replace("command-line.html", "<tr><td><code>--step DAYS</code>", "<tr><td>")
         self.expect("lacks --step")
