@@ -25,7 +25,8 @@ struct BoundedHeight {
   /// For how long it cannot come to a level.
   [[nodiscard]] double daysUntil(double level) const {
     const double above = height.sine - level;
-    return daysUntilReached(std::abs(above), above < 0.0 ? -height.rate : height.rate, bend);
+    // What stands exactly at the level is not above it, and may be about to be.
+    return daysUntilReached(std::abs(above), above > 0.0 ? height.rate : -height.rate, bend);
   }
 };
 

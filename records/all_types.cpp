@@ -2,6 +2,7 @@
 
 #include "records/document_records.h"
 #include "records/event_record.h"
+#include "records/search_record.h"
 
 namespace veyruna::records {
 
@@ -20,11 +21,12 @@ const RecordType& locationsType() {
   return type;
 }
 
-constexpr std::array<TypeEntry, 6> allTypes = {{{"conjunctions", conjunctionsType},
+constexpr std::array<TypeEntry, 7> allTypes = {{{"conjunctions", conjunctionsType},
                                                 {"ephemeris", ephemerisType},
                                                 {"events", eventsType},
                                                 {"locations", locationsType},
                                                 {"moment", momentType},
-                                                {"positions", positionsType}}};
+                                                {"positions", positionsType},
+                                                {"search", searchType}}};
 
 }  // namespace veyruna::records

@@ -58,6 +58,7 @@ Grammar::Grammar()
   addTable("ephemeris", "Moon and sun at moments of your own", "--rows 24 --step 1/24");
   addTable("conjunctions", "All bodies at moments of your own", "--rows 720 --step 10");
   addEvents();
+  addSearch();
   addCommand("base-time", "The moment as days since noon of the first day");
   CLI::App* const all = addCommand("all", "Every document, into one folder", " --out campaign");
   addValue(*all, "--out", "DIR", typed_.folder, "The folder; made where it is missing");
@@ -225,6 +226,17 @@ void Grammar::addEvents() {
            "Instead of all: of " + kinds +
                "; conjunction:all and opposition:all pair the sun and "
                "the moon, too");
+}
+
+void Grammar::addSearch() {
+  CLI::App* const search = addStretchCommand(
+      "search", "When all of these conditions hold",
+      " --from 720-01-01 --for 10 years --location Ebb 'keep twisted' 'ascending sign Wen' night");
+  search->add_option("CONDITION", typed_.conditions,
+                     "Such as 'dunmor conjunct galvi', each in quotes; the manual lists them all");
+  addValue(*search, "-f", "FILE", typed_.conditionFile, "Further conditions, one a line");
+  search->add_flag("--explain", typed_.isExplained, "First say what is asked, and what is not");
+  addValue(*search, "--first", "N", typed_.first, "No more than the first N answers");
 }
 
 void Grammar::addSchema() {

@@ -22,15 +22,19 @@ struct Typed {
   std::string baseTime;  ///< empty where the moment is given as a date
   std::string latitude = "40.5";
   std::string longitude = "-20.9";
-  std::string location;    ///< empty where the place is given as coordinates
-  bool hasPlace = false;   ///< whether a place was typed in any form
-  std::string from;        ///< of a stretch of time, as the next two
-  std::string to;          ///< empty where its length is given
-  std::string length;      ///< "3 months"; empty where its end is given
-  std::string kinds;       ///< of events; empty for all
-  std::string file = "-";  ///< "-" for standard output
-  std::string formats;     ///< empty where the file's ending, or nothing, says the form
-  std::string size;        ///< empty for a picture as wide as the page
+  std::string location;                 ///< empty where the place is given as coordinates
+  bool hasPlace = false;                ///< whether a place was typed in any form
+  std::string from;                     ///< of a stretch of time, as the next two
+  std::string to;                       ///< empty where its length is given
+  std::string length;                   ///< "3 months"; empty where its end is given
+  std::string kinds;                    ///< of events; empty for all
+  std::vector<std::string> conditions;  ///< of a search
+  std::string conditionFile;            ///< empty for none
+  bool isExplained = false;             ///< whether what is asked is to be told first
+  std::string first;                    ///< how many answers at most; empty for all
+  std::string file = "-";               ///< "-" for standard output
+  std::string formats;  ///< empty where the file's ending, or nothing, says the form
+  std::string size;     ///< empty for a picture as wide as the page
   bool blackAndWhite = false;
   std::string rows;
   std::string step;
@@ -66,6 +70,7 @@ class Grammar {
   CLI::App* addStretchCommand(std::string_view name, std::string_view summary,
                               const std::string& exampleEnd);
   void addEvents();
+  void addSearch();
   void addSchema();
   void addBatch();
   void addTable(const std::string& name, const std::string& summary, const std::string& example);

@@ -53,7 +53,8 @@ std::vector<std::string> withValuesAttached(const CLI::App& app,
                        ", which is an option; where it is meant, write " +
                        inQuotes(name + "=" + value));
     }
-    attached.push_back(name == "-o" ? name + value : name + "=" + value);
+    constexpr std::size_t shortLength = 2;  // "-o"
+    attached.push_back(name.size() == shortLength ? name + value : name + "=" + value);
   }
   return attached;
 }

@@ -50,18 +50,6 @@ bool isControl(std::string_view character) {
          (first == 0xC2 && static_cast<unsigned char>(character[1]) < 0xA0);
 }
 
-/// Whether every character of a text can stand on a line as it is.
-bool isPlain(std::string_view text) {
-  for (std::size_t done = 0; done < text.size();) {
-    const std::size_t length = characterLength(text.substr(done));
-    if (length == 0 || isControl(text.substr(done, length))) {
-      return false;
-    }
-    done += length;
-  }
-  return true;
-}
-
 void appendHexadecimal(std::string& out, std::string_view bytes) {
   constexpr std::string_view digits = "0123456789abcdef";
   for (const char byte : bytes) {
@@ -109,7 +97,37 @@ std::string inQuotes(std::string_view text) {
 }
 
 std::string asListed(std::string_view name) {
-  return isPlain(name) ? std::string(name) : inQuotes(name);
+  return charactersOnALine(name) ? std::string(name) : inQuotes(name);
+}
+
+std::optional<std::string> asShellWord(std::string_view text) {
+  if (!charactersOnALine(text)) {
+    return std::nullopt;
+  }
+  const auto isHarmless = [](char c) {
+    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') ||
+           std::string_view("-_.,/:@%+").find(c) != std::string_view::npos;
+  };
+  if (!text.empty() && std::ranges::all_of(text, isHarmless)) {
+    return std::string(text);
+  }
+  std::string word = "'";
+  for (const char c : text) {
+    word += c == '\'' ? std::string(R"('\'')") : std::string(1, c);
+  }
+  return word + "'";
+}
+
+std::optional<std::size_t> charactersOnALine(std::string_view text) {
+  std::size_t characters = 0;
+  for (std::size_t done = 0; done < text.size(); ++characters) {
+    const std::size_t length = characterLength(text.substr(done));
+    if (length == 0 || isControl(text.substr(done, length))) {
+      return std::nullopt;
+    }
+    done += length;
+  }
+  return characters;
 }
 
 }  // namespace veyruna::cli

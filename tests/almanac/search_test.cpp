@@ -1,6 +1,7 @@
 // What the search hands on at the edges of ranges and of the world.
 #include "almanac/search.h"
 
+#include <algorithm>
 #include <cmath>
 #include <gtest/gtest.h>
 #include <limits>
@@ -165,6 +166,25 @@ TEST(Search, AnEclipseLastsWhileItIsListed) {
         ++i;
       });
   EXPECT_EQ(i, spans.size());
+}
+
+TEST(Search, WhatStandsExactlyInTheHorizonMayBeAboutToRise) {
+  // One of the search's steps ends where the sine of the sun's altitude is 0 to the last bit.
+  const astro::Observer place{
+      .baseTime = 0.0, .latitude = astro::radiansOf(69.0), .longitude = 0.0};
+  const Range year{259'919.5, 260'279.5};
+  const auto alone = spansOf("thessil above horizon", year, place);
+  const auto together = spansOf(
+      "any of (any of (Bessim above horizon; thessil above horizon); month Dovri; month Oskam; "
+      "all of (not power balanced; not ivro in Lothac; galvi natal feeble; night))",
+      year, place, true);
+  const auto beginsAt = [](const std::vector<Span>& spans, double moment) {
+    return std::ranges::any_of(spans, [moment](const Span& span) {
+      return std::abs(span.begin - moment) < edgeTolerance;
+    });
+  };
+  EXPECT_TRUE(beginsAt(alone, 260'246.844308));
+  EXPECT_TRUE(beginsAt(together, 260'246.844308));
 }
 
 TEST(Search, StopsWhenNothingMoreIsWanted) {

@@ -68,6 +68,12 @@ COMMANDS = {
         "positions --base-time -7000.125 --long 12E",
         "positions --year 2777777 --month 12 --hour 23:59",
     ],
+    "search": [
+        "search --from 720-01-01 --for 3 years eclipse",
+        "search --from 720-01-01 --for 1 month --lat 66 --long 3E night",
+        "search --from 720-01-01 --for 1 month --location Ebb twilight --first 7",
+        "search --from @-10 --to @10 --lat -33 day",
+    ],
 }
 
 
