@@ -24,7 +24,6 @@ constexpr int spacing = 16;
 constexpr int padding = 20;
 
 QVBoxLayout* sheetLayout(QDialog* sheet) {
-  sheet->setWindowModality(Qt::WindowModal);
   sheet->setAttribute(Qt::WA_DeleteOnClose);
   sheet->setMinimumWidth(sheetWidth);
   auto* const column = new QVBoxLayout(sheet);

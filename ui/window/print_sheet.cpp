@@ -17,7 +17,6 @@ PrintSheet::PrintSheet(const QStringList& printers, const QString& usual, QWidge
   constexpr int mostCopies = 99;
   setObjectName(QStringLiteral("printSheet"));
   setAttribute(Qt::WA_DeleteOnClose);
-  setWindowModality(Qt::WindowModal);
   setWindowTitle(tr("Print"));
   printer_->addItems(printers);
   printer_->setCurrentText(usual);

@@ -3,6 +3,7 @@
 #include <QClipboard>
 #include <QLineEdit>
 #include <QLocale>
+#include <QPaintEvent>
 #include <QSignalSpy>
 #include <QTest>
 #include <QWheelEvent>
@@ -10,6 +11,7 @@
 #include <limits>
 #include <tuple>
 
+#include "tests/support/patience.h"
 #include "ui/controls/angle_field.h"
 #include "ui/controls/stepper_field.h"
 
@@ -66,6 +68,46 @@ TEST_F(YearField, AStepFromOutsideItsRangeLandsOnTheBorder) {
     ASSERT_EQ(edits.count(), 1) << stored;
     EXPECT_EQ(edits.at(0).at(0).toLongLong(), border);
   }
+}
+
+TEST_F(YearField, WhatAStepLeadsToIsSelectedToBeTypedOver) {
+  field.show(720);
+  QTest::keyClick(&field, Qt::Key_Up);
+  EXPECT_EQ(field.findChild<QLineEdit*>()->selectedText(), QStringLiteral("721"));
+  QTest::keyClicks(&field, QStringLiteral("9"));
+  EXPECT_EQ(shown(), QStringLiteral("9"));
+}
+
+/// The part of a field that was painted.
+struct Painted : QObject {
+  QRegion part;
+
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() == QEvent::Paint) {
+      part += static_cast<QPaintEvent*>(event)->region();
+    }
+    return QObject::eventFilter(watched, event);
+  }
+};
+
+TEST_F(YearField, ItsArrowsArePaintedAnewWhenItsNumberChanges) {
+  field.resize(100, 24);
+  field.setVisible(true);
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(&field, tests::patienceMilliseconds));
+  Painted painted;
+  field.installEventFilter(&painted);
+  const auto arrowsArePainted = [&] {
+    QCoreApplication::processEvents();
+    return painted.part.contains(QPoint(field.width() - 8, field.height() - 6));
+  };
+  while (arrowsArePainted()) {  // of its first showing
+    painted.part = {};
+  }
+  field.show(2000);
+  EXPECT_TRUE(arrowsArePainted()) << "by showing";
+  painted.part = {};
+  field.stepDown();
+  EXPECT_TRUE(arrowsArePainted()) << "by stepping";
 }
 
 TEST_F(YearField, IsTypedWithAndWithoutItsWord) {
@@ -269,6 +311,16 @@ TEST_F(LatitudeField, ALetterOrAMinusTurnsItAndIsNotKept) {
   field.commit();
   ASSERT_EQ(edits.count(), 1);
   EXPECT_EQ(edits.at(0).at(0).toDouble(), 12.0);
+}
+
+TEST_F(LatitudeField, ALetterInTheMiddleOfTheNumberTurnsItToo) {
+  field.show(40.5);
+  field.setCursorPosition(1);
+  QTest::keyClicks(&field, QStringLiteral("s"));
+  ASSERT_EQ(turns.count(), 1);
+  EXPECT_FALSE(turns.at(0).at(0).toBool());
+  EXPECT_EQ(field.text(), local("40.5"));
+  EXPECT_FALSE(isMarked(field));
 }
 
 TEST_F(LatitudeField, ALetterAloneLeavesTheNumber) {

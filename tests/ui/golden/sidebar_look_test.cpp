@@ -54,9 +54,11 @@ TEST_P(SidebarLook, CalculateInItsStates) {
   button->clearFocus();
   shown.model.recalculate();
   rows.append({pictureOf(*button)});
-  // As its timer turns it, a spoke at a time.
+  // As its timer turns it, a spoke at a time, and only while there is something to see.
   auto* const progress = shown.find<QProgressBar>("progress");
   auto* const turning = progress->findChild<QTimer*>();
+  EXPECT_TRUE(turning->isActive());
+  EXPECT_EQ(turning->interval(), 80);
   QList<QImage> turns;
   for (int spoke = 0; spoke < 9; ++spoke) {
     turns.append(pictureOf(*progress));
@@ -64,6 +66,19 @@ TEST_P(SidebarLook, CalculateInItsStates) {
   }
   rows.append(turns);
   compare(rows, "calculate");
+  shown.tasks.runNext();
+  settle();
+  EXPECT_FALSE(turning->isActive());
+}
+
+TEST_P(SidebarLook, OnADesktopThatTurnsLightOrDark) {
+  pictureOf(sidebar());
+  pictureOf(*shown.find<QWidget>("tabSelector"));
+  QApplication::setPalette(GetParam() ? tests::lightPalette() : tests::darkPalette());
+  settle();
+  const std::string now = GetParam() ? "_light.png" : "_dark.png";
+  EXPECT_TRUE(tests::isGoldenLook(pictureOf(sidebar()), "sidebar" + now));
+  EXPECT_TRUE(tests::isGoldenLook(pictureOf(*shown.find<QWidget>("tabSelector")), "tabs" + now));
 }
 
 TEST_P(SidebarLook, ANumberAtItsLeastBetweenAndAtItsMost) {

@@ -86,6 +86,13 @@ TEST_F(WindowLayout, TheSidebarWhereSomethingIsRefused) {
   compare("sidebar_refusing.txt", sidebar());
 }
 
+TEST_F(WindowLayout, TheSidebarOnADesktopThatTurnsDark) {
+  shown.type("dayStepper", QStringLiteral("45"));
+  QApplication::setPalette(tests::darkPalette());
+  settle();
+  compare("sidebar_turned_dark.txt", sidebar());
+}
+
 TEST_F(WindowLayout, TheSidebarWhileItCalculates) {
   shown.model.setHour(3.5);
   shown.press("calculateButton");

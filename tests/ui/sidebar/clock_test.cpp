@@ -163,6 +163,17 @@ TEST_F(Clock, AKeyLeadsFromBetweenTheQuartersToTheNextOfThem) {
   }
 }
 
+TEST_F(Clock, AHandOnTheHandleLeadsToTheQuarterUnderIt) {
+  for (const int quarter : {46, 50, 49, 47}) {
+    model.setHour(12.1);
+    slider->setSliderDown(true);
+    slider->setSliderPosition(quarter);
+    slider->setSliderDown(false);
+    EXPECT_EQ(slider->value(), quarter);
+    EXPECT_EQ(model.hour(), quarter * 0.25);
+  }
+}
+
 TEST_F(Clock, AStepFromOutsideTheQuartersLandsOnTheirBorder) {
   for (const double hour : {23.99, 30.0}) {
     model.setHour(hour);

@@ -2,6 +2,7 @@
 #include <QLineEdit>
 #include <QPointer>
 #include <QPushButton>
+#include <QSignalSpy>
 #include <QTest>
 #include <cstdlib>
 #include <gtest/gtest.h>
@@ -67,6 +68,42 @@ TEST_F(Sheets, ReturnDeletesWhateverHasTheFocus) {
   QTest::keyClick(cancel, Qt::Key_Return);
   EXPECT_EQ(model.cities().size(), 13);
   EXPECT_EQ(model.selectedCityID(), model::manualCityID());
+}
+
+TEST_F(Sheets, ReturnOnCancelDeletesOnceAndCancelsNothing) {
+  model.setSelectedCityID(model.cities().at(1).id);
+  DeleteLocationSheet sheet(model, &window);
+  sheet.setAttribute(Qt::WA_DeleteOnClose, false);
+  sheet.open();
+  const QSignalSpy deleted(&model, &model::AstronomyModel::citiesChanged);
+  const QSignalSpy ended(&sheet, &QDialog::finished);
+  QTest::keyClick(sheet.findChild<QWidget*>(QStringLiteral("cancelButton")), Qt::Key_Return);
+  EXPECT_EQ(model.cities().size(), 13);
+  EXPECT_EQ(deleted.count(), 1);
+  ASSERT_EQ(ended.count(), 1);
+  EXPECT_EQ(ended.at(0).at(0).toInt(), QDialog::Accepted);
+}
+
+TEST_F(Sheets, CancelClosesAndChangesNothing) {
+  const auto cancel = [](const QDialog& sheet) {
+    EXPECT_TRUE(sheet.isVisible());
+    EXPECT_EQ(sheet.windowModality(), Qt::WindowModal) << "the window waits for the answer";
+    QTest::mouseClick(sheet.findChild<QWidget*>(QStringLiteral("cancelButton")), Qt::LeftButton);
+    EXPECT_FALSE(sheet.isVisible());
+    EXPECT_EQ(sheet.result(), QDialog::Rejected);
+  };
+  QDialog* const save = openSave();
+  QTest::keyClicks(save->findChild<QWidget*>(QStringLiteral("nameField")),
+                   QStringLiteral("Harbour"));
+  cancel(*save);
+  EXPECT_EQ(model.selectedCityID(), model::manualCityID());
+  const QUuid id = model.cities().at(1).id;
+  model.setSelectedCityID(id);
+  auto* const remove = new DeleteLocationSheet(model, &window);
+  remove->open();
+  cancel(*remove);
+  EXPECT_EQ(model.selectedCityID(), id);
+  EXPECT_EQ(model.cities().size(), 14);
 }
 
 TEST_F(Sheets, EscapeDeletesNothing) {

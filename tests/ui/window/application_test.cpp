@@ -3,6 +3,7 @@
 
 #include <QAbstractSpinBox>
 #include <QDir>
+#include <QScreen>
 #include <QTest>
 
 #include "tests/model/disk.h"
@@ -47,6 +48,33 @@ TEST_F(Application, AnotherWindowStandsBesideTheFirstOnTheSameModel) {
   // Each has its own tab.
   first->selectTab(exports::OutputTab::positions);
   EXPECT_EQ(both[0]->selectedTab(), exports::OutputTab::starMap);
+}
+
+TEST_F(Application, AnotherWindowIsAsLargeAndALittleFurtherDown) {
+  MainView* const first = program.openWindow();
+  first->setGeometry(60, 70, 640, 500);
+  first->activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(first, tests::patienceMilliseconds));
+  const MainView* const second = program.openWindow();
+  EXPECT_EQ(second->frameGeometry().topLeft(), first->frameGeometry().topLeft() + QPoint(24, 24));
+  EXPECT_EQ(second->size(), first->size());
+}
+
+TEST_F(Application, AnotherWindowGoesToTheCornerWhereTooLittleOfItWouldBeSeen) {
+  MainView* const first = program.openWindow();
+  const QRect room = first->screen()->availableGeometry();
+  // A corner of 300 by 100 points is to be in sight.
+  for (const auto& [corner, isSeen] :
+       {std::pair(QPoint(300, 100), true), std::pair(QPoint(299, 100), false),
+        std::pair(QPoint(300, 99), false)}) {
+    first->resize(640, 500);
+    first->move(room.bottomRight() + QPoint(1, 1) - corner - QPoint(24, 24));
+    first->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(first, tests::patienceMilliseconds));
+    const MainView* const second = program.openWindow();
+    const QPoint beside = first->frameGeometry().topLeft() + QPoint(24, 24);
+    EXPECT_EQ(second->frameGeometry().topLeft(), isSeen ? beside : room.topLeft()) << corner.x();
+  }
 }
 
 TEST_F(Application, CloseClosesOneWindowAndQuitAllOfThem) {

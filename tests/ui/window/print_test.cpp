@@ -1,5 +1,6 @@
 // Printing through the real window and a print command that only writes down what it is given.
 #include <QComboBox>
+#include <QDialogButtonBox>
 #include <QDir>
 #include <QFile>
 #include <QLabel>
@@ -92,6 +93,30 @@ TEST_F(Printing, NothingIsPrintedWhereThePersonCancels) {
 TEST_F(Printing, WithoutAPrintCommandItSaysSo) {
   askToPrint();
   EXPECT_EQ(notice(), QStringLiteral("Not printed: this computer has no print command (lp)"));
+}
+
+TEST_F(Printing, TheUsualPrinterIsUnderstoodWhateverTheLanguage) {
+  install("lpstat",
+          "[ \"$1\" = -e ] && printf 'Attic\\nStudy\\n'\n"
+          "[ \"$1\" = -d ] && [ \"$LC_ALL\" = C ] && echo 'system default destination: Study'\n"
+          "[ \"$1\" = -d ] && [ \"$LC_ALL\" != C ] && echo 'Standardziel Study'\n"
+          "exit 0\n");
+  install("lp", "cat > /dev/null\n");
+  askToPrint();
+  const PrintSheet* const question = sheet();
+  ASSERT_NE(question, nullptr);
+  EXPECT_EQ(question->printer(), QStringLiteral("Study"));
+}
+
+TEST_F(Printing, CancelPrintsNothing) {
+  installPrinters();
+  askToPrint();
+  PrintSheet* const question = sheet();
+  ASSERT_NE(question, nullptr);
+  const auto* const buttons = question->findChild<QDialogButtonBox*>();
+  QTest::mouseClick(buttons->button(QDialogButtonBox::Cancel), Qt::LeftButton);
+  EXPECT_FALSE(question->isVisible());
+  EXPECT_EQ(contentOf("pages"), QByteArray("(no file)"));
 }
 
 TEST_F(Printing, WithoutAPrinterItSaysSo) {
