@@ -34,7 +34,7 @@ class PlainDesktop {
     type.setStyleStrategy(
         static_cast<QFont::StyleStrategy>(QFont::NoSubpixelAntialias | QFont::NoFontMerging));
     QApplication::setFont(type);
-    EXPECT_EQ(QFontInfo(type).family(), type.family())
+    EXPECT_EQ(QFontInfo(type).family().toStdString(), type.family().toStdString())
         << "install the package fonts-liberation: layouts are compared in its type";
     EXPECT_EQ(QGuiApplication::platformName(), QStringLiteral("offscreen"))
         << "set QT_QPA_PLATFORM=offscreen: layouts are compared on that platform";
