@@ -31,7 +31,7 @@ class ExportNotice final : public QWidget {
 
   QLabel* line_;
   QPushButton* openFolder_;
-  QTimer timeout_;
+  QTimer timeout_{this};
   QString folder_;
   bool isFailure_ = false;
 };

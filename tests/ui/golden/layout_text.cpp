@@ -58,6 +58,9 @@ QStringList windowTraits(const QWidget& widget) {
   if (widget.testAttribute(Qt::WA_TransparentForMouseEvents)) {
     traits.append(QStringLiteral("not for the mouse"));
   }
+  if (widget.hasFocus()) {
+    traits.append(QStringLiteral("has the focus"));
+  }
   if (widget.isWindow()) {
     traits.append(widget.windowType() == Qt::Dialog ? QStringLiteral("dialog")
                                                     : QStringLiteral("window"));

@@ -2,6 +2,8 @@
 #include <QDialog>
 #include <QLabel>
 #include <QStatusBar>
+#include <QTimer>
+#include <chrono>
 
 #include "tests/support/golden.h"
 #include "tests/ui/golden/layout_text.h"
@@ -15,14 +17,12 @@ namespace {
 
 struct SheetLayout : tests::PlainWindow {
   static void compare(const char* name, const QWidget& part) {
+    EXPECT_TRUE(QTest::qWaitFor([&part] { return part.window()->isActiveWindow(); },
+                                tests::patienceMilliseconds));
     settle();
     EXPECT_TRUE(tests::isGolden(std::string("ui/layouts/") + name, tests::layoutText(part)));
   }
-  QDialog& sheet(const char* name) {
-    auto* const found = shown.find<QDialog>(name);
-    EXPECT_TRUE(QTest::qWaitForWindowActive(found, tests::patienceMilliseconds));
-    return *found;
-  }
+  QDialog& sheet(const char* name) { return *shown.find<QDialog>(name); }
 };
 
 TEST_F(SheetLayout, SaveLocation) {
@@ -64,12 +64,17 @@ TEST_F(SheetLayout, About) {
 
 TEST_F(SheetLayout, WhatTheStatusBarTells) {
   auto* const notice = shown.window.findChild<ExportNotice*>();
+  const auto* const leaving = notice->findChild<QTimer*>();
   compare("status_bar.txt", *shown.window.statusBar());
   notice->showSuccess(QStringLiteral("Saved moon.txt"), QStringLiteral("/tmp"));
+  EXPECT_TRUE(leaving->isActive() && leaving->isSingleShot());
+  EXPECT_EQ(leaving->intervalAsDuration(), std::chrono::seconds(8));
   compare("status_bar_saved.txt", *shown.window.statusBar());
   notice->showFailure(QStringLiteral("Not saved: no room is left (moon.txt)"));
+  EXPECT_FALSE(leaving->isActive()) << "stays";
   compare("status_bar_not_saved.txt", *shown.window.statusBar());
   notice->showProgress(QStringLiteral("Printing Star Map …"));
+  EXPECT_FALSE(leaving->isActive()) << "stays";
   compare("status_bar_printing.txt", *shown.window.statusBar());
 }
 

@@ -70,6 +70,7 @@ constexpr Property properties[] = {
     {"singleStep", "1"},
     {"pageStep", ""},
     {"value", ""},
+    {"textVisible", ""},
     // Texts and tables
     {"verticalScrollBarPolicy", "ScrollBarAsNeeded"},
     {"horizontalScrollBarPolicy", "ScrollBarAsNeeded"},

@@ -37,7 +37,12 @@ TEST_P(WindowLook, TheTabs) {
 TEST_P(WindowLook, TheTimeBar) {
   shown.time.setOn(true);
   resize({1, 1});
-  compare(pictureOf(*shown.find<QWidget>("timeBar")), "time_bar");
+  QWidget& bar = *shown.find<QWidget>("timeBar");
+  const QImage resting = pictureOf(bar);
+  shown.time.play(model::LiveTime::Motion::backward);
+  const QImage back = pictureOf(bar);
+  shown.time.play(model::LiveTime::Motion::forward);
+  compare({{resting}, {back}, {pictureOf(bar)}}, "time_bar");
 }
 
 TEST_P(WindowLook, TheListOfBodies) {

@@ -281,6 +281,24 @@ TEST_F(Views, ThePositionsAreCopiedAsText) {
                                     .join(QLatin1Char('\t')));
 }
 
+TEST_F(Views, TheKeysOfThePositionsAreKeysOfNothingElse) {
+  calculate();
+  press("tab3");
+  auto* const positions = find<QTableWidget>("positionsTable");
+  positions->selectRow(2);
+  QApplication::clipboard()->setText(QStringLiteral("as before"));
+  auto* const slider = find<QWidget>("hourSlider");
+  slider->setFocus();
+  QTest::keyClick(slider, Qt::Key_C, Qt::ControlModifier);
+  EXPECT_EQ(QApplication::clipboard()->text(), QStringLiteral("as before"));
+  QTest::keyClick(slider, Qt::Key_Escape);
+  EXPECT_TRUE(positions->selectionModel()->isRowSelected(2));
+  positions->clearSelection();
+  positions->setFocus();
+  QTest::keyClick(positions, Qt::Key_C, Qt::ControlModifier);
+  EXPECT_EQ(QApplication::clipboard()->text(), QStringLiteral("as before")) << "nothing to copy";
+}
+
 TEST_F(Views, TheChartsAreThoseOfTheCalculation) {
   const auto colors = [this](const char* name) {
     std::set<QRgb> found;

@@ -83,6 +83,20 @@ TEST_F(About, IsDraggedByItsBackground) {
   EXPECT_EQ(about->pos(), before + QPoint(30, 10));
 }
 
+TEST_F(About, IsLetGoWithTheButtonAndDraggedByTheFirstOneAlone) {
+  AboutView* const about = program.openAbout();
+  const QPoint before = about->pos();
+  const QPoint grip(20, 20);
+  QTest::mousePress(about, Qt::LeftButton, {}, grip);
+  QTest::mouseRelease(about, Qt::LeftButton, {}, grip);
+  QTest::mouseMove(about, grip + QPoint(30, 10));
+  EXPECT_EQ(about->pos(), before);
+  QTest::mousePress(about, Qt::RightButton, {}, grip);
+  QTest::mouseMove(about, grip + QPoint(40, 20));
+  EXPECT_EQ(about->pos(), before);
+  QTest::mouseRelease(about, Qt::RightButton, {}, grip);
+}
+
 TEST_F(About, ItsGroundChangesWhileThePointerIsOverIt) {
   AboutView* const about = program.openAbout();
   const auto ground = [about] { return about->grab().toImage().pixelColor(2, 2); };
