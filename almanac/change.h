@@ -31,11 +31,16 @@ inline double daysUntilReached(double distance, double rate, double bend) {
   return (rate + std::sqrt(rate * rate + 2.0 * bend * distance)) / bend;
 }
 
+/// To the last double: a change has one moment then, from wherever it was sought.
+inline constexpr double toTheLastDouble = 0.0;
+
 /// The first moment after `from`, not after `to`, at which what `stateAt` tells has changed, found
-/// to a tenth of a second. Nothing where it never does. `to` may be earlier than `from`: then the
-/// last such moment before it, and what `unchangedFor` says must hold backwards.
+/// to within `precisionDays`. Nothing where it never does.
+/// `to` may be earlier than `from`: then the last such moment before it, and what `unchangedFor`
+/// says must hold backwards.
 template <class StateAt>
-std::optional<double> nextChange(StateAt stateAt, double from, double to) {
+std::optional<double> nextChange(StateAt stateAt, double from, double to,
+                                 double precisionDays = leastStepDays) {
   const double direction = to < from ? -1.0 : 1.0;
   double before = from;
   State state = stateAt(before);
@@ -49,7 +54,7 @@ std::optional<double> nextChange(StateAt stateAt, double from, double to) {
     }
     state = stateAt(after);
     if (state.holds != held) {
-      while (std::abs(after - before) > leastStepDays) {
+      while (std::abs(after - before) > precisionDays) {
         const double middle = std::midpoint(before, after);
         if (middle == before || middle == after) {
           break;

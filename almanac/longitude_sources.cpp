@@ -49,7 +49,8 @@ class SignEntries final : public EventSource {
 
   std::optional<Event> next() override {
     const reports::ZodiacSign& here = reports::signAt(motionAt(body_, last_).longitude);
-    const auto moment = nextChange([&](double t) { return stateIn(here, t); }, last_, range_.to);
+    const auto moment =
+        nextChange([&](double t) { return stateIn(here, t); }, last_, range_.to, toTheLastDouble);
     if (!moment || *moment >= range_.to) {
       return std::nullopt;
     }

@@ -24,7 +24,8 @@ class Pairings final : public EventSource {
         range_(range),
         last_(range.from) {
     if (within(last_).holds) {
-      last_ = nextChange([this](double t) { return within(t); }, last_, -astro::baseTimeLimitDays)
+      last_ = nextChange([this](double t) { return within(t); }, last_, -astro::baseTimeLimitDays,
+                         toTheLastDouble)
                   .value_or(-astro::baseTimeLimitDays);
     }
   }
@@ -34,12 +35,12 @@ class Pairings final : public EventSource {
       return std::nullopt;
     }
     const auto state = [this](double t) { return within(t); };
-    const std::optional<double> begin = nextChange(state, last_, range_.to);
+    const std::optional<double> begin = nextChange(state, last_, range_.to, toTheLastDouble);
     if (!begin || *begin >= range_.to) {
       return std::nullopt;
     }
-    const double end =
-        nextChange(state, *begin, astro::baseTimeLimitDays).value_or(astro::baseTimeLimitDays);
+    const double end = nextChange(state, *begin, astro::baseTimeLimitDays, toTheLastDouble)
+                           .value_or(astro::baseTimeLimitDays);
     last_ = end;
     const Closest closest = closestIn(*begin, end);
     return Event{.kind = kind_,
@@ -93,7 +94,7 @@ class Pairings final : public EventSource {
       const double away = parting > 0.0 ? rate : -rate;
       return State{parting > 0.0, daysUntilReached(std::abs(parting), away, bend_)};
     };
-    if (const auto passage = nextChange(side, begin, end)) {
+    if (const auto passage = nextChange(side, begin, end, toTheLastDouble)) {
       return {*passage, 0.0};
     }
     const auto way = [this](double t) {
@@ -102,7 +103,7 @@ class Pairings final : public EventSource {
     };
     Closest best{begin, std::abs(partingAt(begin).longitude)};
     double from = begin;
-    while (const auto turn = nextChange(way, from, end)) {
+    while (const auto turn = nextChange(way, from, end, toTheLastDouble)) {
       const double there = std::abs(partingAt(*turn).longitude);
       if (there < best.separation) {
         best = {*turn, there};

@@ -36,7 +36,7 @@ class Passages final : public EventSource {
     const auto state = [this](double t) {
       return kind_ == EventKind::culmination ? westward(t) : above(t);
     };
-    while (const auto moment = nextChange(state, last_, range_.to)) {
+    while (const auto moment = nextChange(state, last_, range_.to, toTheLastDouble)) {
       last_ = *moment;
       const bool isSought = state(last_).holds != (kind_ == EventKind::set);
       if (isSought && last_ >= range_.from && last_ < range_.to) {

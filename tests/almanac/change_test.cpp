@@ -40,6 +40,18 @@ TEST(NextChange, FindsWhatIsThereForwardsAndBackwards) {
   EXPECT_FALSE(state(nextChange(state, 0.0, 100.0).value()).holds);  // it has changed
 }
 
+TEST(NextChange, FindsTheSameNumberFromWhereverItBegan) {
+  const auto found = [](double from, double to) {
+    return nextChange([](double t) { return aboveLevel(0.5, t); }, from, to,
+                      almanac::toTheLastDouble);
+  };
+  for (int hundredths = -100; hundredths < 100; ++hundredths) {
+    const double from = hundredths / 100.0;
+    EXPECT_EQ(found(from, 100.0), found(0.0, 100.0)) << from;
+    EXPECT_EQ(found(from, -100.0), found(0.0, -100.0)) << from;
+  }
+}
+
 TEST(NextChange, MissesNoGlimpseLongerThanItsLeastStep) {
   for (const double half : {1e-1, 1e-2, 1e-3, 1e-4, 1e-5, 1e-6}) {
     const double level = 1.0 - half * half / 2.0;  // holds for 2 · half about each turn
