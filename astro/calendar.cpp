@@ -22,6 +22,7 @@ struct CalendarFields {
   std::int64_t dayIndex;
   std::int64_t hour;
   std::int64_t minute;
+  std::int64_t second;
   bool isBeforeFirstMidnight;
 };
 
@@ -44,6 +45,7 @@ std::optional<CalendarFields> fieldsAt(double baseTime) {
                         inMonth / secondsPerDay,
                         inDay / secondsPerHour,
                         (inDay % secondsPerHour) / secondsPerMinute,
+                        inDay % secondsPerMinute,
                         seconds < 0};
 }
 
@@ -67,6 +69,15 @@ std::optional<CalendarReading> calendarReading(double baseTime) {
   return CalendarReading{
       fields->year, fields->monthIndex, fields->dayIndex,
       hourOfClock(static_cast<double>(fields->hour), static_cast<double>(fields->minute))};
+}
+
+std::optional<CalendarMoment> calendarMoment(double baseTime) {
+  const std::optional<CalendarFields> fields = fieldsAt(baseTime);
+  if (!fields || fields->isBeforeFirstMidnight) {
+    return std::nullopt;
+  }
+  return CalendarMoment{fields->year, fields->monthIndex + 1, fields->dayIndex + 1,
+                        fields->hour, fields->minute,         fields->second};
 }
 
 void appendCalendarLabel(std::string& out, double baseTime) {

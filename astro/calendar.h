@@ -40,6 +40,22 @@ double standardBaseTime(const CalendarReading& reading);
 /// or for what calendarLabel does not take.
 std::optional<CalendarReading> calendarReading(double baseTime);
 
+/// A moment of the calendar to the second, in standard time.
+struct CalendarMoment {
+  std::int64_t year;   ///< from 1
+  std::int64_t month;  ///< 1 to 12
+  std::int64_t day;    ///< 1 to 30
+  std::int64_t hour;
+  std::int64_t minute;
+  std::int64_t second;
+
+  friend bool operator==(const CalendarMoment&, const CalendarMoment&) = default;
+};
+
+/// What calendarLabel reads at a base time, with the second that it leaves out. Nothing where
+/// calendarReading has nothing.
+std::optional<CalendarMoment> calendarMoment(double baseTime);
+
 /// "720-01-01 12:00 OST": the standard-time reading of a base time, rounded to the second and then
 /// cut to the minute. Before the first midnight (−0.5) the fields turn negative. A base time whose
 /// seconds overflow 64 bits is a broken invariant.

@@ -1,28 +1,61 @@
 #include "cli/almanac/event_command.h"
 
 #include <cmath>
-#include <cstdio>
+#include <optional>
+#include <utility>
 
 #include "almanac/events.h"
 #include "cli/almanac/asked_events.h"
 #include "cli/almanac/event_output.h"
+#include "cli/almanac/note_output.h"
 #include "cli/almanac/range.h"
+#include "cli/typed/arguments.h"
+#include "cli/typed/errors.h"
+#include "cli/typed/quoting.h"
 #include "cli/written/asked_forms.h"
 #include "cli/written/document_writer.h"
 #include "cli/written/progress.h"
 
 namespace veyruna::cli {
 
-void writeEvents(const Typed& typed) {
-  const std::vector<documents::Form> forms = askedForms(typed, documents::Kind::log);
+namespace {
+
+/// The form of the one file that is written. Throws UsageError.
+documents::Form formOfEvents(const Typed& typed) {
+  const documents::Kind kind = documents::Kind::log;
+  const auto form = documents::formOf(typed.formats);
+  if (!typed.formats.empty() && !(form && documents::canBe(kind, *form))) {
+    refuse("--format", typed.formats,
+           "one of txt, json, jsonl, csv, " + noteToolWords() + " for events");
+  }
+  for (const auto& [option, value] :
+       {std::pair("--out", typed.folder), std::pair("--visibility", typed.visibility)}) {
+    if (!value.empty()) {
+      throw UsageError(std::string(option) + " " + inQuotes(value) + " belongs to --format " +
+                       noteToolWords(" and "));
+    }
+  }
+  const std::vector<documents::Form> forms = askedForms(typed, kind);
   askedWidth(typed, forms);
+  return forms.front();
+}
+
+}  // namespace
+
+void writeEvents(const Typed& typed) {
+  const std::optional<NoteTool> tool = noteToolOf(typed.formats);
+  const documents::Form form = tool ? documents::Form::count : formOfEvents(typed);
+  if (tool) {
+    askedWidth(typed, {});
+  }
   const std::vector<Place> places = placesOf(typed);
   const almanac::EventQuery query = askedEvents(typed, places);
   const auto daysUntil = [&query](double t) {
     return static_cast<std::int64_t>(std::floor(t - query.range.from));
   };
   const std::unique_ptr<EventOutput> output =
-      eventOutput(typed.file, forms.front(), query.range, places);
+      tool ? noteOutput(*tool, typed, query.range, places)
+           : eventOutput(typed.file, form, query.range, places);
   Progress progress(daysUntil(query.range.to) + 1, "days", isStandardOutput(typed.file));
   almanac::forEachEvent(query, [&](const almanac::Event& event) {
     output->take(event);

@@ -7,6 +7,7 @@
 
 #include "astro/number_text.h"
 #include "cli/almanac/event_command.h"
+#include "cli/almanac/note_tools.h"
 #include "cli/almanac/search_command.h"
 #include "cli/batch/batch_command.h"
 #include "cli/documents/document_commands.h"
@@ -62,8 +63,9 @@ struct OwnCommand {
   void (*run)(const Typed& typed);
 };
 constexpr std::array ownCommands = {
-    OwnCommand{"events", writeEvents}, OwnCommand{"locations", writeLocations},
-    OwnCommand{"schema", writeSchema}, OwnCommand{"search", writeSearch}};
+    OwnCommand{"calendar", writeCalendar}, OwnCommand{"events", writeEvents},
+    OwnCommand{"locations", writeLocations}, OwnCommand{"schema", writeSchema},
+    OwnCommand{"search", writeSearch}};
 
 /// To draw, in this program or in the one that can.
 void makeReady(const Renderer& renderer, const std::vector<std::string>& arguments) {

@@ -64,6 +64,7 @@ Grammar::Grammar()
   addValue(*all, "--out", "DIR", typed_.folder, "The folder; made where it is missing");
   addBatch();
   addCommand("locations", "The saved places with their coordinates");
+  addCalendar();
   addSchema();
   app_->add_subcommand("help", "Show what a command does, with an example")
       ->group("Commands")
@@ -226,6 +227,18 @@ void Grammar::addEvents() {
            "Instead of all: of " + kinds +
                "; conjunction:all and opposition:all pair the sun and "
                "the moon, too");
+  addValue(*events, "--out", "DIR", typed_.folder,
+           "The folder of --format calendarium, a note each; made where it is missing");
+  addValue(*events, "--visibility", "WHO", typed_.visibility,
+           "Of --format calendarium and seasons-stars: gm for all (gm), player for what is seen");
+}
+
+void Grammar::addCalendar() {
+  app_->add_subcommand("calendar", "The calendar for tools that keep events")
+      ->group("Commands")
+      ->footer(
+          "--format says for which: calendarium or seasons-stars; --year is the present one.\n\n"
+          "Example:\n  veyruna calendar --year 720 --format seasons-stars -o veyruna.json");
 }
 
 void Grammar::addSearch() {

@@ -39,10 +39,11 @@ struct Typed {
   std::string rows;
   std::string step;
   std::string folder;
-  std::string schema;     ///< whose schema is asked for; empty for a list of them
-  std::string table;      ///< the file of a batch; "-" for standard input
-  std::string documents;  ///< of a batch, as command words; empty for the usual
-  std::string helpTopic;  ///< empty for the help of the whole
+  std::string visibility;  ///< of events in other tools: gm or player; empty for gm
+  std::string schema;      ///< whose schema is asked for; empty for a list of them
+  std::string table;       ///< the file of a batch; "-" for standard input
+  std::string documents;   ///< of a batch, as command words; empty for the usual
+  std::string helpTopic;   ///< empty for the help of the whole
 };
 
 /// The command line's grammar: which words and options there are, and their help.
@@ -71,6 +72,7 @@ class Grammar {
                               const std::string& exampleEnd);
   void addEvents();
   void addSearch();
+  void addCalendar();
   void addSchema();
   void addBatch();
   void addTable(const std::string& name, const std::string& summary, const std::string& example);

@@ -108,7 +108,7 @@ TEST(Refusal, Words) {
       {{"moment", "--bw"}, "\"--bw\"", "behind horoscope"},
       {{"--yaer", "720", "moment"}, "\"--yaer\"", "--help"},
       {{"-x", "moment"}, "\"-x\"", "--help"},
-      {{"moment", "--out", "folder"}, "\"--out\"", "behind all"},
+      {{"moment", "--out", "folder"}, "\"--out\"", "behind events or all"},
       {{"all"}, "--out", "DIR"},
       {{"all", "--out", "folder", "-o", "file"}, "-o", "--out DIR"},
       {{"moment", "-o"}, "-o", "missing"},

@@ -73,14 +73,16 @@ TEST(IncludeRules, FilesUseTheSystemBesides) {
 }
 
 /// It takes long to compile, and what is made with it is text.
-TEST(IncludeRules, RecordsKnowJsonInTheirSourcesOnly) {
+TEST(IncludeRules, RecordsAndNotesKnowJsonInTheirSourcesOnly) {
   const std::string json = "#include <nlohmann/json.hpp>\n";
   EXPECT_TRUE(forbiddenIncludes("records", json).empty());
   EXPECT_EQ(forbiddenIncludes("almanac", json).size(), 1U);
-  for (const auto& entry : fs::directory_iterator(sourcePath("records"))) {
-    if (entry.path().extension() == ".h") {
-      EXPECT_EQ(fileContent(entry.path().string()).find("nlohmann"), std::string::npos)
-          << entry.path();
+  for (const char* const room : {"records", "notes"}) {
+    for (const auto& entry : fs::directory_iterator(sourcePath(room))) {
+      if (entry.path().extension() == ".h") {
+        EXPECT_EQ(fileContent(entry.path().string()).find("nlohmann"), std::string::npos)
+            << entry.path();
+      }
     }
   }
 }
