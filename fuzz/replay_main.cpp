@@ -1,25 +1,36 @@
 // replay FOLDER...: tries every file of the folders once, without a fuzzer.
-#include <QDir>
-#include <QFile>
+#include <algorithm>
 #include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+#include <string>
+#include <vector>
 
 #include "fuzz/target.h"
 
 int main(int argc, char** argv) {
   int tried = 0;
   for (int i = 1; i < argc; ++i) {
-    const QDir folder(QString::fromLocal8Bit(argv[i]));
-    for (const QString& name : folder.entryList(QDir::Files)) {
-      QFile file(folder.filePath(name));
-      if (!file.open(QIODevice::ReadOnly)) {
-        std::fprintf(stderr, "cannot read %s\n", qPrintable(file.fileName()));
+    std::vector<std::filesystem::path> files;
+    for (const auto& entry : std::filesystem::directory_iterator(argv[i])) {
+      if (entry.is_regular_file()) {
+        files.push_back(entry.path());
+      }
+    }
+    std::ranges::sort(files);
+    for (const std::filesystem::path& path : files) {
+      std::ifstream file(path, std::ios::binary);
+      if (!file) {
+        std::fprintf(stderr, "cannot read %s\n", path.c_str());
         return 1;
       }
-      std::printf("%s\n", qPrintable(name));
+      std::printf("%s\n", path.filename().c_str());
       std::fflush(stdout);
-      const QByteArray bytes = file.readAll();
-      LLVMFuzzerTestOneInput(reinterpret_cast<const std::uint8_t*>(bytes.constData()),
-                             static_cast<std::size_t>(bytes.size()));
+      std::ostringstream content;
+      content << file.rdbuf();
+      const std::string bytes = content.str();
+      LLVMFuzzerTestOneInput(reinterpret_cast<const std::uint8_t*>(bytes.data()), bytes.size());
       ++tried;
     }
   }
