@@ -196,6 +196,25 @@ TEST_F(BatchFiles, HaveNamesOfLengthsThatFileSystemsTake) {
   }
 }
 
+TEST_F(BatchFiles, KeepHalfOfALongNameAndHalfOfALongPlace) {
+  const std::string place(200, 'p');
+  fs::create_directories(scratch / "data/VeyrunaAstro");
+  tests::writeFile(scratch / "data/VeyrunaAstro/locations.json",
+                   R"([{"id":"0B8A2B6E-3C1D-4E5F-8A9B-0C1D2E3F4A5B","name":")" + place +
+                       R"(","latitude":0.5,"longitude":-0.25}])");
+  tests::writeFile(table, "name,date,place\n" + std::string(200, 'n') + ",720-06-12," + place +
+                              "\nArla,720-06-12," + place + "\n");
+  const Outcome outcome = tests::run({.arguments = argumentsWith({"--documents", "moment"}),
+                                      .environment = {"XDG_DATA_HOME=" + scratch / "data"}});
+  expectAllWritten(outcome);
+  const std::string middle = " - Moment - ";
+  const std::string end = " - 720-06-12 12-00.txt";
+  const std::size_t room = 255 - middle.size() - end.size();
+  EXPECT_EQ(written(),
+            (Names{"Arla" + middle + place + end,
+                   std::string(room - room / 2, 'n') + middle + std::string(room / 2, 'p') + end}));
+}
+
 TEST_F(BatchFiles, OfTwoRowsAreNeverOne) {
   const std::string rows =
       "name,date,hour,local,place\n"
