@@ -160,6 +160,15 @@ TEST(NoteId, IsTheSameFromWhereverTheSearchBegan) {
   }
 }
 
+TEST(NoteId, TellsSignsOfOneEveningApart) {
+  Event entry{.kind = EventKind::sign, .baseTime = 1e6, .body = Body::bralo};
+  entry.sign = &reports::zodiacSigns[3];
+  const std::string there = noteOf(entry, {}).value().id;
+  entry.sign = &reports::zodiacSigns[2];
+  EXPECT_NE(noteOf(entry, {}).value().id, there);
+  EXPECT_TRUE(there.ends_with("-sign-bralo-pemi")) << there;
+}
+
 TEST(NoteId, TellsPlacesOfLikeNamesApart) {
   const Event rise{.kind = EventKind::rise, .baseTime = 1e6, .body = Body::thessil};
   std::set<std::string> ids;

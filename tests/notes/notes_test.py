@@ -6,6 +6,7 @@ text.
 import collections
 import copy
 import json
+import math
 import os
 import re
 import subprocess
@@ -172,6 +173,13 @@ class NotesTest(unittest.TestCase):
             self.assertEqual((date, event["startTime"][:5]), text.key)
             self.assertEqual(event["startYear"], event["endYear"])
             self.assertEqual(event["visibility"], "gm-only")
+        # To the second, which the text leaves out.
+        for event, record in zip(
+            calendar["events"], self.home.records(f"{SEVEN_YEARS} {WITH_PAIRS}")
+        ):
+            seconds = math.floor((record["base_time_days"] + 0.5) * 86400 + 0.5) % 86400
+            clock = f"{seconds // 3600:02}:{seconds // 60 % 60:02}:{seconds % 60:02}"
+            self.assertEqual(event["startTime"], clock)
         ids = [event["id"] for event in calendar["events"]]
         self.assertEqual(len(ids), len(set(ids)))
 

@@ -117,6 +117,23 @@ TEST(EventRecord, TellsFullFromNewAndForwardFromBackward) {
   EXPECT_EQ(recordOf(autumn, {})["sun_longitude_degrees"], 180.0);
 }
 
+TEST(EventRecord, SaysHowFarAPairIsFromOneLongitude) {
+  const Json record = recordOf({.kind = EventKind::opposition,
+                                .baseTime = 7.0,
+                                .body = almanac::Body::bralo,
+                                .other = almanac::Body::pallox,
+                                .begin = 6.0,
+                                .end = 9.5,
+                                .separation = astro::pi / 180.0},
+                               {});
+  EXPECT_NEAR(record["separation_degrees"].get<double>(), 1.0, 1e-12);
+  EXPECT_EQ(record["begin_base_time_days"], 6.0);
+  EXPECT_EQ(record["end_base_time_days"], 9.5);
+  EXPECT_EQ(record["begin_date"], "001-01-07T12:00");
+  EXPECT_EQ(record["end_date"], "001-01-11T00:00");
+  EXPECT_EQ(record["bodies"], Json({"bralo", "pallox"}));
+}
+
 TEST(EventRecord, BeforeTheFirstMidnightThereIsNoDate) {
   const Json record =
       recordOf({.kind = EventKind::moon, .baseTime = -0.75, .body = almanac::Body::ivro}, {});
