@@ -30,9 +30,10 @@ Row aboutPositions(const astro::Observer& observer) {
 void forEachPositionsRow(const astro::Observer& observer, const reports::TableSize& /*size*/,
                          const TakeRow& take) {
   std::size_t body = 0;
-  for (const reports::BodyPlace& place : reports::bodyPlaces(observer)) {
-    take({bodyWords()[body++], degreesInTurn(place.azimuth), astro::degreesOf(place.altitude),
-          degreesInTurn(place.ecLong), wordOf(reports::signAt(place.ecLong))});
+  // Every field is named, so that one more does not compile until it is thought of here.
+  for (const auto& [name, bodyType, azimuth, altitude, ecLong] : reports::bodyPlaces(observer)) {
+    take({bodyWords()[body++], degreesInTurn(azimuth), astro::degreesOf(altitude),
+          degreesInTurn(ecLong), wordOf(reports::signAt(ecLong))});
   }
 }
 

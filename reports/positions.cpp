@@ -49,12 +49,13 @@ BodyPlace placeOf(std::string_view name, std::string_view bodyType, const astro:
 }
 
 PositionRow rowOf(const BodyPlace& place) {
-  return {std::string(place.name),
-          std::string(place.bodyType),
-          astro::Arc(place.azimuth).degMinText(),
-          astro::Arc(place.altitude).degMinText(),
-          astro::Arc(place.ecLong).degMinText(),
-          std::string(signName(place.ecLong))};
+  const auto& [name, bodyType, azimuth, altitude, ecLong] = place;
+  return {std::string(name),
+          std::string(bodyType),
+          astro::Arc(azimuth).degMinText(),
+          astro::Arc(altitude).degMinText(),
+          astro::Arc(ecLong).degMinText(),
+          std::string(signName(ecLong))};
 }
 
 }  // namespace
