@@ -120,6 +120,31 @@ TEST_F(EveryTab, FollowsTheNextCalculation) {
   }
 }
 
+TEST_F(EveryTab, ShowsAtOnceInAnotherWindowWhatIsCalculatedAlready) {
+  calculate();
+  MainView other(model, time, state);
+  other.setAttribute(Qt::WA_DeleteOnClose, false);
+  other.show();
+  const auto* const views = other.findChild<DetailedView*>()->findChild<QStackedWidget*>();
+  for (const TabEntry& tab : exports::allTabs) {
+    other.selectTab(tab.tab);
+    tests::turnEventLoop();
+    for (const exports::TabSection& section : tab.sections) {
+      EXPECT_TRUE(shows(views->currentWidget(), section.document))
+          << documents::entryOf(section.document).heading;
+    }
+  }
+  for (const char* const name : {"starMap", "horoscope"}) {
+    const auto* const chart = other.findChild<QWidget*>(QString::fromLatin1(name));
+    EXPECT_FALSE(chart->accessibleDescription().isEmpty()) << name;
+  }
+  for (const char* const name : {"caption", "nextFullMoon", "nextNewMoon"}) {
+    const auto* const label = other.findChild<QLabel*>(QString::fromLatin1(name));
+    EXPECT_FALSE(label->text().isEmpty()) << name;
+    EXPECT_EQ(label->text(), find<QLabel>(name)->text());
+  }
+}
+
 TEST_F(EveryTab, ItsButtonSaysItsKey) {
   for (const TabEntry& tab : exports::allTabs) {
     const int number = static_cast<int>(tab.tab) + 1;
