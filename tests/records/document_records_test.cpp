@@ -3,6 +3,7 @@
 
 #include <cmath>
 #include <gtest/gtest.h>
+#include <locale>
 #include <map>
 #include <nlohmann/json.hpp>
 #include <rapidcheck/gtest.h>
@@ -129,6 +130,7 @@ RC_GTEST_PROP(DocumentRecords, TheEphemerisIsThatOfTheText, ()) {
   const Json& record = document["moments"][0];
   const std::string line = oneTableLine(reports::ephemerisTable(observer, one), 1);
   std::istringstream columns(line.substr(line.find("OST") + 3));
+  columns.imbue(std::locale::classic());
   for (const char* const name :
        {"ivro_right_ascension_degrees", "ivro_declination_degrees",
         "ivro_ecliptic_latitude_degrees", "ivro_ecliptic_longitude_degrees",
