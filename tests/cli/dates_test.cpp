@@ -6,6 +6,7 @@
 
 #include "astro/angle.h"
 #include "astro/local_time.h"
+#include "astro/number_text.h"
 #include "cli/typed/errors.h"
 
 namespace veyruna {
@@ -24,7 +25,7 @@ TEST(Dates, ADayBeginsAtItsMidnight) {
 
 TEST(Dates, ABaseTimeIsItself) {
   for (const double t : {0.0, -12.5, 258900.5, 1e9, -1e9}) {
-    EXPECT_EQ(cli::readMoment("--to", "@" + std::to_string(t)), t);
+    EXPECT_EQ(cli::readMoment("--to", "@" + astro::shortestText(t)), t);
   }
 }
 

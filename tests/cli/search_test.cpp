@@ -173,8 +173,8 @@ TEST(SearchCommand, ItsLinesNameAnyPlaceAShellCanRead) {
     ASSERT_EQ(outcome.status, cli::succeeded) << outcome.err;
     const std::string row = rowsOf(outcome.out).at(1);
     const std::string horoscope = outputOfShell(commandOf(row), home.path());
-    std::string degrees = std::to_string((static_cast<double>(i) + 1.0) / 10.0 * 180.0 / astro::pi);
-    degrees.resize(degrees.find('.'));
+    const std::string degrees =
+        std::to_string(static_cast<int>((static_cast<double>(i) + 1.0) / 10.0 * 180.0 / astro::pi));
     EXPECT_NE(horoscope.find("Lat:"), std::string::npos) << row;
     EXPECT_TRUE(std::regex_search(horoscope, std::regex("Lat: +0*" + degrees + ":"))) << row;
   }
