@@ -103,5 +103,25 @@ TEST(Quoting, ALongTextOfBytesIsCutTheSame) {
   EXPECT_EQ(shown, writtenOut(bytes.substr(0, 120)).substr(0, 481) + "…\"");
 }
 
+TEST(Quoting, AShellsWordIsInQuotesWhereAShellWouldCutOrReadIt) {
+  for (const char* const plain : {"Ebb", "40.5", "-20.9", "a/b:c@d,e%f+g_h"}) {
+    EXPECT_EQ(cli::asShellWord(plain), plain);
+  }
+  EXPECT_EQ(cli::asShellWord(""), "''");
+  EXPECT_EQ(cli::asShellWord("two words"), "'two words'");
+  EXPECT_EQ(cli::asShellWord("Côte d'Ebb"), "'Côte d'\\''Ebb'");
+  EXPECT_EQ(cli::asShellWord("$HOME `id` \\ ! * ~ #"), "'$HOME `id` \\ ! * ~ #'");
+  for (const std::string_view other : {"two\nlines", "\x1b[31m", "caf\xe9"}) {
+    EXPECT_EQ(cli::asShellWord(other), std::nullopt);
+  }
+}
+
+TEST(Quoting, CharactersAreCountedAsAPersonSeesThem) {
+  EXPECT_EQ(cli::charactersOnALine(""), 0U);
+  EXPECT_EQ(cli::charactersOnALine("Côte ☾"), 6U);
+  EXPECT_EQ(cli::charactersOnALine("a\tb"), std::nullopt);
+  EXPECT_EQ(cli::charactersOnALine("\xff"), std::nullopt);
+}
+
 }  // namespace
 }  // namespace veyruna
