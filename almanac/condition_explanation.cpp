@@ -105,7 +105,9 @@ string clauseOf(const Condition& condition, bool isLocal) {
           [&](const HourBetween&) { return textOf(condition) + ", by " + clock; },
           [&](const MonthIs&) { return textOf(condition) + ", by " + clock; },
           [&](const DayIs&) { return textOf(condition) + " of the month, by " + clock; },
-          [](const auto&) { return string(); },
+          [](const AnyOf&) { return string(); },
+          [](const AllOf&) { return string(); },
+          [](const Not&) { return string(); },
       },
       condition.form);
 }

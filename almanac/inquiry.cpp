@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <functional>
 #include <limits>
+#include <type_traits>
 
 #include "almanac/motion.h"
 #include "almanac/overloaded.h"
@@ -43,6 +44,10 @@ Question questionFor(const Condition& leaf, const astro::Observer& place, const 
         } else if constexpr (requires { question(form, clock); }) {
           return question(form, clock);
         } else {
+          using Form = std::decay_t<decltype(form)>;
+          static_assert(std::is_same_v<Form, AnyOf> || std::is_same_v<Form, AllOf> ||
+                            std::is_same_v<Form, Not>,
+                        "a form of condition has no question");
           return {};  // a group, which is no leaf
         }
       },

@@ -8,6 +8,8 @@ namespace veyruna::tests {
 
 using namespace almanac;
 
+static_assert(RandomConditions::leafForms == 18, "a form of condition is never made by chance");
+
 Condition RandomConditions::leaf(std::size_t form) {
   const auto planet = [this] { return astro::allPlanets[below(astro::planetCount)]; };
   const auto sign = [this] { return &reports::zodiacSigns[below(12)]; };
