@@ -68,6 +68,22 @@ TEST(ClockAtMidnight, IsShownWhenTheWindowOpens) {
             QStringLiteral("00:00"));
 }
 
+TEST_F(Clock, FollowsTheHourToMidnightAndBack) {
+  for (const auto& [hour, text] : {std::pair(3.5, "03:30"), std::pair(0.0, "00:00"),
+                                   std::pair(12.0, "12:00"), std::pair(0.0, "00:00")}) {
+    model.setHour(hour);
+    EXPECT_EQ(label->text(), QString::fromLatin1(text));
+    EXPECT_EQ(field->text(), QString::fromLatin1(text));
+  }
+}
+
+TEST_F(Clock, WhatIsTypedStaysWhileTheHourIsTheSame) {
+  key(slider, Qt::Key_F2);
+  QTest::keyClicks(field, QStringLiteral("3:4"));
+  Q_EMIT model.hourChanged();
+  EXPECT_EQ(field->text(), QStringLiteral("3:4"));
+}
+
 TEST_F(Clock, EscapeGivesUpWhatIsTyped) {
   QTest::mouseDClick(label, Qt::LeftButton);
   QTest::keyClicks(field, QStringLiteral("3:40"));

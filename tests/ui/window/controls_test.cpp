@@ -40,6 +40,19 @@ TEST_F(Controls, TheManualFieldsAndLettersSetTheManualPlace) {
   EXPECT_TRUE(isIdle());
 }
 
+TEST_F(Controls, EachLetterTurnsItsCoordinateItsWay) {
+  for (int round = 0; round < 2; ++round) {
+    press("eastWestE");
+    EXPECT_FALSE(model.longWest());
+    press("eastWestW");
+    EXPECT_TRUE(model.longWest());
+    press("northSouthS");
+    EXPECT_FALSE(model.latNorth());
+    press("northSouthN");
+    EXPECT_TRUE(model.latNorth());
+  }
+}
+
 TEST_F(Controls, TheDateControlsSetTheDate) {
   choose("monthPicker", QStringLiteral("Cendo"));
   stored();
