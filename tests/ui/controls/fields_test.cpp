@@ -235,6 +235,15 @@ TEST_F(LatitudeField, ShowsThreeDecimalsAndKeepsTheRest) {
   EXPECT_EQ(edits.count(), 0);
 }
 
+TEST_F(LatitudeField, ReturnWhereNothingWasTypedChangesNothing) {
+  for (const double degrees : {40.123456, 95.5}) {
+    field.show(degrees);
+    QTest::keyClick(&field, Qt::Key_Return);
+    EXPECT_FALSE(isMarked(field)) << degrees;
+  }
+  EXPECT_EQ(edits.count(), 0);
+}
+
 TEST_F(LatitudeField, ShowsWhatIsOutsideItsRange) {
   field.show(95.5);
   field.commit();
