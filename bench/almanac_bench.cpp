@@ -1,9 +1,9 @@
 // What the almanac's answers cost: searches of 100 years, and events of long stretches.
 #include <benchmark/benchmark.h>
 
-#include "almanac/condition_reader.h"
-#include "almanac/events.h"
-#include "almanac/search.h"
+#include "almanac/events/events.h"
+#include "almanac/search/condition_reader.h"
+#include "almanac/search/search.h"
 #include "astro/angle.h"
 
 namespace veyruna {

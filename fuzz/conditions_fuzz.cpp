@@ -2,8 +2,8 @@
 // and read again as the same; then a short search of any of them ends, in order, within its range.
 #include <string>
 
-#include "almanac/condition_reader.h"
-#include "almanac/search.h"
+#include "almanac/search/condition_reader.h"
+#include "almanac/search/search.h"
 #include "fuzz/target.h"
 
 using namespace veyruna;

@@ -1,6 +1,6 @@
 #include "notes/calendar_definition.h"
 
-#include "almanac/event_source.h"
+#include "almanac/events/event_source.h"
 #include "astro/invariant.h"
 
 namespace veyruna::notes {

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <array>
 
-#include "almanac/event_words.h"
-#include "almanac/events.h"
+#include "almanac/events/event_words.h"
+#include "almanac/events/events.h"
 #include "astro/angle.h"
 #include "astro/invariant.h"
 #include "astro/local_time.h"

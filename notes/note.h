@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "almanac/event.h"
+#include "almanac/events/event.h"
 #include "astro/calendar.h"
 #include "records/event_record.h"
 

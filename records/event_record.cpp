@@ -1,7 +1,7 @@
 #include "records/event_record.h"
 
-#include "almanac/event_words.h"
-#include "almanac/events.h"
+#include "almanac/events/event_words.h"
+#include "almanac/events/events.h"
 #include "astro/angle.h"
 #include "astro/local_time.h"
 #include "records/sky_fields.h"

@@ -3,7 +3,7 @@
 #include <optional>
 #include <string>
 
-#include "almanac/event.h"
+#include "almanac/events/event.h"
 #include "astro/observer.h"
 #include "records/record.h"
 

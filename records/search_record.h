@@ -3,7 +3,7 @@
 #include <optional>
 #include <string>
 
-#include "almanac/search.h"
+#include "almanac/search/search.h"
 #include "records/event_record.h"
 #include "records/record.h"
 

@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "almanac/body.h"
+#include "almanac/motion/body.h"
 #include "astro/observer.h"
 #include "records/record.h"
 #include "reports/zodiac.h"

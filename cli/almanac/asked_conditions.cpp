@@ -7,7 +7,7 @@
 #include <iterator>
 #include <string>
 
-#include "almanac/condition_reader.h"
+#include "almanac/search/condition_reader.h"
 #include "cli/typed/errors.h"
 #include "cli/typed/quoting.h"
 

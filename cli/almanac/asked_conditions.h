@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "almanac/condition.h"
+#include "almanac/search/condition.h"
 #include "cli/typed/grammar.h"
 
 namespace veyruna::cli {

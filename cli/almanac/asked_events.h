@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "almanac/events.h"
+#include "almanac/events/events.h"
 #include "cli/typed/grammar.h"
 #include "cli/typed/places.h"
 

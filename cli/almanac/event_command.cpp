@@ -4,7 +4,7 @@
 #include <optional>
 #include <utility>
 
-#include "almanac/events.h"
+#include "almanac/events/events.h"
 #include "cli/almanac/asked_events.h"
 #include "cli/almanac/event_output.h"
 #include "cli/almanac/note_output.h"

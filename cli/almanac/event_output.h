@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "almanac/event_source.h"
+#include "almanac/events/event_source.h"
 #include "cli/typed/places.h"
 #include "documents/forms.h"
 

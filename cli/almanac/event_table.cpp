@@ -3,8 +3,8 @@
 #include <QString>
 #include <algorithm>
 
-#include "almanac/event_words.h"
-#include "almanac/events.h"
+#include "almanac/events/event_words.h"
+#include "almanac/events/events.h"
 #include "astro/angle.h"
 #include "astro/calendar.h"
 #include "astro/local_time.h"

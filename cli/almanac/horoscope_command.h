@@ -3,7 +3,7 @@
 #include <optional>
 #include <string>
 
-#include "almanac/search.h"
+#include "almanac/search/search.h"
 #include "cli/typed/grammar.h"
 #include "cli/typed/places.h"
 

@@ -3,7 +3,7 @@
 #include <memory>
 #include <vector>
 
-#include "almanac/event_source.h"
+#include "almanac/events/event_source.h"
 #include "cli/almanac/event_output.h"
 #include "cli/almanac/note_tools.h"
 #include "cli/typed/grammar.h"

@@ -3,7 +3,7 @@
 #include <optional>
 #include <vector>
 
-#include "almanac/event_source.h"
+#include "almanac/events/event_source.h"
 #include "cli/typed/grammar.h"
 #include "cli/typed/places.h"
 

@@ -5,7 +5,7 @@
 #include <limits>
 #include <optional>
 
-#include "almanac/search.h"
+#include "almanac/search/search.h"
 #include "cli/almanac/asked_conditions.h"
 #include "cli/almanac/range.h"
 #include "cli/almanac/span_output.h"

@@ -3,7 +3,7 @@
 #include <CLI/CLI.hpp>
 #include <algorithm>
 
-#include "almanac/event.h"
+#include "almanac/events/event.h"
 #include "cli/typed/dates.h"
 #include "cli/typed/errors.h"
 #include "cli/typed/option_values.h"

@@ -1,5 +1,5 @@
 // The search by itself: what it finds, what it may leave out, and how it ends.
-#include "almanac/change.h"
+#include "almanac/motion/change.h"
 
 #include <cmath>
 #include <gtest/gtest.h>

@@ -1,10 +1,10 @@
 // Conditions as people write them: what is understood, and what is said of what is not.
-#include "almanac/condition_reader.h"
+#include "almanac/search/condition_reader.h"
 
 #include <gtest/gtest.h>
 #include <string>
 
-#include "almanac/vocabulary.h"
+#include "almanac/search/vocabulary.h"
 #include "charts/star_catalogue.h"
 #include "tests/almanac/random_conditions.h"
 

@@ -1,5 +1,5 @@
 // Every kind of event beside a plain scan of the sky, minute by minute: none missing, none extra.
-#include "almanac/events.h"
+#include "almanac/events/events.h"
 
 #include <cmath>
 #include <gtest/gtest.h>

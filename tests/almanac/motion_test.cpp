@@ -1,5 +1,5 @@
 // Rates and bounds of the motions, against differences of the sky's own longitudes.
-#include "almanac/motion.h"
+#include "almanac/motion/motion.h"
 
 #include <cmath>
 #include <gtest/gtest.h>

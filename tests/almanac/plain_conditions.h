@@ -3,7 +3,7 @@
 #include <array>
 #include <vector>
 
-#include "almanac/condition.h"
+#include "almanac/search/condition.h"
 #include "astro/observer.h"
 #include "astro/vec3d.h"
 

@@ -3,7 +3,7 @@
 #include <functional>
 #include <vector>
 
-#include "almanac/event.h"
+#include "almanac/events/event.h"
 #include "astro/observer.h"
 
 /// Events as a patient person would find them: looked for every minute, then halved. Nothing of it

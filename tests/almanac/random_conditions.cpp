@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "almanac/vocabulary.h"
+#include "almanac/search/vocabulary.h"
 
 namespace veyruna::tests {
 

@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <random>
 
-#include "almanac/condition.h"
+#include "almanac/search/condition.h"
 
 namespace veyruna::tests {
 

@@ -8,7 +8,7 @@
 #include <thread>
 #include <vector>
 
-#include "almanac/search.h"
+#include "almanac/search/search.h"
 #include "astro/angle.h"
 #include "tests/almanac/plain_conditions.h"
 #include "tests/almanac/random_conditions.h"

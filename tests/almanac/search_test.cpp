@@ -1,14 +1,14 @@
 // What the search hands on at the edges of ranges and of the world.
-#include "almanac/search.h"
+#include "almanac/search/search.h"
 
 #include <algorithm>
 #include <cmath>
 #include <gtest/gtest.h>
 #include <limits>
 
-#include "almanac/condition_reader.h"
-#include "almanac/events.h"
-#include "almanac/inquiry.h"
+#include "almanac/events/events.h"
+#include "almanac/search/condition_reader.h"
+#include "almanac/search/inquiry.h"
 #include "astro/calendar.h"
 #include "tests/almanac/plain_conditions.h"
 

@@ -1,12 +1,12 @@
 // `veyruna events`: what happens in a stretch of time, from several places.
-#include "almanac/events.h"
+#include "almanac/events/events.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
 #include <map>
 #include <sstream>
 
-#include "almanac/event_words.h"
+#include "almanac/events/event_words.h"
 #include "astro/calendar.h"
 #include "astro/local_time.h"
 #include "cli/program/command_line.h"

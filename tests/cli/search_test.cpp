@@ -1,5 +1,5 @@
 // `veyruna search`: when conditions hold, and what is said where they cannot be read.
-#include "almanac/search.h"
+#include "almanac/search/search.h"
 
 #include <cstdio>
 #include <filesystem>
@@ -9,7 +9,7 @@
 #include <regex>
 #include <sstream>
 
-#include "almanac/condition_reader.h"
+#include "almanac/search/condition_reader.h"
 #include "astro/angle.h"
 #include "astro/calendar.h"
 #include "astro/local_time.h"

@@ -4,7 +4,7 @@
 #include <functional>
 #include <gtest/gtest.h>
 
-#include "almanac/events.h"
+#include "almanac/events/events.h"
 #include "documents/documents.h"
 #include "reports/ephemeris.h"
 

@@ -6,7 +6,7 @@
 #include <map>
 #include <set>
 
-#include "almanac/events.h"
+#include "almanac/events/events.h"
 #include "astro/calendar.h"
 #include "notes/calendar_definition.h"
 #include "notes/note_text.h"

@@ -1,11 +1,11 @@
 // A record of an event says what the event is, and nothing that it is not.
-#include "almanac/events.h"
+#include "almanac/events/events.h"
 
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 #include <set>
 
-#include "almanac/event_words.h"
+#include "almanac/events/event_words.h"
 #include "astro/angle.h"
 #include "astro/calendar.h"
 #include "astro/local_time.h"
