@@ -31,16 +31,21 @@ inline double daysUntilReached(double distance, double rate, double bend) {
   return (rate + std::sqrt(rate * rate + 2.0 * bend * distance)) / bend;
 }
 
-/// To the last double: a change has one moment then, from wherever it was sought.
-inline constexpr double toTheLastDouble = 0.0;
+/// How near the moment of a change is found.
+struct Precision {
+  double days = leastStepDays;
+};
+
+/// A change has one moment then, from wherever it was sought.
+inline constexpr Precision toTheLastDouble{.days = 0.0};
 
 /// The first moment after `from`, not after `to`, at which what `stateAt` tells has changed, found
-/// to within `precisionDays`. Nothing where it never does.
+/// to within the precision. Nothing where it never does.
 /// `to` may be earlier than `from`: then the last such moment before it, and what `unchangedFor`
 /// says must hold backwards.
 template <class StateAt>
 std::optional<double> nextChange(StateAt stateAt, double from, double to,
-                                 double precisionDays = leastStepDays) {
+                                 Precision precision = {}) {
   const double direction = to < from ? -1.0 : 1.0;
   double before = from;
   State state = stateAt(before);
@@ -54,7 +59,7 @@ std::optional<double> nextChange(StateAt stateAt, double from, double to,
     }
     state = stateAt(after);
     if (state.holds != held) {
-      while (std::abs(after - before) > precisionDays) {
+      while (std::abs(after - before) > precision.days) {
         const double middle = std::midpoint(before, after);
         if (middle == before || middle == after) {
           break;
