@@ -66,7 +66,8 @@ std::multiset<Dot> dotsOf(const ChartMarks& marks) {
   return dots;
 }
 
-/// The dots that are drawn and not cut off by an edge, but for what is part of the page itself.
+/// The dots that are drawn and not cut off by an edge, but for what is part of the page itself, as
+/// is the hollow circle of a latitude, which is small near a pole.
 std::multiset<Dot> dotsOf(const std::vector<XmlElement>& elements, double edge) {
   std::multiset<Dot> dots;
   for (const XmlElement& circle : select(elements, "circle")) {
@@ -74,7 +75,9 @@ std::multiset<Dot> dotsOf(const std::vector<XmlElement>& elements, double edge) 
     const double x = circle.number("cx");
     const double y = circle.number("cy");
     const double radius = circle.number("r");
-    if (radius <= largest && std::hypot(x - 180.0, y - 180.0) - radius < edge) {
+    const auto fill = circle.attributes.find("fill");
+    const bool isHollow = fill != circle.attributes.end() && fill->second == "none";
+    if (!isHollow && radius <= largest && std::hypot(x - 180.0, y - 180.0) - radius < edge) {
       dots.insert(dot(x, y, radius));
     }
   }
@@ -124,6 +127,12 @@ RC_GTEST_PROP(Marks, AreTheDotsThatAreDrawn, ()) {
             std::vector<Dot>());
   const Drawn wheel = drawnHoroscope(observer);
   RC_ASSERT(difference(dotsOf(wheel.marks), dotsOf(wheel.elements, 180.0), 180.0) ==
+            std::vector<Dot>());
+}
+
+TEST(Marks, TheCircleOfALatitudeNearThePoleIsNoDot) {
+  const Drawn wheel = drawnHoroscope({.baseTime = -1e6, .latitude = 1.53, .longitude = 0.0});
+  EXPECT_EQ(difference(dotsOf(wheel.marks), dotsOf(wheel.elements, 180.0), 180.0),
             std::vector<Dot>());
 }
 
