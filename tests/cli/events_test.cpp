@@ -150,13 +150,6 @@ TEST(EventsCommand, GoesToAFileOrEndsWithItsReader) {
   EXPECT_EQ(outcome.err, "");
 }
 
-TEST(EventsCommand, MemoryDoesNotGrowWithTheStretch) {
-  const Outcome outcome = tests::run(
-      {.arguments = words("events --from 1-1-1 --for 20000 years --kind moon -o /dev/null"),
-       .addressSpace = std::size_t{512} << 20U});
-  EXPECT_EQ(outcome.status, cli::succeeded) << outcome.err;
-}
-
 TEST(EventsCommand, RefusesWhatItCannotUse) {
   const std::string from = "--from 720-01-01 ";
   const std::map<std::string, std::string> refusals = {

@@ -213,14 +213,6 @@ TEST(SearchCommand, GoesToAFileOrEndsWithItsReader) {
   EXPECT_EQ(endless.outcome().err, "");
 }
 
-TEST(SearchCommand, MemoryDoesNotGrowWithTheStretch) {
-  const Outcome outcome =
-      tests::run({.arguments = searchFor({"any of (moon full; moon new)"},
-                                         "--from 1-1-1 --for 20000 years -o /dev/null"),
-                  .addressSpace = std::size_t{512} << 20U});
-  EXPECT_EQ(outcome.status, cli::succeeded) << outcome.err;
-}
-
 TEST(SearchCommand, TellsHowFarItIsOnATerminalOnly) {
   tests::Process slow({.arguments = searchFor({"pallox natal strong", "moon full"},
                                               ashore + "--from 1-1-1 --for 2700000 years "

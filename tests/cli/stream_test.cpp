@@ -20,11 +20,9 @@
 namespace veyruna {
 namespace {
 
-using tests::Invocation;
 using tests::Outcome;
 using tests::Process;
 using tests::run;
-using tests::runWith;
 using tests::words;
 
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
@@ -141,27 +139,40 @@ TEST(Locale, ADecimalCommaChangesNothing) {
   EXPECT_EQ(refused.status, 2);
 }
 
-/// Whether a table can be written in so much address space. The peak that wait4 tells would not do:
-/// it begins with the memory of the tests themselves.
-bool fitsInto(std::size_t bytes, const std::string& table) {
+/// Whether a command can write in so much address space. The peak that wait4 tells would not do: it
+/// begins with the memory of the tests themselves.
+bool fitsInto(std::size_t bytes, const std::string& command) {
   const Outcome outcome =
-      run({.arguments = words(table), .standardOutput = "/dev/null", .addressSpace = bytes});
+      run({.arguments = words(command), .standardOutput = "/dev/null", .addressSpace = bytes});
   return outcome.status == 0 && outcome.err.empty();
 }
 
-TEST(Memory, ALongTableNeedsNoMoreThanADay) {
+/// The same command, of little and of much.
+struct Lengths {
+  std::string little;
+  std::string much;
+};
+
+TEST(Memory, WhatIsLongNeedsNoMoreThanWhatIsShort) {
   if (isSanitized) {
     GTEST_SKIP() << "a sanitizer's own memory is far larger";
   }
   constexpr std::size_t mebibyte = 1U << 20U;
-  for (const std::string table : {"conjunctions", "ephemeris"}) {
-    const std::string rows = table + " --step 1/24 --rows ";
+  const std::string table = " --step 1/24 --rows ";
+  const std::string years = " --from 1-1-1 --for ";
+  for (const auto& [little, much] : std::vector<Lengths>{
+           {"conjunctions" + table + "24", "conjunctions" + table + "720000"},
+           {"ephemeris" + table + "24", "ephemeris" + table + "720000"},
+           {"events --kind moon" + years + "1 year", "events --kind moon" + years + "20000 years"},
+           {"events --kind moon --format json" + years + "1 year",
+            "events --kind moon --format json" + years + "20000 years"},
+           {"search eclipse" + years + "1 year", "search eclipse" + years + "20000 years"}}) {
     std::size_t enough = 1;
-    while (!fitsInto(enough * mebibyte, rows + "24")) {
+    while (!fitsInto(enough * mebibyte, little)) {
       ++enough;
-      ASSERT_LT(enough, 512U) << table;
+      ASSERT_LT(enough, 512U) << little;
     }
-    EXPECT_TRUE(fitsInto((enough + 1) * mebibyte, rows + "720000")) << table << enough;
+    EXPECT_TRUE(fitsInto((enough + 1) * mebibyte, much)) << much << enough;
   }
 }
 
