@@ -2,24 +2,12 @@
 
 #include <nlohmann/json.hpp>
 
-#include "astro/number_text.h"
 #include "notes/calendar_definition.h"
 #include "notes/note_text.h"
 
 namespace veyruna::notes {
 
 namespace {
-
-/// "720-06-12", as the event's label begins.
-std::string dateText(const astro::CalendarMoment& moment) {
-  std::string text;
-  astro::appendPaddedInteger(text, moment.year, 3);
-  text += '-';
-  astro::appendPaddedInteger(text, moment.month, 2);
-  text += '-';
-  astro::appendPaddedInteger(text, moment.day, 2);
-  return text;
-}
 
 std::string headLine(std::string_view key, std::string_view text) {
   return std::string(key) + ": " + yamlText(text) + "\n";

@@ -4,7 +4,7 @@
 #include <bit>
 #include <cstdint>
 
-#include "astro/number_text.h"
+#include "notes/note_text.h"
 #include "records/sky_fields.h"
 
 namespace veyruna::notes {
@@ -79,13 +79,7 @@ std::string placeWord(const records::Lookout& lookout) {
 /// "720-06-12-pm". The moment itself may have another last digit where it was sought from
 /// elsewhere; half a day changes for one event in a thousand million.
 std::string halfDay(const astro::CalendarMoment& moment) {
-  std::string text;
-  astro::appendPaddedInteger(text, moment.year, 3);
-  text += '-';
-  astro::appendPaddedInteger(text, moment.month, 2);
-  text += '-';
-  astro::appendPaddedInteger(text, moment.day, 2);
-  return text + (moment.hour < 12 ? "-am" : "-pm");
+  return dateText(moment) + (moment.hour < 12 ? "-am" : "-pm");
 }
 
 }  // namespace

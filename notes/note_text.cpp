@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "astro/number_text.h"
 #include "records/json_text.h"
 
 namespace veyruna::notes {
@@ -69,6 +70,16 @@ std::string shortened(const std::string& text, std::size_t characters) {
       return text.substr(0, cut) + "…";
     }
   }
+  return text;
+}
+
+std::string dateText(const astro::CalendarMoment& moment) {
+  std::string text;
+  astro::appendPaddedInteger(text, moment.year, 3);
+  text += '-';
+  astro::appendPaddedInteger(text, moment.month, 2);
+  text += '-';
+  astro::appendPaddedInteger(text, moment.day, 2);
   return text;
 }
 
