@@ -1,9 +1,9 @@
 #include "astro/clock.h"
 
-#include <charconv>
 #include <cmath>
 #include <limits>
 
+#include "astro/number_conversion.h"
 #include "astro/number_text.h"
 
 namespace veyruna::astro {
@@ -23,10 +23,7 @@ std::optional<double> numberFromText(std::string_view text) {
   if (text.size() > 1 && text.front() == '+' && text[1] != '-') {
     text.remove_prefix(1);
   }
-  double number = 0.0;
-  const char* const end = text.data() + text.size();
-  const auto read = std::from_chars(text.data(), end, number);
-  return read.ec == std::errc{} && read.ptr == end ? std::optional(number) : std::nullopt;
+  return readDouble(text);
 }
 
 }  // namespace

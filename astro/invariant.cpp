@@ -5,14 +5,16 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include "astro/number_conversion.h"
+
 namespace veyruna::astro {
 
 void InvariantValue::print() const noexcept {
-  std::array<char, 32> text{};  // room for any double and any 64-bit integer
-  char* const end = text.data() + text.size();
-  const auto written =
-      isWhole_ ? std::to_chars(text.data(), end, whole_) : std::to_chars(text.data(), end, real_);
-  std::fwrite(text.data(), 1, static_cast<std::size_t>(written.ptr - text.data()), stderr);
+  std::array<char, longestShortestText> text{};  // and for any 64-bit integer
+  const char* const end = isWhole_
+                              ? std::to_chars(text.data(), text.data() + text.size(), whole_).ptr
+                              : writeShortest(text.data(), real_);
+  std::fwrite(text.data(), 1, static_cast<std::size_t>(end - text.data()), stderr);
 }
 
 void stopOnBrokenInvariant(const char* what,

@@ -2,17 +2,14 @@
 
 #include <algorithm>
 #include <array>
-#include <charconv>
 #include <cmath>
 
 #include "astro/invariant.h"
+#include "astro/number_conversion.h"
 
 namespace veyruna::astro {
 
 namespace {
-
-/// Room for the longest fixed text of a double: 309 digits, sign, point and nine decimals.
-constexpr std::size_t longestFixedText = 336;
 
 constexpr std::array<std::int64_t, 10> powersOfTen = {
     1, 10, 100, 1'000, 10'000, 100'000, 1'000'000, 10'000'000, 100'000'000, 1'000'000'000};
@@ -50,9 +47,8 @@ char* writeMagnitudeBackwards(char* end, double magnitude, int decimals) {
   const std::int64_t scaled = scaledIfCertain(magnitude, decimals);
   if (scaled < 0) {
     std::array<char, longestFixedText> forwards{};
-    const auto written = std::to_chars(forwards.data(), forwards.data() + forwards.size(),
-                                       magnitude, std::chars_format::fixed, decimals);
-    return std::copy_backward(forwards.data(), written.ptr, end);
+    char* const written = writeFixed(forwards.data(), magnitude, decimals);
+    return std::copy_backward(forwards.data(), written, end);
   }
   auto digits = static_cast<std::uint64_t>(scaled);
   if (decimals > 0) {
@@ -117,10 +113,8 @@ void appendPaddedInteger(std::string& out, std::int64_t value, int width) {
 }
 
 std::string shortestText(double value) {
-  std::array<char, 32> buffer{};
-  const auto written = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value);
-  requireInvariant(written.ec == std::errc{}, "the shortest text of a double fits", value);
-  return {buffer.data(), written.ptr};
+  std::array<char, longestShortestText> buffer{};
+  return {buffer.data(), writeShortest(buffer.data(), value)};
 }
 
 }  // namespace veyruna::astro

@@ -1,9 +1,11 @@
 #include "charts/catalogue_reader.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cmath>
+#include <optional>
 #include <string>
+
+#include "astro/number_conversion.h"
 
 namespace veyruna::charts {
 
@@ -53,12 +55,11 @@ void forEachRow(const Table& table, ReadRow readRow) {
 }
 
 double numberIn(std::string_view line, std::string_view field) {
-  double number = 0.0;
-  const auto read = std::from_chars(field.data(), field.data() + field.size(), number);
-  if (read.ec != std::errc{} || read.ptr != field.data() + field.size() || !std::isfinite(number)) {
+  const std::optional<double> number = astro::readDouble(field);
+  if (!number || !std::isfinite(*number)) {
     refuse(line, "\"" + std::string(field) + "\" is not a number");
   }
-  return number;
+  return *number;
 }
 
 bool isColor(std::string_view text) {

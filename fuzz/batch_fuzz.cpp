@@ -12,9 +12,9 @@
 #include "cli/batch/row_files.h"
 #include "cli/batch/rows.h"
 #include "cli/batch/summary.h"
-#include "cli/typed/errors.h"
-#include "cli/typed/quoting.h"
 #include "fuzz/target.h"
+#include "words/quoting.h"
+#include "words/usage_error.h"
 
 using namespace veyruna;
 using cli::BatchRow;
@@ -24,13 +24,13 @@ namespace {
 
 cli::Place placeNamed(const std::string& name) {
   if (name != "Ebb") {
-    throw cli::UsageError("place: " + cli::inQuotes(name) + " is not a saved place");
+    throw words::UsageError("place: " + words::inQuotes(name) + " is not a saved place");
   }
   return cli::placeAt(0.5, -2.0);
 }
 
 void expectOneLine(const std::string& message) {
-  promise(!message.empty() && cli::isUtf8(message), "a message is UTF-8");
+  promise(!message.empty() && words::isUtf8(message), "a message is UTF-8");
   promise(std::ranges::none_of(message, [](char c) { return c >= '\0' && c < ' '; }),
           "a message is one line");
 }
@@ -38,7 +38,7 @@ void expectOneLine(const std::string& message) {
 void tryNames(const std::vector<std::string>& names, std::set<QString>& taken) {
   constexpr std::string_view refusedBySome = "/\\:*?\"<>|\x7F";
   for (const std::string& name : names) {
-    promise(cli::isUtf8(name) && name.size() <= 255, "a name fits");
+    promise(words::isUtf8(name) && name.size() <= 255, "a name fits");
     promise(name.front() != '.' && name.find_first_of(refusedBySome) == std::string::npos &&
                 std::ranges::none_of(name, [](char c) { return c >= '\0' && c < ' '; }),
             "a name is taken everywhere");
@@ -74,7 +74,7 @@ void tryRows(const std::vector<BatchRow>& rows) {
     }
   }
   const std::string summary = cli::summaryText(rows, outcomes);
-  promise(cli::isUtf8(summary) &&
+  promise(words::isUtf8(summary) &&
               std::ranges::count(summary, '\n') == static_cast<std::ptrdiff_t>(rows.size()) + 3,
           "the summary has a line for each row");
 }
@@ -90,7 +90,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     }
     try {
       tryRows(cli::readRows(bytes, defaults, placeNamed));
-    } catch (const cli::UsageError& error) {
+    } catch (const words::UsageError& error) {
       expectOneLine(error.what());
     }
   }

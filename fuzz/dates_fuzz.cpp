@@ -6,9 +6,9 @@
 
 #include "astro/angle.h"
 #include "astro/calendar.h"
-#include "cli/typed/dates.h"
-#include "cli/typed/errors.h"
 #include "fuzz/target.h"
+#include "words/dates.h"
+#include "words/usage_error.h"
 
 using namespace veyruna;
 using fuzz::promise;
@@ -20,7 +20,7 @@ template <class Read>
 std::optional<double> accepted(Read read) {
   try {
     return read();
-  } catch (const cli::UsageError& error) {
+  } catch (const words::UsageError& error) {
     const std::string message = error.what();
     promise(message.starts_with("--from: \""), "a refusal names what was typed");
     promise(message.find('\n') == std::string::npos, "a refusal is one line");
@@ -29,8 +29,8 @@ std::optional<double> accepted(Read read) {
 }
 
 void tryAsMoment(const std::string& text) {
-  const auto moment = accepted([&] { return cli::readMoment("--from", text); });
-  const auto local = accepted([&] { return cli::readMoment("--from", text, astro::pi / 3.0); });
+  const auto moment = accepted([&] { return words::readMoment("--from", text); });
+  const auto local = accepted([&] { return words::readMoment("--from", text, astro::pi / 3.0); });
   if (!moment) {
     return;
   }
@@ -45,11 +45,11 @@ void tryAsMoment(const std::string& text) {
   const std::string label = astro::calendarLabel(*moment);
   const std::string again =
       label.substr(0, label.find(' ')) + "T" + label.substr(label.find(' ') + 1, 5);
-  promise(cli::readMoment("--from", again) == *moment, "a date reads back the same");
+  promise(words::readMoment("--from", again) == *moment, "a date reads back the same");
 }
 
 void tryAsLength(const std::string& text) {
-  if (const auto days = accepted([&] { return cli::readLength("--from", text); })) {
+  if (const auto days = accepted([&] { return words::readLength("--from", text); })) {
     promise(*days >= 0.0, "a length is not below 0");
   }
 }

@@ -5,6 +5,7 @@
 
 #include "almanac/search/condition_reader.h"
 #include "astro/clock.h"
+#include "astro/number_conversion.h"
 
 namespace veyruna::almanac {
 
@@ -22,11 +23,8 @@ std::optional<double> numberFrom(std::string text) {
   } else if (text.size() > 1 && text.front() == '+' && text[1] != '-') {
     text.erase(0, 1);
   }
-  double number = 0.0;
-  const char* const end = text.data() + text.size();
-  const auto [last, error] = std::from_chars(text.data(), end, number);
-  return error == std::errc{} && last == end && std::isfinite(number) ? std::optional(number)
-                                                                      : std::nullopt;
+  const std::optional<double> number = astro::readDouble(text);
+  return number && std::isfinite(*number) ? number : std::nullopt;
 }
 
 }  // namespace

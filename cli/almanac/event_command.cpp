@@ -9,12 +9,12 @@
 #include "cli/almanac/event_output.h"
 #include "cli/almanac/note_output.h"
 #include "cli/almanac/range.h"
-#include "cli/typed/arguments.h"
-#include "cli/typed/errors.h"
-#include "cli/typed/quoting.h"
 #include "cli/written/asked_forms.h"
 #include "cli/written/document_writer.h"
 #include "cli/written/progress.h"
+#include "words/quoting.h"
+#include "words/usage_error.h"
+#include "words/values.h"
 
 namespace veyruna::cli {
 
@@ -25,14 +25,14 @@ documents::Form formOfEvents(const Typed& typed) {
   const documents::Kind kind = documents::Kind::log;
   const auto form = documents::formOf(typed.formats);
   if (!typed.formats.empty() && !(form && documents::canBe(kind, *form))) {
-    refuse("--format", typed.formats,
-           "one of txt, json, jsonl, csv, " + noteToolWords() + " for events");
+    words::refuse("--format", typed.formats,
+                  "one of txt, json, jsonl, csv, " + noteToolWords() + " for events");
   }
   for (const auto& [option, value] :
        {std::pair("--out", typed.folder), std::pair("--visibility", typed.visibility)}) {
     if (!value.empty()) {
-      throw UsageError(std::string(option) + " " + inQuotes(value) + " belongs to --format " +
-                       noteToolWords(" and "));
+      throw words::UsageError(std::string(option) + " " + words::inQuotes(value) +
+                              " belongs to --format " + noteToolWords(" and "));
     }
   }
   const std::vector<documents::Form> forms = askedForms(typed, kind);

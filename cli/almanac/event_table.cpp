@@ -9,7 +9,7 @@
 #include "astro/calendar.h"
 #include "astro/local_time.h"
 #include "astro/number_text.h"
-#include "cli/typed/quoting.h"
+#include "words/quoting.h"
 
 namespace veyruna::cli {
 
@@ -55,7 +55,7 @@ EventTable::EventTable(const almanac::Range& range, const std::vector<Place>& pl
                             astro::calendarLabel(range.to).size())) {
   if (places.size() > 1) {
     for (const Place& place : places) {
-      placeWidth_ = std::max(placeWidth_, charactersOf(asListed(place.words)));
+      placeWidth_ = std::max(placeWidth_, charactersOf(words::asListed(place.words)));
     }
   }
 }
@@ -94,7 +94,7 @@ std::string EventTable::seenFrom(const almanac::Event& event, const Place& place
   const std::string seen = column(astro::localClockLabel(observer), 5) +
                            angleColumn(sight.altitude, 8) + angleColumn(sight.azimuth, 7) +
                            column(sight.isSeen ? "yes" : "no", 4);
-  return placeWidth_ > 0 ? seen + column(asListed(place.words), placeWidth_) : seen;
+  return placeWidth_ > 0 ? seen + column(words::asListed(place.words), placeWidth_) : seen;
 }
 
 }  // namespace veyruna::cli

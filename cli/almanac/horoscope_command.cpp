@@ -5,8 +5,8 @@
 
 #include "astro/angle.h"
 #include "astro/number_text.h"
-#include "cli/typed/arguments.h"
-#include "cli/typed/quoting.h"
+#include "words/quoting.h"
+#include "words/values.h"
 
 namespace veyruna::cli {
 
@@ -26,7 +26,7 @@ std::string degreesText(double radians) {
   for (int decimals = 0; decimals < 10; ++decimals) {
     std::string text;
     astro::appendFixed(text, degrees, decimals);
-    if (astro::radiansOf(numberOf(text).value_or(degrees)) == radians) {
+    if (astro::radiansOf(words::numberOf(text).value_or(degrees)) == radians) {
       return text;
     }
   }
@@ -39,7 +39,7 @@ HoroscopeCommand::HoroscopeCommand(const Typed& typed, const std::optional<Place
   if (!place) {
     return;
   }
-  const std::optional<std::string> name = asShellWord(typed.location);
+  const std::optional<std::string> name = words::asShellWord(typed.location);
   if (!typed.location.empty() && name) {
     placeOptions_ = (typed.location.starts_with('-') ? " --location=" : " --location ") + *name;
   } else {

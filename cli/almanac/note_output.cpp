@@ -5,13 +5,14 @@
 #include <system_error>
 
 #include "astro/calendar.h"
-#include "cli/typed/arguments.h"
 #include "cli/typed/errors.h"
-#include "cli/typed/quoting.h"
 #include "cli/written/document_writer.h"
 #include "notes/calendarium.h"
 #include "notes/note.h"
 #include "notes/seasons_stars.h"
+#include "words/quoting.h"
+#include "words/usage_error.h"
+#include "words/values.h"
 
 namespace veyruna::cli {
 
@@ -27,10 +28,10 @@ Visibility visibilityOf(const Typed& typed, const std::vector<Place>& places) {
     return Visibility::gameMaster;
   }
   if (typed.visibility != "player") {
-    refuse("--visibility", typed.visibility, "gm or player");
+    words::refuse("--visibility", typed.visibility, "gm or player");
   }
   if (places.empty()) {
-    throw UsageError(
+    throw words::UsageError(
         "--visibility \"player\" is what can be seen in the sky, which needs a place; give one "
         "with "
         "--location, or with --lat and --long");
@@ -71,7 +72,8 @@ class CalendariumOutput final : public NoteOutput {
     std::error_code error;
     std::filesystem::create_directories(folder_, error);
     if (error) {
-      throw WriteError("cannot make the folder " + inQuotes(typed.folder) + ": " + error.message());
+      throw WriteError("cannot make the folder " + words::inQuotes(typed.folder) + ": " +
+                       error.message());
     }
   }
 
@@ -129,18 +131,19 @@ std::unique_ptr<EventOutput> noteOutput(NoteTool tool, const Typed& typed,
   const Visibility visibility = visibilityOf(typed, places);
   const std::optional<astro::CalendarMoment> beginning = astro::calendarMoment(range.from);
   if (!beginning) {
-    throw UsageError("--from: " + inQuotes(typed.from) +
-                     " is before the first midnight, where the calendar has no dates; give "
-                     "1-01-01 or later");
+    throw words::UsageError("--from: " + words::inQuotes(typed.from) +
+                            " is before the first midnight, where the calendar has no dates; give "
+                            "1-01-01 or later");
   }
   if (tool == NoteTool::seasonsStars) {
     if (!typed.folder.empty()) {
-      throw UsageError("--format seasons-stars writes one file; give -o FILE instead of --out");
+      throw words::UsageError(
+          "--format seasons-stars writes one file; give -o FILE instead of --out");
     }
     return std::make_unique<SeasonsStarsOutput>(typed, beginning->year, visibility, places);
   }
   if (typed.folder.empty() || typed.file != "-") {
-    throw UsageError(
+    throw words::UsageError(
         "--format calendarium writes a note for each event; it needs --out DIR, and "
         "takes no -o");
   }

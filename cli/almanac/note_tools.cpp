@@ -4,13 +4,13 @@
 #include <array>
 #include <string_view>
 
-#include "cli/typed/arguments.h"
-#include "cli/typed/dates.h"
-#include "cli/typed/errors.h"
 #include "cli/written/asked_forms.h"
 #include "cli/written/document_writer.h"
 #include "notes/calendarium.h"
 #include "notes/seasons_stars.h"
+#include "words/dates.h"
+#include "words/usage_error.h"
+#include "words/values.h"
 
 namespace veyruna::cli {
 
@@ -43,12 +43,13 @@ void writeCalendar(const Typed& typed) {
   const std::optional<NoteTool> tool = noteToolOf(typed.formats);
   if (!tool) {
     if (typed.formats.empty()) {
-      throw UsageError("calendar needs --format " + noteToolWords() +
-                       ": the tool that it is written for");
+      throw words::UsageError("calendar needs --format " + noteToolWords() +
+                              ": the tool that it is written for");
     }
-    refuse("--format", typed.formats, noteToolWords() + " for calendar");
+    words::refuse("--format", typed.formats, noteToolWords() + " for calendar");
   }
-  const std::int64_t year = readWholeNumber("--year", typed.year, firstYear, lastYear);
+  const std::int64_t year =
+      words::readWholeNumber("--year", typed.year, words::firstYear, words::lastYear);
   const std::string text = *tool == NoteTool::calendarium ? notes::calendariumCalendar(year)
                                                           : notes::seasonsStarsCalendar(year);
   DocumentWriter writer = DocumentWriter::to(typed.file);

@@ -1,10 +1,10 @@
 #include "cli/almanac/range.h"
 
-#include "cli/typed/arguments.h"
-#include "cli/typed/dates.h"
-#include "cli/typed/errors.h"
-#include "cli/typed/quoting.h"
 #include "cli/typed/sky.h"
+#include "words/dates.h"
+#include "words/quoting.h"
+#include "words/usage_error.h"
+#include "words/values.h"
 
 namespace veyruna::cli {
 
@@ -18,7 +18,7 @@ std::optional<double> clocksLongitude(const Typed& typed, const std::vector<Plac
     return std::nullopt;
   }
   if (places.size() != 1) {
-    throw UsageError(
+    throw words::UsageError(
         "--local: local clocks are those of one place; give it with --location, or with --lat and "
         "--long");
   }
@@ -27,14 +27,14 @@ std::optional<double> clocksLongitude(const Typed& typed, const std::vector<Plac
 
 double endOf(const Typed& typed, double from, std::optional<double> longitude) {
   if (typed.to.empty() == typed.length.empty()) {
-    throw UsageError(typed.to.empty()
-                         ? typed.command + " needs an end: --to DATE, or --for N UNIT" + example
-                         : "--to " + inQuotes(typed.to) + " and --for " + inQuotes(typed.length) +
-                               " name two ends; give one");
+    throw words::UsageError(
+        typed.to.empty() ? typed.command + " needs an end: --to DATE, or --for N UNIT" + example
+                         : "--to " + words::inQuotes(typed.to) + " and --for " +
+                               words::inQuotes(typed.length) + " name two ends; give one");
   }
-  return typed.to.empty() ? checkedBaseTime(from + readLength("--for", typed.length),
-                                            "--for: " + inQuotes(typed.length))
-                          : readMoment("--to", typed.to, longitude);
+  return typed.to.empty() ? words::checkedBaseTime(from + words::readLength("--for", typed.length),
+                                                   "--for: " + words::inQuotes(typed.length))
+                          : words::readMoment("--to", typed.to, longitude);
 }
 
 }  // namespace
@@ -48,13 +48,14 @@ std::vector<Place> placesOf(const Typed& typed) {
 
 almanac::Range rangeOf(const Typed& typed, const std::vector<Place>& places) {
   if (typed.from.empty()) {
-    throw UsageError(typed.command + " needs a beginning: --from DATE" + example);
+    throw words::UsageError(typed.command + " needs a beginning: --from DATE" + example);
   }
   const std::optional<double> longitude = clocksLongitude(typed, places);
-  const double from = readMoment("--from", typed.from, longitude);
+  const double from = words::readMoment("--from", typed.from, longitude);
   const double to = endOf(typed, from, longitude);
   if (to < from) {
-    throw UsageError("--to: " + inQuotes(typed.to) + " is before --from " + inQuotes(typed.from));
+    throw words::UsageError("--to: " + words::inQuotes(typed.to) + " is before --from " +
+                            words::inQuotes(typed.from));
   }
   return {from, to};
 }

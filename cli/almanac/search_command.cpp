@@ -9,12 +9,12 @@
 #include "cli/almanac/asked_conditions.h"
 #include "cli/almanac/range.h"
 #include "cli/almanac/span_output.h"
-#include "cli/typed/arguments.h"
-#include "cli/typed/errors.h"
-#include "cli/typed/quoting.h"
 #include "cli/written/asked_forms.h"
 #include "cli/written/document_writer.h"
 #include "cli/written/progress.h"
+#include "words/quoting.h"
+#include "words/usage_error.h"
+#include "words/values.h"
 
 namespace veyruna::cli {
 
@@ -25,7 +25,7 @@ using almanac::Condition;
 /// The one place that was typed; a place that nobody typed is none.
 std::optional<Place> askedPlace(const Typed& typed) {
   if (typed.location == everyPlace) {
-    throw UsageError("--location: a search is from one place, not from \"all\"");
+    throw words::UsageError("--location: a search is from one place, not from \"all\"");
   }
   return typed.hasPlace ? std::optional(placesOf(typed).front()) : std::nullopt;
 }
@@ -33,9 +33,10 @@ std::optional<Place> askedPlace(const Typed& typed) {
 void requirePlace(const std::vector<Condition>& conditions, bool isLocal) {
   for (const Condition& condition : conditions) {
     if (almanac::needsPlace(condition, isLocal)) {
-      throw UsageError("condition " + inQuotes(textOf(condition)) +
-                       " is different from place to place; give one with --location, or with "
-                       "--lat and --long");
+      throw words::UsageError(
+          "condition " + words::inQuotes(textOf(condition)) +
+          " is different from place to place; give one with --location, or with "
+          "--lat and --long");
     }
   }
 }
@@ -43,7 +44,7 @@ void requirePlace(const std::vector<Condition>& conditions, bool isLocal) {
 std::int64_t askedCount(const Typed& typed) {
   constexpr std::int64_t most = 1'000'000'000;
   return typed.first.empty() ? std::numeric_limits<std::int64_t>::max()
-                             : readWholeNumber("--first", typed.first, 1, most);
+                             : words::readWholeNumber("--first", typed.first, 1, most);
 }
 
 }  // namespace

@@ -12,12 +12,13 @@
 #include "cli/batch/side_by_side.h"
 #include "cli/batch/summary.h"
 #include "cli/batch/table_file.h"
-#include "cli/typed/arguments.h"
 #include "cli/typed/errors.h"
-#include "cli/typed/quoting.h"
 #include "cli/written/asked_forms.h"
 #include "cli/written/document_writer.h"
 #include "cli/written/progress.h"
+#include "words/quoting.h"
+#include "words/usage_error.h"
+#include "words/values.h"
 
 namespace veyruna::cli {
 
@@ -47,8 +48,8 @@ std::vector<Document> listedDocuments(std::string_view list) {
     const std::string_view word = list.substr(from, comma - from);
     const auto* const found = std::ranges::find(documents::allDocuments, word, &Entry::command);
     if (word.empty() || found == documents::allDocuments.end()) {
-      refuse("--documents", list,
-             "one or several of " + allCommands() + ", with commas between them");
+      words::refuse("--documents", list,
+                    "one or several of " + allCommands() + ", with commas between them");
     }
     listed.push_back(found->document);
     from = comma + 1;
@@ -73,16 +74,16 @@ std::vector<RowFile> filesOf(const Typed& typed, const std::vector<Form>& forms)
       }
     }
     if (files.size() == before) {
-      refuse("--format", typed.formats,
-             "also one of " + documents::acceptedExtensions(entry.kind) + " for " +
-                 std::string(entry.command));
+      words::refuse("--format", typed.formats,
+                    "also one of " + documents::acceptedExtensions(entry.kind) + " for " +
+                        std::string(entry.command));
     }
   }
   return files;
 }
 
 RowDefaults defaultsOf(const Typed& typed) {
-  return {.hour = readHour(typed.hour),
+  return {.hour = words::readHour("--hour", typed.hour),
           .isLocal = typed.isLocal,
           .place = typed.hasPlace ? std::optional(placeOf(typed)) : std::nullopt};
 }
@@ -94,8 +95,8 @@ std::vector<BatchRow> rowsOf(const Typed& typed) {
   try {
     return readRows(content, defaults,
                     [](const std::string& name) { return savedPlace(name, "place"); });
-  } catch (const UsageError& error) {
-    throw UsageError(nameOfTable(typed.table) + ": " + error.what());
+  } catch (const words::UsageError& error) {
+    throw words::UsageError(nameOfTable(typed.table) + ": " + error.what());
   }
 }
 
@@ -104,10 +105,10 @@ void makeFolder(const std::string& folder) {
   std::error_code error;
   std::filesystem::create_directories(folder, error);
   if (error) {
-    throw WriteError("cannot make the folder " + inQuotes(folder) + ": " + error.message());
+    throw WriteError("cannot make the folder " + words::inQuotes(folder) + ": " + error.message());
   }
   if (faccessat(AT_FDCWD, folder.c_str(), W_OK | X_OK, AT_EACCESS) != 0) {
-    throw WriteError("cannot write into the folder " + inQuotes(folder) + ": " +
+    throw WriteError("cannot write into the folder " + words::inQuotes(folder) + ": " +
                      std::generic_category().message(errno));
   }
 }
@@ -129,7 +130,7 @@ BatchCommand::BatchCommand(const Typed& typed, const std::vector<Form>& forms,
       widthPixels_(askedWidth(typed, forms)),
       files_(filesOf(typed, forms)) {
   if (typed.table.empty() || typed.folder.empty() || typed.file != "-") {
-    throw UsageError(
+    throw words::UsageError(
         "batch needs a table and --out DIR, such as batch people.csv --out campaign, "
         "and takes no -o");
   }

@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
-#include "cli/typed/arguments.h"
-#include "cli/typed/errors.h"
-#include "cli/typed/quoting.h"
+#include "words/quoting.h"
+#include "words/usage_error.h"
+#include "words/values.h"
 
 namespace veyruna::cli {
 
@@ -13,7 +13,7 @@ namespace {
 std::string listed(const std::vector<std::string>& names) {
   std::string text;
   for (const std::string& name : names) {
-    text += (text.empty() ? "" : ", ") + inQuotes(name);
+    text += (text.empty() ? "" : ", ") + words::inQuotes(name);
   }
   return text;
 }
@@ -31,7 +31,7 @@ std::string allColumns() {
 Columns::Columns(const CsvRecord& header, bool needsPlace) : width_(header.fields.size()) {
   for (std::size_t i = 0; i < header.fields.size(); ++i) {
     const auto* const name = std::ranges::find_if(columnNames, [&](std::string_view known) {
-      return equalIgnoringCase(known, header.fields[i]);
+      return words::equalIgnoringCase(known, header.fields[i]);
     });
     if (name == columnNames.end()) {
       continue;
@@ -39,16 +39,16 @@ Columns::Columns(const CsvRecord& header, bool needsPlace) : width_(header.field
     std::optional<std::size_t>& index =
         indices_.at(static_cast<std::size_t>(name - columnNames.begin()));
     if (index) {
-      throw UsageError("the header has the column " + inQuotes(*name) +
-                       " twice: " + listed(header.fields));
+      throw words::UsageError("the header has the column " + words::inQuotes(*name) +
+                              " twice: " + listed(header.fields));
     }
     index = i;
   }
   for (const Column column : {Column::name, Column::date, Column::place}) {
     if (!indexOf(column) && (column != Column::place || needsPlace)) {
-      throw UsageError("the column " + inQuotes(columnNames.at(static_cast<std::size_t>(column))) +
-                       " is missing; the header has " + listed(header.fields) + ", known are " +
-                       allColumns());
+      throw words::UsageError(
+          "the column " + words::inQuotes(columnNames.at(static_cast<std::size_t>(column))) +
+          " is missing; the header has " + listed(header.fields) + ", known are " + allColumns());
     }
   }
 }

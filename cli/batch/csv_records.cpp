@@ -4,7 +4,7 @@
 #include <csv.h>
 #include <new>
 
-#include "cli/typed/quoting.h"
+#include "words/quoting.h"
 
 namespace veyruna::cli {
 
@@ -83,8 +83,9 @@ std::size_t readRecord(const std::vector<std::string_view>& lines, std::size_t f
                        char separator, CsvRecord& record) {
   Parser parser(separator, record);
   for (std::size_t i = first; i < lines.size(); ++i) {
-    if (!isUtf8(lines[i]) && record.problem.empty()) {
-      record.problem = "line " + std::to_string(i + 1) + " is no UTF-8: " + inQuotes(lines[i]);
+    if (!words::isUtf8(lines[i]) && record.problem.empty()) {
+      record.problem =
+          "line " + std::to_string(i + 1) + " is no UTF-8: " + words::inQuotes(lines[i]);
     }
     if (!parser.take(lines[i])) {
       record.problem =

@@ -4,8 +4,8 @@
 #include <stdexcept>
 #include <string_view>
 
-#include "cli/typed/arguments.h"
-#include "cli/typed/errors.h"
+#include "words/usage_error.h"
+#include "words/values.h"
 
 namespace veyruna::cli {
 
@@ -45,8 +45,8 @@ std::optional<Place> coordinatesOf(const std::string& text) {
   const std::size_t between = std::min(betweenNumbers(text), text.size());
   const std::size_t behind = std::min(between + 1, text.size());
   const std::string_view whole(text);
-  const std::optional<double> latitude = latitudeOf(withoutBlanks(whole.substr(0, between)));
-  const std::optional<double> longitude = longitudeOf(withoutBlanks(whole.substr(behind)));
+  const std::optional<double> latitude = words::latitudeOf(withoutBlanks(whole.substr(0, between)));
+  const std::optional<double> longitude = words::longitudeOf(withoutBlanks(whole.substr(behind)));
   return latitude && longitude ? std::optional(placeAt(*latitude, *longitude)) : std::nullopt;
 }
 
@@ -62,7 +62,7 @@ const Place& RowPlaces::of(const std::string& text) {
     }
   }
   if (!entry->second.place) {
-    throw UsageError(entry->second.problem);
+    throw words::UsageError(entry->second.problem);
   }
   return *entry->second.place;
 }
@@ -70,7 +70,7 @@ const Place& RowPlaces::of(const std::string& text) {
 Place RowPlaces::read(const std::string& text) const {
   if (text.empty()) {
     if (!usual_) {
-      refuse("place", text, acceptedPlaces);
+      words::refuse("place", text, acceptedPlaces);
     }
     return *usual_;
   }
@@ -81,11 +81,12 @@ Place RowPlaces::read(const std::string& text) const {
 Place RowPlaces::named(const std::string& text) const {
   try {
     return placeNamed_(text);
-  } catch (const UsageError& error) {
+  } catch (const words::UsageError& error) {
     if (beginsLikeNumber(text)) {
-      refuse("place", text, acceptedPlaces);
+      words::refuse("place", text, acceptedPlaces);
     }
-    throw UsageError(error.what() + std::string("; or give coordinates such as 40.5N 20.9W"));
+    throw words::UsageError(error.what() +
+                            std::string("; or give coordinates such as 40.5N 20.9W"));
   }
 }
 

@@ -9,8 +9,8 @@
 
 #include "cli/batch/side_by_side.h"
 #include "cli/documents/document_content.h"
-#include "cli/typed/quoting.h"
 #include "files/file_writer.h"
+#include "words/quoting.h"
 
 namespace veyruna::cli {
 
@@ -86,7 +86,7 @@ void RowWriter::writeFile(const std::string& name, const std::string& content,
     outcome.files.push_back(name);
     return;
   }
-  outcome.problem = "cannot write " + inQuotes(path) + ": " + error.message();
+  outcome.problem = "cannot write " + words::inQuotes(path) + ": " + error.message();
   outcome.isDiskFull = isFullDisk(error);
   isFull_ = isFull_ || outcome.isDiskFull;
 }

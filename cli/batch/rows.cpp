@@ -9,10 +9,10 @@
 #include "astro/clock.h"
 #include "astro/local_time.h"
 #include "cli/batch/columns.h"
-#include "cli/typed/arguments.h"
-#include "cli/typed/dates.h"
-#include "cli/typed/errors.h"
-#include "cli/typed/quoting.h"
+#include "words/dates.h"
+#include "words/quoting.h"
+#include "words/usage_error.h"
+#include "words/values.h"
 
 namespace veyruna::cli {
 
@@ -35,19 +35,19 @@ constexpr std::array<std::string_view, 3> noes = {"no", "false", "0"};
 
 bool isOneOf(std::span<const std::string_view> words, std::string_view text) {
   return std::ranges::any_of(
-      words, [text](std::string_view word) { return equalIgnoringCase(word, text); });
+      words, [text](std::string_view word) { return words::equalIgnoringCase(word, text); });
 }
 
 void readName(BatchRow& row) {
   if (row.name.empty()) {
-    refuse("name", row.name, "one, after which the files are called");
+    words::refuse("name", row.name, "one, after which the files are called");
   }
 }
 
 void readDate(BatchRow& row) {
-  const std::optional<astro::CalendarReading> day = dayOf(row.date);
+  const std::optional<astro::CalendarReading> day = words::dayOf(row.date);
   if (!day) {
-    refuse("date", row.date, acceptedDate);
+    words::refuse("date", row.date, acceptedDate);
   }
   const double hour = row.reading.hour;
   row.reading = *day;
@@ -57,7 +57,7 @@ void readDate(BatchRow& row) {
 double hourIn(std::string_view text, const RowDefaults& defaults) {
   const std::optional<double> hour = text.empty() ? defaults.hour : astro::hourFromText(text);
   if (!hour) {
-    refuse("hour", text, acceptedHour);
+    words::refuse("hour", text, words::acceptedHour);
   }
   return *hour;
 }
@@ -68,16 +68,17 @@ bool isLocalIn(std::string_view text, const RowDefaults& defaults) {
   }
   const bool isYes = isOneOf(yeses, text);
   if (!isYes && !isOneOf(noes, text)) {
-    refuse("local", text,
-           "yes, true, 1 or x where the hour is local time, else no, false, 0 or nothing");
+    words::refuse("local", text,
+                  "yes, true, 1 or x where the hour is local time, else no, false, 0 or nothing");
   }
   return isYes;
 }
 
 double baseTimeOf(const BatchRow& row, bool isLocal) {
-  return checkedBaseTime(isLocal ? astro::localBaseTime(row.reading, row.sky.observer.longitude)
-                                 : astro::standardBaseTime(row.reading),
-                         "date: " + inQuotes(row.date));
+  return words::checkedBaseTime(isLocal
+                                    ? astro::localBaseTime(row.reading, row.sky.observer.longitude)
+                                    : astro::standardBaseTime(row.reading),
+                                "date: " + words::inQuotes(row.date));
 }
 
 /// Does a part of reading a row, and notes why it cannot be done.
@@ -85,7 +86,7 @@ template <class Part>
 void noting(BatchRow& row, Part part) {
   try {
     part();
-  } catch (const UsageError& error) {
+  } catch (const words::UsageError& error) {
     row.problems.emplace_back(error.what());
   }
 }
@@ -115,13 +116,13 @@ std::vector<BatchRow> readRows(std::string_view bytes, const RowDefaults& defaul
                                const PlaceFinder& placeNamed) {
   const std::vector<CsvRecord> records = csvRecords(bytes);
   if (records.empty()) {
-    throw UsageError(
+    throw words::UsageError(
         "it is empty; its first line is to name the columns, such as name, date, hour, local, "
         "place");
   }
   if (!records.front().problem.empty()) {
-    throw UsageError("line " + std::to_string(records.front().line) + ": " +
-                     records.front().problem);
+    throw words::UsageError("line " + std::to_string(records.front().line) + ": " +
+                            records.front().problem);
   }
   const Columns columns(records.front(), !defaults.place);
   RowPlaces places(defaults.place, placeNamed);

@@ -4,8 +4,8 @@
 #include <algorithm>
 #include <array>
 
-#include "cli/typed/quoting.h"
 #include "documents/documents.h"
+#include "words/quoting.h"
 
 namespace veyruna::cli {
 
@@ -35,10 +35,10 @@ Cells cellsOf(const BatchRow& row, const RowOutcome& outcome) {
   if (!outcome.problem.empty()) {
     last.push_back("not written: " + outcome.problem);
   }
-  return {std::to_string(row.line), asListed(row.name),
+  return {std::to_string(row.line), words::asListed(row.name),
           isUsable ? documents::textOf(documents::Document::date, row.sky.observer)
-                   : asListed(row.date),
-          asListed(isUsable ? row.sky.place : row.place), joined(last, ", ")};
+                   : words::asListed(row.date),
+          words::asListed(isUsable ? row.sky.place : row.place), joined(last, ", ")};
 }
 
 std::string lineOf(const Cells& cells, const std::array<qsizetype, 4>& widths) {

@@ -7,8 +7,8 @@
 #include <system_error>
 #include <unistd.h>
 
-#include "cli/typed/quoting.h"
 #include "files/descriptor.h"
+#include "words/quoting.h"
 
 namespace veyruna::cli {
 
@@ -51,7 +51,7 @@ std::string contentOfTable(const std::string& file) {
 }
 
 std::string nameOfTable(const std::string& file) {
-  return file == "-" ? "standard input" : inQuotes(file);
+  return file == "-" ? "standard input" : words::inQuotes(file);
 }
 
 }  // namespace veyruna::cli

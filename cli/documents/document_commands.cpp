@@ -6,16 +6,17 @@
 
 #include "astro/invariant.h"
 #include "cli/documents/document_content.h"
-#include "cli/typed/arguments.h"
-#include "cli/typed/dates.h"
 #include "cli/typed/errors.h"
-#include "cli/typed/quoting.h"
 #include "cli/written/asked_forms.h"
 #include "cli/written/notation.h"
 #include "cli/written/progress.h"
 #include "records/document_records.h"
 #include "reports/conjunctions.h"
 #include "reports/ephemeris.h"
+#include "words/dates.h"
+#include "words/quoting.h"
+#include "words/usage_error.h"
+#include "words/values.h"
 
 namespace veyruna::cli {
 
@@ -66,9 +67,9 @@ void DocumentCommands::writeTable(const Entry& likeIt) const {
     return;
   }
   if (size.rows > mostRowsOnPages) {
-    throw UsageError("--rows: " + inQuotes(typed_.rows) + " is too many for a " +
-                     std::string(documents::formEntry(form).name) + "; give at most " +
-                     std::to_string(mostRowsOnPages) + ", or a name that ends in .txt");
+    throw words::UsageError("--rows: " + words::inQuotes(typed_.rows) + " is too many for a " +
+                            std::string(documents::formEntry(form).name) + "; give at most " +
+                            std::to_string(mostRowsOnPages) + ", or a name that ends in .txt");
   }
   std::string text;
   writeRows(likeIt, size, documents::ownForm(likeIt.kind),
@@ -79,12 +80,13 @@ void DocumentCommands::writeTable(const Entry& likeIt) const {
 
 void DocumentCommands::writeAll() const {
   if (typed_.folder.empty() || typed_.file != "-") {
-    throw UsageError("all needs --out DIR, and takes no -o");
+    throw words::UsageError("all needs --out DIR, and takes no -o");
   }
   std::error_code error;
   std::filesystem::create_directories(typed_.folder, error);
   if (error) {
-    throw WriteError("cannot make the folder " + inQuotes(typed_.folder) + ": " + error.message());
+    throw WriteError("cannot make the folder " + words::inQuotes(typed_.folder) + ": " +
+                     error.message());
   }
   DocumentWriter list = DocumentWriter::to("-");
   for (const Entry& document : documents::allDocuments) {
@@ -104,13 +106,14 @@ void DocumentCommands::writeAll() const {
 
 reports::TableSize DocumentCommands::typedSize() const {
   if (typed_.rows.empty() || typed_.step.empty()) {
-    throw UsageError("a table needs --rows N and --step DAYS, such as --rows 24 --step 1/24");
+    throw words::UsageError(
+        "a table needs --rows N and --step DAYS, such as --rows 24 --step 1/24");
   }
-  const reports::TableSize size{.rows = readWholeNumber("--rows", typed_.rows, 0, mostRows),
-                                .stepDays = readStepDays(typed_.step)};
-  checkedBaseTime(
-      sky_.observer.baseTime + static_cast<double>(size.rows) * size.stepDays,
-      "the last of " + inQuotes(typed_.rows) + " rows at steps of " + inQuotes(typed_.step));
+  const reports::TableSize size{.rows = words::readWholeNumber("--rows", typed_.rows, 0, mostRows),
+                                .stepDays = words::readStepDays(typed_.step)};
+  words::checkedBaseTime(sky_.observer.baseTime + static_cast<double>(size.rows) * size.stepDays,
+                         "the last of " + words::inQuotes(typed_.rows) + " rows at steps of " +
+                             words::inQuotes(typed_.step));
   return size;
 }
 

@@ -6,7 +6,7 @@
 #include <system_error>
 #include <unistd.h>
 
-#include "cli/typed/quoting.h"
+#include "words/quoting.h"
 
 namespace veyruna::cli {
 
@@ -21,7 +21,7 @@ void becomeDrawingProgram(const std::vector<std::string>& arguments) {
   }
   pointers.push_back(nullptr);
   execv(pointers.front(), pointers.data());
-  throw std::runtime_error("cannot start " + inQuotes(words.front()) +
+  throw std::runtime_error("cannot start " + words::inQuotes(words.front()) +
                            ", which draws: " + std::generic_category().message(errno));
 }
 

@@ -3,13 +3,13 @@
 #include <algorithm>
 #include <string>
 
-#include "cli/typed/arguments.h"
-#include "cli/typed/errors.h"
-#include "cli/typed/quoting.h"
 #include "cli/written/asked_forms.h"
 #include "cli/written/document_writer.h"
 #include "records/all_types.h"
 #include "records/schema.h"
+#include "words/quoting.h"
+#include "words/usage_error.h"
+#include "words/values.h"
 
 namespace veyruna::cli {
 
@@ -38,7 +38,7 @@ const records::RecordType& typeNamed(const std::string& name) {
     for (const TypeEntry& entry : records::allTypes) {
       names.append(names.empty() ? "" : ", ").append(entry.name);
     }
-    throw UsageError("schema: " + inQuotes(name) + " has none; give one of " + names);
+    throw words::UsageError("schema: " + words::inQuotes(name) + " has none; give one of " + names);
   }
   return found->type();
 }
@@ -49,11 +49,11 @@ void writeSchema(const Typed& typed) {
   askedWidth(typed, {});
   const bool isOfLines = typed.formats == "jsonl";
   if (!isOfLines && !typed.formats.empty() && typed.formats != "json") {
-    refuse("--format", typed.formats, "json or jsonl, the forms that have a schema");
+    words::refuse("--format", typed.formats, "json or jsonl, the forms that have a schema");
   }
   if (typed.schema.empty() && !typed.formats.empty()) {
-    throw UsageError("--format " + inQuotes(typed.formats) +
-                     " is of one schema; veyruna schema lists their names");
+    throw words::UsageError("--format " + words::inQuotes(typed.formats) +
+                            " is of one schema; veyruna schema lists their names");
   }
   const std::string text = typed.schema.empty() ? schemaList()
                            : isOfLines          ? records::lineSchema(typeNamed(typed.schema))

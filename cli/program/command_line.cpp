@@ -14,11 +14,11 @@
 #include "cli/documents/drawing_program.h"
 #include "cli/documents/locations_command.h"
 #include "cli/documents/schema_command.h"
-#include "cli/typed/errors.h"
 #include "cli/typed/grammar.h"
 #include "cli/typed/sky.h"
 #include "cli/written/asked_forms.h"
 #include "cli/written/document_writer.h"
+#include "words/usage_error.h"
 
 namespace veyruna::cli {
 
@@ -127,7 +127,7 @@ int runCommandLine(const std::vector<std::string>& arguments, const Renderer& re
     const Typed& typed = grammar.parse(arguments);
     run(grammar, typed, arguments, renderer);
     return succeeded;
-  } catch (const UsageError& error) {
+  } catch (const words::UsageError& error) {
     return complain(error.what(), usageWrong);
   } catch (const std::exception& error) {
     return complain(error.what(), writeFailed);

@@ -4,12 +4,6 @@
 
 namespace veyruna::cli {
 
-/// What the person typed cannot be used; the message quotes it and says what is accepted.
-class UsageError : public std::runtime_error {
- public:
-  using std::runtime_error::runtime_error;
-};
-
 /// A document could not be written; the message names the file and the reason.
 class WriteError : public std::runtime_error {
  public:

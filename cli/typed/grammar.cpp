@@ -4,11 +4,11 @@
 #include <algorithm>
 
 #include "almanac/events/event.h"
-#include "cli/typed/dates.h"
-#include "cli/typed/errors.h"
 #include "cli/typed/option_values.h"
-#include "cli/typed/quoting.h"
 #include "documents/documents.h"
+#include "words/dates.h"
+#include "words/quoting.h"
+#include "words/usage_error.h"
 
 namespace veyruna::cli {
 
@@ -26,7 +26,7 @@ std::vector<std::string> withUnitsJoined(std::vector<std::string> arguments) {
     const bool isAttached = arguments[i].starts_with("--for=");
     const std::size_t number = isAttached ? i : i + 1;
     const bool isLength = isAttached || arguments[i] == "--for";
-    if (isLength && number + 1 < arguments.size() && isUnitOfTime(arguments[number + 1])) {
+    if (isLength && number + 1 < arguments.size() && words::isUnitOfTime(arguments[number + 1])) {
       arguments[number] += " " + arguments[number + 1];
       arguments.erase(arguments.begin() + static_cast<std::ptrdiff_t>(number) + 1);
     }
@@ -86,7 +86,7 @@ const Typed& Grammar::parse(const std::vector<std::string>& arguments) {
     typed_.command = "version";
     return typed_;
   } catch (const CLI::ParseError& error) {
-    throw UsageError(error.what());
+    throw words::UsageError(error.what());
   }
   typed_.command = chosenCommand();
   refuseTwoOf("--base-time", typed_.baseTime, {"--year", "--month", "--day", "--hour", "--local"},
@@ -99,7 +99,7 @@ const Typed& Grammar::parse(const std::vector<std::string>& arguments) {
     refuseExtra(extras.front());
   }
   if (typed_.command.empty()) {
-    throw UsageError("a command is missing; give one of " + commandNames());
+    throw words::UsageError("a command is missing; give one of " + commandNames());
   }
   return typed_;
 }
@@ -114,8 +114,8 @@ std::string Grammar::helpText(const std::string& topic) const {
     return command->get_name() == topic;
   });
   if (found == commands.end()) {
-    throw UsageError("help: " + inQuotes(topic) + " is not a command; give one of " +
-                     commandNames());
+    throw words::UsageError("help: " + words::inQuotes(topic) + " is not a command; give one of " +
+                            commandNames());
   }
   return app_->get_formatter()->make_help(*found, "veyruna " + topic, CLI::AppFormatMode::Normal);
 }
@@ -165,8 +165,8 @@ void Grammar::refuseMomentBesideOthers() const {
                                     const std::string& instead) {
     for (const char* const option : options) {
       if (isGiven(option)) {
-        throw UsageError(std::string(option) + " is of one moment; " + typed_.command + " takes " +
-                         instead);
+        throw words::UsageError(std::string(option) + " is of one moment; " + typed_.command +
+                                " takes " + instead);
       }
     }
   };
@@ -183,8 +183,8 @@ void Grammar::refuseTwoOf(const char* whole, const std::string& typed,
                           std::initializer_list<const char*> parts, const char* what) const {
   for (const char* const part : parts) {
     if (!typed.empty() && isGiven(part)) {
-      throw UsageError(std::string(whole) + " " + inQuotes(typed) + " and " + part + " name two " +
-                       what + "; give one");
+      throw words::UsageError(std::string(whole) + " " + words::inQuotes(typed) + " and " + part +
+                              " name two " + what + "; give one");
     }
   }
 }
@@ -301,13 +301,16 @@ void Grammar::refuseExtra(const std::string& extra) const {
   if (extra.size() > 1 && extra.starts_with('-')) {
     const std::string name = optionName(extra);
     const std::string owners = commandsWith(name);
-    throw UsageError(owners.empty() ? inQuotes(name) + " is no option; veyruna --help lists them"
-                                    : inQuotes(name) + " belongs behind " + owners);
+    throw words::UsageError(owners.empty()
+                                ? words::inQuotes(name) + " is no option; veyruna --help lists them"
+                                : words::inQuotes(name) + " belongs behind " + owners);
   }
   if (chosenCommand().empty()) {
-    throw UsageError(inQuotes(extra) + " is not a command; give one of " + commandNames());
+    throw words::UsageError(words::inQuotes(extra) + " is not a command; give one of " +
+                            commandNames());
   }
-  throw UsageError(inQuotes(extra) + " is one word too many behind " + chosenCommand());
+  throw words::UsageError(words::inQuotes(extra) + " is one word too many behind " +
+                          chosenCommand());
 }
 
 std::string Grammar::commandsWith(const std::string& option) const {

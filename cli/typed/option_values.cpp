@@ -2,8 +2,8 @@
 
 #include <CLI/CLI.hpp>
 
-#include "cli/typed/errors.h"
-#include "cli/typed/quoting.h"
+#include "words/quoting.h"
+#include "words/usage_error.h"
 
 namespace veyruna::cli {
 
@@ -36,7 +36,8 @@ std::vector<std::string> withValuesAttached(const CLI::App& app,
     const CLI::Option* const known = optionNamed(app, name);
     const bool takesValue = known != nullptr && known->get_expected_max() > 0;
     if (known != nullptr && !takesValue && isAttached) {
-      throw UsageError(inQuotes(arguments[i]) + " is not accepted; " + name + " takes no value");
+      throw words::UsageError(words::inQuotes(arguments[i]) + " is not accepted; " + name +
+                              " takes no value");
     }
     if (!takesValue) {
       attached.push_back(arguments[i]);
@@ -46,12 +47,13 @@ std::vector<std::string> withValuesAttached(const CLI::App& app,
                               : i + 1 < arguments.size() ? arguments[++i]
                                                          : "";
     if (value.empty()) {
-      throw UsageError(name + ": a value is missing; veyruna --help says which are accepted");
+      throw words::UsageError(name +
+                              ": a value is missing; veyruna --help says which are accepted");
     }
     if (!isAttached && optionNamed(app, optionName(value)) != nullptr) {
-      throw UsageError(name + ": a value is missing in front of " + inQuotes(value) +
-                       ", which is an option; where it is meant, write " +
-                       inQuotes(name + "=" + value));
+      throw words::UsageError(name + ": a value is missing in front of " + words::inQuotes(value) +
+                              ", which is an option; where it is meant, write " +
+                              words::inQuotes(name + "=" + value));
     }
     constexpr std::size_t shortLength = 2;  // "-o"
     attached.push_back(name.size() == shortLength ? name + value : name + "=" + value);

@@ -8,14 +8,14 @@
 
 #include "astro/angle.h"
 #include "astro/number_text.h"
-#include "cli/typed/errors.h"
-#include "cli/typed/quoting.h"
 #include "model/calculation.h"
 #include "model/city_preset.h"
 #include "model/first_places.h"
 #include "model/locations_file.h"
 #include "model/qt_settings_store.h"
 #include "model/stored_settings.h"
+#include "words/quoting.h"
+#include "words/usage_error.h"
 
 namespace veyruna::cli {
 
@@ -41,7 +41,8 @@ QList<CityPreset> savedOrFirstPlaces() {
       return reading.places;
     }
     if (reading.state == model::LocationsFile::State::unreadable) {
-      throw std::runtime_error("cannot read the saved places in " + inQuotes(path->toStdString()));
+      throw std::runtime_error("cannot read the saved places in " +
+                               words::inQuotes(path->toStdString()));
     }
   }
   return model::initialCities(&QUuid::createUuid);
@@ -62,7 +63,7 @@ std::string coordinate(double radians, char positive, char negative) {
 
 /// A place's name as it stands on a line.
 QString listedName(const CityPreset& place) {
-  return QString::fromStdString(asListed(place.name.toStdString()));
+  return QString::fromStdString(words::asListed(place.name.toStdString()));
 }
 
 /// Padded on the left to a number of characters; the degree sign is one.
@@ -86,7 +87,8 @@ CityPreset placeNamed(const std::string& name, const std::string& what) {
     for (const CityPreset& place : places) {
       known += (known.empty() ? "" : ", ") + listedName(place).toStdString();
     }
-    throw UsageError(what + ": " + inQuotes(name) + " is not a saved place; known are " + known);
+    throw words::UsageError(what + ": " + words::inQuotes(name) +
+                            " is not a saved place; known are " + known);
   }
   return *found;
 }
@@ -101,8 +103,8 @@ Place placeAt(double latitude, double longitude) {
 Place savedPlace(const std::string& name, const std::string& what) {
   const CityPreset place = placeNamed(name, what);
   if (!model::isPlaceWithinReach(place.latitude, place.longitude)) {
-    throw UsageError(what + ": " + inQuotes(name) +
-                     " is not on the globe; its stored coordinates are beyond 1000 radians");
+    throw words::UsageError(what + ": " + words::inQuotes(name) +
+                            " is not on the globe; its stored coordinates are beyond 1000 radians");
   }
   // The coordinates under "Manual" say more than that word.
   return place.id == model::manualCityID()

@@ -3,9 +3,9 @@
 #include "astro/angle.h"
 #include "astro/calendar.h"
 #include "astro/local_time.h"
-#include "cli/typed/arguments.h"
-#include "cli/typed/dates.h"
-#include "cli/typed/quoting.h"
+#include "words/dates.h"
+#include "words/quoting.h"
+#include "words/values.h"
 
 namespace veyruna::cli {
 
@@ -14,24 +14,24 @@ namespace {
 double baseTimeOf(const Typed& typed, double longitude) {
   constexpr double limit = astro::baseTimeLimitDays;
   if (!typed.baseTime.empty()) {
-    return readNumber("--base-time", typed.baseTime, -limit, limit);
+    return words::readNumber("--base-time", typed.baseTime, -limit, limit);
   }
   const astro::CalendarReading reading{
-      .year = readWholeNumber("--year", typed.year, firstYear, lastYear),
-      .monthIndex = readMonthIndex(typed.month),
-      .dayIndex = readWholeNumber("--day", typed.day, 1, astro::daysPerMonth) - 1,
-      .hour = readHour(typed.hour)};
+      .year = words::readWholeNumber("--year", typed.year, words::firstYear, words::lastYear),
+      .monthIndex = words::readMonthIndex("--month", typed.month),
+      .dayIndex = words::readWholeNumber("--day", typed.day, 1, astro::daysPerMonth) - 1,
+      .hour = words::readHour("--hour", typed.hour)};
   const double baseTime =
       typed.isLocal ? astro::localBaseTime(reading, longitude) : astro::standardBaseTime(reading);
-  return checkedBaseTime(baseTime, "--year: " + inQuotes(typed.year));
+  return words::checkedBaseTime(baseTime, "--year: " + words::inQuotes(typed.year));
 }
 
 }  // namespace
 
 Place placeOf(const Typed& typed) {
-  return typed.location.empty()
-             ? placeAt(readLatitude(typed.latitude), readLongitude(typed.longitude))
-             : savedPlace(typed.location);
+  return typed.location.empty() ? placeAt(words::readLatitude("--lat", typed.latitude),
+                                          words::readLongitude("--long", typed.longitude))
+                                : savedPlace(typed.location);
 }
 
 Sky skyOf(const Typed& typed) {

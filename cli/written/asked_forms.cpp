@@ -5,10 +5,10 @@
 #include <optional>
 #include <unistd.h>
 
-#include "cli/typed/arguments.h"
-#include "cli/typed/errors.h"
-#include "cli/typed/quoting.h"
 #include "cli/written/document_writer.h"
+#include "words/quoting.h"
+#include "words/usage_error.h"
+#include "words/values.h"
 
 namespace veyruna::cli {
 
@@ -43,9 +43,9 @@ std::optional<Form> formOfFile(const Typed& typed, Kind kind) {
   // A text may stand in a file of any name; a picture under a strange one is opened by nothing.
   const bool isKnown = form || kind == Kind::chart;
   if (isKnown && !(form && documents::canBe(kind, *form))) {
-    refuse("-o", typed.file,
-           "a name that ends in " + documents::acceptedExtensions(kind, ".") + " for " +
-               typed.command);
+    words::refuse("-o", typed.file,
+                  "a name that ends in " + documents::acceptedExtensions(kind, ".") + " for " +
+                      typed.command);
   }
   return form;
 }
@@ -61,7 +61,8 @@ std::vector<Form> listedForms(const std::string& list) {
       for (const FormEntry& entry : documents::allForms) {
         accepted.append(accepted.empty() ? "" : ", ").append(entry.extension);
       }
-      refuse("--format", list, "one or several of " + accepted + ", with commas between them");
+      words::refuse("--format", list,
+                    "one or several of " + accepted + ", with commas between them");
     }
     forms.push_back(*form);
     from = comma + 1;
@@ -78,12 +79,12 @@ Form formOfOne(const Typed& typed, Kind kind) {
   }
   const std::vector<Form> listed = listedForms(typed.formats);
   if (listed.size() > 1 || !documents::canBe(kind, listed.front())) {
-    refuse("--format", typed.formats,
-           "one of " + documents::acceptedExtensions(kind) + " for " + typed.command);
+    words::refuse("--format", typed.formats,
+                  "one of " + documents::acceptedExtensions(kind) + " for " + typed.command);
   }
   if (ofFile && *ofFile != listed.front()) {
-    throw UsageError("--format " + inQuotes(typed.formats) + " and -o " + inQuotes(typed.file) +
-                     " name two forms; give one");
+    throw words::UsageError("--format " + words::inQuotes(typed.formats) + " and -o " +
+                            words::inQuotes(typed.file) + " name two forms; give one");
   }
   return listed.front();
 }
@@ -97,9 +98,9 @@ std::vector<Form> askedForms(const Typed& typed, Kind kind) {
   const Form form = formOfOne(typed, kind);
   const FormEntry& entry = documents::formEntry(form);
   if (!entry.isText && isStandardOutput(typed.file) && isatty(STDOUT_FILENO) == 1) {
-    throw UsageError("a " + std::string(entry.name) +
-                     " is nothing for a terminal; give a file, such as -o " + typed.command + "." +
-                     std::string(entry.extension));
+    throw words::UsageError("a " + std::string(entry.name) +
+                            " is nothing for a terminal; give a file, such as -o " + typed.command +
+                            "." + std::string(entry.extension));
   }
   return {form};
 }
@@ -109,11 +110,12 @@ int askedWidth(const Typed& typed, const std::vector<Form>& forms) {
     return 0;
   }
   if (std::ranges::count(forms, Form::png) == 0) {
-    throw UsageError("--size " + inQuotes(typed.size) +
-                     " is the width of a PNG, and none is asked for; name one with -o FILE.png or "
-                     "--format png");
+    throw words::UsageError(
+        "--size " + words::inQuotes(typed.size) +
+        " is the width of a PNG, and none is asked for; name one with -o FILE.png or "
+        "--format png");
   }
-  return static_cast<int>(readWholeNumber("--size", typed.size, leastWidth, mostWidth));
+  return static_cast<int>(words::readWholeNumber("--size", typed.size, leastWidth, mostWidth));
 }
 
 }  // namespace veyruna::cli

@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "cli/typed/errors.h"
-#include "cli/typed/quoting.h"
+#include "words/quoting.h"
 
 namespace veyruna::cli {
 
@@ -39,7 +39,7 @@ DocumentWriter DocumentWriter::to(const std::string& file) {
   if (isStandardOutput(file)) {
     return toStandardOutput();
   }
-  const std::string name = inQuotes(file);
+  const std::string name = words::inQuotes(file);
   return {name, named(name, [&] { return files::FileWriter(file); })};
 }
 

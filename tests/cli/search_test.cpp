@@ -15,10 +15,10 @@
 #include "astro/local_time.h"
 #include "cli/almanac/span_table.h"
 #include "cli/program/command_line.h"
-#include "cli/typed/quoting.h"
 #include "tests/cli/process.h"
 #include "tests/cli/scratch_folder.h"
 #include "tests/support/reference_case.h"
+#include "words/quoting.h"
 
 namespace veyruna {
 namespace {
@@ -111,8 +111,8 @@ TEST(SearchCommand, FirstEndsTheSearch) {
 /// Runs a line as a person's shell would, with the built command in front of all others.
 std::string outputOfShell(const std::string& line, const std::string& home) {
   const std::string folder = tests::programPath().substr(0, tests::programPath().rfind('/'));
-  const std::string script = "PATH=" + cli::asShellWord(folder).value() +
-                             ":$PATH; HOME=" + cli::asShellWord(home).value() +
+  const std::string script = "PATH=" + words::asShellWord(folder).value() +
+                             ":$PATH; HOME=" + words::asShellWord(home).value() +
                              "; XDG_DATA_HOME=$HOME/data; export PATH HOME XDG_DATA_HOME; " + line;
   FILE* const pipe = popen(script.c_str(), "r");
   std::string output;

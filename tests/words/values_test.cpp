@@ -1,4 +1,4 @@
-#include "cli/typed/arguments.h"
+#include "words/values.h"
 
 #include <functional>
 #include <gtest/gtest.h>
@@ -7,9 +7,9 @@
 #include "astro/angle.h"
 #include "astro/calendar.h"
 #include "astro/number_text.h"
-#include "cli/typed/errors.h"
-#include "cli/typed/quoting.h"
 #include "tests/support/random_sky.h"
+#include "words/quoting.h"
+#include "words/usage_error.h"
 
 namespace veyruna {
 namespace {
@@ -20,7 +20,7 @@ using tests::inRadians;
 std::string refusalOf(const std::function<void()>& reading) {
   try {
     reading();
-  } catch (const cli::UsageError& error) {
+  } catch (const words::UsageError& error) {
     return error.what();
   }
   return "";
@@ -31,11 +31,11 @@ bool holds(const std::string& message, const std::string& piece) {
 }
 
 TEST(Hour, FractionsAndBothEndsOfTheDay) {
-  EXPECT_EQ(cli::readHour("18.25"), 18.25);
-  EXPECT_EQ(cli::readHour("0"), 0.0);
-  EXPECT_EQ(cli::readHour("24"), 24.0);
-  EXPECT_EQ(cli::readHour("24:00"), 24.0);
-  EXPECT_EQ(cli::readHour("7:05"), cli::readHour("07:05"));
+  EXPECT_EQ(words::readHour("--hour", "18.25"), 18.25);
+  EXPECT_EQ(words::readHour("--hour", "0"), 0.0);
+  EXPECT_EQ(words::readHour("--hour", "24"), 24.0);
+  EXPECT_EQ(words::readHour("--hour", "24:00"), 24.0);
+  EXPECT_EQ(words::readHour("--hour", "7:05"), words::readHour("--hour", "07:05"));
 }
 
 TEST(Hour, RefusesWhatIsNoTimeOfDay) {
@@ -43,7 +43,7 @@ TEST(Hour, RefusesWhatIsNoTimeOfDay) {
        {"24:01", "25",     "-1",    "24.001", "12:60", "12:5",     "12:",  ":30",
         ":",     "012:00", "-1:00", "+1:00",  "12:-5", "12:30:00", "noon", "",
         "1,5",   " 12",    "12 ",   "0x10",   "inf",   "nan",      "1e999"}) {
-    const std::string message = refusalOf([&] { cli::readHour(text); });
+    const std::string message = refusalOf([&] { words::readHour("--hour", text); });
     EXPECT_TRUE(holds(message, std::string("--hour: \"") + text + "\"")) << text << ": " << message;
     EXPECT_TRUE(holds(message, "from 0 to 24")) << message;
     EXPECT_TRUE(holds(message, "18:15")) << message;
@@ -59,16 +59,16 @@ TEST(Month, NumbersAndNamesInAnyCase) {
       lower[k] = static_cast<char>(lower[k] | 0x20);
       upper[k] = static_cast<char>(upper[k] & ~0x20);
     }
-    EXPECT_EQ(cli::readMonthIndex(std::to_string(i + 1)), index);
-    EXPECT_EQ(cli::readMonthIndex(astro::monthNames[i]), index);
-    EXPECT_EQ(cli::readMonthIndex(lower), index);
-    EXPECT_EQ(cli::readMonthIndex(upper), index);
+    EXPECT_EQ(words::readMonthIndex("--month", std::to_string(i + 1)), index);
+    EXPECT_EQ(words::readMonthIndex("--month", astro::monthNames[i]), index);
+    EXPECT_EQ(words::readMonthIndex("--month", lower), index);
+    EXPECT_EQ(words::readMonthIndex("--month", upper), index);
   }
 }
 
 TEST(Month, RefusalNamesThemAll) {
   for (const char* const text : {"0", "13", "-1", "1.0", "Dov", "Dovri ", "Dovrii", "", "@OLMA"}) {
-    const std::string message = refusalOf([&] { cli::readMonthIndex(text); });
+    const std::string message = refusalOf([&] { words::readMonthIndex("--month", text); });
     EXPECT_TRUE(holds(message, std::string("--month: \"") + text + "\"")) << text;
     EXPECT_TRUE(holds(message, "1 to 12"));
     for (const std::string_view name : astro::monthNames) {
@@ -100,7 +100,7 @@ TEST(Latitude, SignsLettersAndDegreeSigns) {
                                       {"90", astro::halfPi},
                                       {"90S", -astro::halfPi},
                                       {"-90", -astro::halfPi}}) {
-    EXPECT_EQ(cli::readLatitude(text), radians) << text;
+    EXPECT_EQ(words::readLatitude("--lat", text), radians) << text;
   }
 }
 
@@ -114,7 +114,7 @@ TEST(Longitude, SignsLettersAndDegreeSigns) {
                                       {"180", astro::pi},
                                       {"180W", -astro::pi},
                                       {"-180", -astro::pi}}) {
-    EXPECT_EQ(cli::readLongitude(text), radians) << text;
+    EXPECT_EQ(words::readLongitude("--long", text), radians) << text;
   }
 }
 
@@ -123,7 +123,7 @@ TEST(Latitude, RefusesOtherAngles) {
        {"91",   "-90.0001", "90.0001N", "abc", "nan", "inf", "",    "N",
         "°",    "-5S",      "-0S",      "5E",  "5W",  "N5",  "5NN", "5°°",
         "40,5", "40°30'",   " 5",       "5 ",  "--5", "+-5", "0x5", "1e999"}) {
-    const std::string message = refusalOf([&] { cli::readLatitude(text); });
+    const std::string message = refusalOf([&] { words::readLatitude("--lat", text); });
     EXPECT_TRUE(holds(message, std::string("--lat: \"") + text + "\"")) << text << message;
     EXPECT_TRUE(holds(message, "-90 to 90")) << message;
     EXPECT_TRUE(holds(message, "N or S")) << message;
@@ -132,7 +132,7 @@ TEST(Latitude, RefusesOtherAngles) {
 
 TEST(Longitude, RefusesOtherAngles) {
   for (const char* const text : {"180.5", "-181", "181W", "20N", "20S", "E", "-20W", "west"}) {
-    const std::string message = refusalOf([&] { cli::readLongitude(text); });
+    const std::string message = refusalOf([&] { words::readLongitude("--long", text); });
     EXPECT_TRUE(holds(message, std::string("--long: \"") + text + "\"")) << text << message;
     EXPECT_TRUE(holds(message, "-180 to 180")) << message;
     EXPECT_TRUE(holds(message, "E or W")) << message;
@@ -140,12 +140,12 @@ TEST(Longitude, RefusesOtherAngles) {
 }
 
 TEST(WholeNumber, KeepsItsBounds) {
-  EXPECT_EQ(cli::readWholeNumber("--day", "1", 1, 30), 1);
-  EXPECT_EQ(cli::readWholeNumber("--day", "+30", 1, 30), 30);
-  EXPECT_EQ(cli::readWholeNumber("--day", "-5", -5, 30), -5);
+  EXPECT_EQ(words::readWholeNumber("--day", "1", 1, 30), 1);
+  EXPECT_EQ(words::readWholeNumber("--day", "+30", 1, 30), 30);
+  EXPECT_EQ(words::readWholeNumber("--day", "-5", -5, 30), -5);
   for (const char* const text :
        {"0", "31", "", "1.0", "1e1", " 1", "1 ", "++1", "+", "9223372036854775808", "0x1"}) {
-    const std::string message = refusalOf([&] { cli::readWholeNumber("--day", text, 1, 30); });
+    const std::string message = refusalOf([&] { words::readWholeNumber("--day", text, 1, 30); });
     EXPECT_TRUE(holds(message, std::string("--day: \"") + text + "\"")) << text << message;
     EXPECT_TRUE(holds(message, "a whole number from 1 to 30")) << message;
   }
@@ -153,13 +153,13 @@ TEST(WholeNumber, KeepsItsBounds) {
 
 TEST(Number, KeepsItsBoundsAndStaysFinite) {
   constexpr double limit = astro::baseTimeLimitDays;
-  EXPECT_EQ(cli::readNumber("--base-time", "1000000000", -limit, limit), limit);
-  EXPECT_EQ(cli::readNumber("--base-time", "-1e9", -limit, limit), -limit);
-  EXPECT_EQ(cli::readNumber("--base-time", "+.5", -limit, limit), 0.5);
+  EXPECT_EQ(words::readNumber("--base-time", "1000000000", -limit, limit), limit);
+  EXPECT_EQ(words::readNumber("--base-time", "-1e9", -limit, limit), -limit);
+  EXPECT_EQ(words::readNumber("--base-time", "+.5", -limit, limit), 0.5);
   for (const char* const text : {"1000000000.0000002", "-1000000001", "inf", "-inf", "nan", "1e999",
                                  "", "-", "1,5", "12 days", "0x10"}) {
     const std::string message =
-        refusalOf([&] { cli::readNumber("--base-time", text, -limit, limit); });
+        refusalOf([&] { words::readNumber("--base-time", text, -limit, limit); });
     EXPECT_TRUE(holds(message, std::string("--base-time: \"") + text + "\"")) << text << message;
     EXPECT_TRUE(holds(message, "a number from -1000000000 to 1000000000")) << message;
   }
@@ -169,19 +169,19 @@ TEST(Number, ReadsTheShortestTextOfEveryNumber) {
   EXPECT_TRUE(rc::check("read(shortestText(x)) == x", [] {
     const double number = *tests::finiteDoubles();
     constexpr double all = std::numeric_limits<double>::max();
-    RC_ASSERT(cli::readNumber("--base-time", astro::shortestText(number), -all, all) == number);
+    RC_ASSERT(words::readNumber("--base-time", astro::shortestText(number), -all, all) == number);
   }));
 }
 
 TEST(StepDays, NumbersAndFractions) {
-  EXPECT_EQ(cli::readStepDays("0.5"), 0.5);
-  EXPECT_EQ(cli::readStepDays("1/24"), 1.0 / 24.0);
-  EXPECT_EQ(cli::readStepDays("-1/144"), -1.0 / 144.0);
-  EXPECT_EQ(cli::readStepDays("2.5/-10"), -0.25);
-  EXPECT_EQ(cli::readStepDays("-1e9"), -1e9);
+  EXPECT_EQ(words::readStepDays("0.5"), 0.5);
+  EXPECT_EQ(words::readStepDays("1/24"), 1.0 / 24.0);
+  EXPECT_EQ(words::readStepDays("-1/144"), -1.0 / 144.0);
+  EXPECT_EQ(words::readStepDays("2.5/-10"), -0.25);
+  EXPECT_EQ(words::readStepDays("-1e9"), -1e9);
   for (const char* const text : {"1/0", "0/0", "1/", "/24", "/", "", "1/24/2", "1 / 24", "nan",
                                  "inf", "1/inf", "1000000001", "1e9/0.5", "1e308/1e-308", "day"}) {
-    const std::string message = refusalOf([&] { cli::readStepDays(text); });
+    const std::string message = refusalOf([&] { words::readStepDays(text); });
     EXPECT_TRUE(holds(message, std::string("--step: \"") + text + "\"")) << text << message;
     EXPECT_TRUE(holds(message, "1/24")) << message;
     EXPECT_TRUE(holds(message, "1000000000")) << message;

@@ -1,4 +1,4 @@
-#include "cli/typed/quoting.h"
+#include "words/quoting.h"
 
 #include <gtest/gtest.h>
 
@@ -7,7 +7,7 @@
 namespace veyruna {
 namespace {
 
-using cli::inQuotes;
+using words::inQuotes;
 
 TEST(Quoting, KeepsPlainTextAndOtherScripts) {
   EXPECT_EQ(inQuotes(""), "\"\"");
@@ -89,11 +89,11 @@ TEST(Quoting, AListedNameIsQuotedOnlyWhereItWouldBreakTheLine) {
   const std::string longName(200, 'x');
   for (const std::string& plain :
        {std::string("Côte d'Ebb"), std::string("a \"b\" \\c"), std::string(), longName}) {
-    EXPECT_EQ(cli::asListed(plain), plain);
+    EXPECT_EQ(words::asListed(plain), plain);
   }
   for (const std::string_view other :
        {"two\nlines", "\x1b[31m", "\x7f", "a\xc2\x9b", "caf\xe9", "\n"}) {
-    EXPECT_EQ(cli::asListed(other), inQuotes(other));
+    EXPECT_EQ(words::asListed(other), inQuotes(other));
   }
 }
 
@@ -105,22 +105,22 @@ TEST(Quoting, ALongTextOfBytesIsCutTheSame) {
 
 TEST(Quoting, AShellsWordIsInQuotesWhereAShellWouldCutOrReadIt) {
   for (const char* const plain : {"Ebb", "40.5", "-20.9", "a/b:c@d,e%f+g_h"}) {
-    EXPECT_EQ(cli::asShellWord(plain), plain);
+    EXPECT_EQ(words::asShellWord(plain), plain);
   }
-  EXPECT_EQ(cli::asShellWord(""), "''");
-  EXPECT_EQ(cli::asShellWord("two words"), "'two words'");
-  EXPECT_EQ(cli::asShellWord("Côte d'Ebb"), "'Côte d'\\''Ebb'");
-  EXPECT_EQ(cli::asShellWord("$HOME `id` \\ ! * ~ #"), "'$HOME `id` \\ ! * ~ #'");
+  EXPECT_EQ(words::asShellWord(""), "''");
+  EXPECT_EQ(words::asShellWord("two words"), "'two words'");
+  EXPECT_EQ(words::asShellWord("Côte d'Ebb"), "'Côte d'\\''Ebb'");
+  EXPECT_EQ(words::asShellWord("$HOME `id` \\ ! * ~ #"), "'$HOME `id` \\ ! * ~ #'");
   for (const std::string_view other : {"two\nlines", "\x1b[31m", "caf\xe9"}) {
-    EXPECT_EQ(cli::asShellWord(other), std::nullopt);
+    EXPECT_EQ(words::asShellWord(other), std::nullopt);
   }
 }
 
 TEST(Quoting, CharactersAreCountedAsAPersonSeesThem) {
-  EXPECT_EQ(cli::charactersOnALine(""), 0U);
-  EXPECT_EQ(cli::charactersOnALine("Côte ☾"), 6U);
-  EXPECT_EQ(cli::charactersOnALine("a\tb"), std::nullopt);
-  EXPECT_EQ(cli::charactersOnALine("\xff"), std::nullopt);
+  EXPECT_EQ(words::charactersOnALine(""), 0U);
+  EXPECT_EQ(words::charactersOnALine("Côte ☾"), 6U);
+  EXPECT_EQ(words::charactersOnALine("a\tb"), std::nullopt);
+  EXPECT_EQ(words::charactersOnALine("\xff"), std::nullopt);
 }
 
 }  // namespace

@@ -1,8 +1,8 @@
-#include "cli/typed/quoting.h"
+#include "words/quoting.h"
 
 #include <algorithm>
 
-namespace veyruna::cli {
+namespace veyruna::words {
 
 namespace {
 
@@ -130,4 +130,4 @@ std::optional<std::size_t> charactersOnALine(std::string_view text) {
   return characters;
 }
 
-}  // namespace veyruna::cli
+}  // namespace veyruna::words

@@ -1,4 +1,4 @@
-#include "cli/typed/dates.h"
+#include "words/dates.h"
 
 #include <algorithm>
 #include <array>
@@ -9,11 +9,11 @@
 #include "astro/angle.h"
 #include "astro/clock.h"
 #include "astro/local_time.h"
-#include "cli/typed/arguments.h"
-#include "cli/typed/errors.h"
-#include "cli/typed/quoting.h"
+#include "words/quoting.h"
+#include "words/usage_error.h"
+#include "words/values.h"
 
-namespace veyruna::cli {
+namespace veyruna::words {
 
 namespace {
 
@@ -120,4 +120,4 @@ double readLength(std::string_view what, std::string_view text) {
   return *count * *unit;
 }
 
-}  // namespace veyruna::cli
+}  // namespace veyruna::words

@@ -1,4 +1,4 @@
-#include "cli/typed/arguments.h"
+#include "words/values.h"
 
 #include <algorithm>
 #include <charconv>
@@ -9,10 +9,10 @@
 #include "astro/calendar.h"
 #include "astro/clock.h"
 #include "astro/number_text.h"
-#include "cli/typed/errors.h"
-#include "cli/typed/quoting.h"
+#include "words/quoting.h"
+#include "words/usage_error.h"
 
-namespace veyruna::cli {
+namespace veyruna::words {
 
 namespace {
 
@@ -125,30 +125,30 @@ double readNumber(std::string_view what, std::string_view text, double least, do
   return *number;
 }
 
-std::int64_t readMonthIndex(std::string_view text) {
+std::int64_t readMonthIndex(std::string_view what, std::string_view text) {
   const std::optional<std::int64_t> index = monthIndexOf(text);
   if (!index) {
     std::string accepted = "1 to 12 or one of";
     for (const std::string_view name : astro::monthNames) {
       accepted.append(" ").append(name);
     }
-    refuse("--month", text, accepted);
+    refuse(what, text, accepted);
   }
   return *index;
 }
 
-double readHour(std::string_view text) {
+double readHour(std::string_view what, std::string_view text) {
   const std::optional<double> hour = astro::hourFromText(text);
   if (!hour) {
-    refuse("--hour", text, acceptedHour);
+    refuse(what, text, acceptedHour);
   }
   return *hour;
 }
 
-double readLatitude(std::string_view text) {
+double readLatitude(std::string_view what, std::string_view text) {
   const std::optional<double> latitude = latitudeOf(text);
   if (!latitude) {
-    refuse("--lat", text, "degrees from -90 to 90, or 0 to 90 with N or S such as 40.5N");
+    refuse(what, text, "degrees from -90 to 90, or 0 to 90 with N or S such as 40.5N");
   }
   return *latitude;
 }
@@ -157,10 +157,10 @@ std::optional<double> latitudeOf(std::string_view text) {
   return angleOf(text, mostLatitude, northAndSouth);
 }
 
-double readLongitude(std::string_view text) {
+double readLongitude(std::string_view what, std::string_view text) {
   const std::optional<double> longitude = longitudeOf(text);
   if (!longitude) {
-    refuse("--long", text, "degrees from -180 to 180, or 0 to 180 with E or W such as 20.9W");
+    refuse(what, text, "degrees from -180 to 180, or 0 to 180 with E or W such as 20.9W");
   }
   return *longitude;
 }
@@ -180,4 +180,4 @@ double readStepDays(std::string_view text) {
   refuse("--step", text, "days such as 0.5 or 1/24, not more than 1000000000 either way");
 }
 
-}  // namespace veyruna::cli
+}  // namespace veyruna::words

@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-namespace veyruna::cli {
+namespace veyruna::words {
 
 /// Whether all of `text` is UTF-8.
 bool isUtf8(std::string_view text);
@@ -27,4 +27,4 @@ std::optional<std::string> asShellWord(std::string_view text);
 /// How many characters a text has; nothing where one of them would break a line.
 std::optional<std::size_t> charactersOnALine(std::string_view text);
 
-}  // namespace veyruna::cli
+}  // namespace veyruna::words

@@ -8,7 +8,7 @@
 #include "astro/calendar.h"
 
 /// Moments and lengths of time in one word each, as a person types them.
-namespace veyruna::cli {
+namespace veyruna::words {
 
 /// The first year, and the last that begins within the engine's range.
 inline constexpr std::int64_t firstYear = 1;
@@ -35,4 +35,4 @@ bool isUnitOfTime(std::string_view word);
 /// UsageError.
 double readLength(std::string_view what, std::string_view text);
 
-}  // namespace veyruna::cli
+}  // namespace veyruna::words
