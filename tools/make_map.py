@@ -3,6 +3,7 @@
 
     /usr/bin/python3 tools/make_map.py           write the picture and its note
     /usr/bin/python3 tools/make_map.py --check   measure the picture, exit 1 on a fault
+    /usr/bin/python3 tools/make_map.py --outline web/page/outline.mjs   the web page's coasts alone
 
 Written are, beside the program's other resources,
 
@@ -27,11 +28,17 @@ def main():
         "--check", action="store_true", help="measure the picture as it stands; exit 1 on a fault"
     )
     parser.add_argument("--into", type=Path, default=RESOURCES, help="the folder of the files")
+    parser.add_argument("--outline", type=Path, help="write only the coasts, into this file")
     options = parser.parse_args()
     if options.check:
         from map_of_tamsorel import check
 
         sys.exit(0 if check.run(options.into / "tamsorel.jpg") else 1)
+    if options.outline:
+        from map_of_tamsorel import outline
+
+        outline.write(options.outline)
+        return
     from map_of_tamsorel import note, sheet
 
     names = sheet.make(options.into / "tamsorel.jpg")

@@ -1,0 +1,52 @@
+// Short ways to the page's elements.
+
+export const byId = (id) => document.getElementById(id);
+
+/** A new element with properties (`className`, `onclick`, ...; "aria-..." and "data-..." are attributes). */
+export function make(name, properties = {}, ...children) {
+  const element = document.createElement(name);
+  for (const [key, what] of Object.entries(properties)) {
+    if (key.includes("-") || key === "role" || key === "scope" || key === "for") {
+      element.setAttribute(key, what);
+    } else {
+      element[key] = what;
+    }
+  }
+  element.append(...children);
+  return element;
+}
+
+const svgSpace = "http://www.w3.org/2000/svg";
+
+export function makeSvg(name, attributes = {}, ...children) {
+  const element = document.createElementNS(svgSpace, name);
+  for (const [key, what] of Object.entries(attributes)) {
+    element.setAttribute(key, what);
+  }
+  element.append(...children);
+  return element;
+}
+
+/** One of the signs at the top of the page. */
+export const sign = (id) => makeSvg("svg", {}, makeSvg("use", { href: `#${id}` }));
+
+/** Sets a text only where it differs, so that nothing is laid out or spoken anew. */
+export function say(element, text) {
+  if (element.textContent !== text) {
+    element.textContent = text;
+  }
+}
+
+/** Whether keys belong to what has the focus: typing, choosing, sliding. */
+export const takesKeys = (element) => /^(INPUT|SELECT|TEXTAREA)$/.test(element.tagName);
+
+/** Shows what is wrong with a field in `error` beside it; an empty text takes it back. */
+export function complain(field, error, text) {
+  say(error, text);
+  error.hidden = text === "";
+  if (text) {
+    field.setAttribute("aria-invalid", "true");
+  } else {
+    field.removeAttribute("aria-invalid");
+  }
+}

@@ -1,0 +1,21 @@
+// Light or dark: as the device is, until the switch says otherwise.
+import { byId, make, sign } from "./elements.mjs";
+
+export function startLook() {
+  const dark = matchMedia("(prefers-color-scheme: dark)");
+  let isDark = dark.matches;
+  const show = () => {
+    document.documentElement.dataset.look = isDark ? "dark" : "light";
+    byId("look").setAttribute("aria-pressed", isDark);
+  };
+  dark.addEventListener("change", () => {
+    isDark = dark.matches;
+    show();
+  });
+  byId("look").onclick = () => {
+    isDark = !isDark;
+    show();
+  };
+  byId("look").replaceChildren(sign("i-look"), make("span", {}, "Dark"));
+  show();
+}

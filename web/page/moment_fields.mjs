@@ -1,0 +1,92 @@
+// Year, month, day and clock: typed, chosen and stepped.
+import { byId, complain, make } from "./elements.mjs";
+import { heldWords, notify } from "./notices.mjs";
+import { clockWords } from "./words.mjs";
+
+const daysOf = { year: 360, month: 30, day: 1, clock: 1 / 24 };
+const monthLength = 30;
+
+const two = (number) => String(number).padStart(2, "0");
+
+/** "2230" is quicker on a phone than "22:30". */
+const withColon = (clock) => clock.trim().replace(/^(\d{1,2})(\d\d)$/, "$1:$2").replace(/^(\d):/, "0$1:");
+
+export function startMomentFields(engine, sky) {
+  const fields = Object.fromEntries(Object.keys(daysOf).map((id) => [id, byId(id)]));
+  const { year, month, day, clock } = fields;
+  const local = byId("local-clock");
+  const error = byId("moment-error");
+  let isTyping = false;
+
+  month.append(...engine.months.map((name, index) => make("option", { value: index + 1 }, name)));
+  for (let number = 1; number <= monthLength; number += 1) {
+    day.append(make("option", {}, String(number)));
+  }
+
+  /** A year that is no number is to blame for itself; else it can only be the clock. */
+  function blame(text = "") {
+    const isYear = !/^\s*\d+\s*$/.test(year.value);
+    complain(year, error, isYear ? text : "");
+    if (!isYear) {
+      complain(clock, error, text);
+    } else {
+      clock.removeAttribute("aria-invalid");
+    }
+  }
+
+  function show() {
+    if (isTyping) {
+      return;
+    }
+    const reading = local.checked ? sky.reading.local : sky.reading.standard;
+    for (const field of Object.values(fields)) {
+      field.disabled = !reading && field.tagName === "SELECT";
+    }
+    year.value = reading?.year ?? "";
+    month.value = reading?.month ?? "";
+    day.value = reading?.day ?? "";
+    clock.value = clockWords(reading);
+  }
+
+  function goTo(baseTime) {
+    const changed = sky.change({ baseTime });
+    blame(changed.ok ? "" : changed.error);
+    notify(heldWords(sky, changed.held));
+  }
+
+  function apply() {
+    isTyping = false;
+    const typed = `${year.value.trim()}-${two(month.value || 1)}-${two(day.value || 1)}T${withColon(clock.value)}`;
+    const read = engine.moment({ ...sky.asked, moment: typed, local: local.checked });
+    if (read.ok) {
+      goTo(read.value.base_time);
+      show();
+    } else {
+      blame(read.error);
+    }
+  }
+
+  for (const [id, days] of Object.entries(daysOf)) {
+    fields[id].addEventListener("input", () => (isTyping = fields[id].tagName === "INPUT"));
+    fields[id].addEventListener("change", apply);
+    const step = (direction) => () => {
+      isTyping = false;
+      goTo(sky.baseTime + direction * days);
+    };
+    byId(`${id}-earlier`).onclick = step(-1);
+    byId(`${id}-later`).onclick = step(1);
+  }
+  byId("moment-form").addEventListener("submit", (event) => {
+    event.preventDefault();
+    apply();
+  });
+  local.addEventListener("change", () => {
+    isTyping = false;
+    blame();
+    sky.refresh();
+  });
+  sky.whenMoved(show);
+}
+
+/** Whether dates and clocks are shown as those of the place. */
+export const isLocal = () => byId("local-clock").checked;
