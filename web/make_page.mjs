@@ -25,7 +25,14 @@ const { values: asked } = parseArgs({
 const bundled = (entry, ...options) =>
   execFileSync(
     asked.esbuild,
-    [join(sources, entry), "--bundle", "--minify", "--charset=utf8", "--log-level=warning", ...options],
+    [
+      join(sources, entry),
+      "--bundle",
+      "--minify",
+      "--charset=utf8",
+      "--log-level=warning",
+      ...options,
+    ],
     { encoding: "utf8", maxBuffer: 1 << 24 },
   ).trim();
 
@@ -43,7 +50,12 @@ const pictureAddress = (svg) =>
     .replace(/[%#<>{}]/g, (sign) => encodeURIComponent(sign))}`;
 
 const style = bundled("page.css");
-const script = bundled("page.mjs", "--format=esm", "--target=es2020", `--alias:veyruna=${asked.engine}`);
+const script = bundled(
+  "page.mjs",
+  "--format=esm",
+  "--target=es2020",
+  `--alias:veyruna=${asked.engine}`,
+);
 const policy = [
   "default-src 'none'",
   `script-src ${hashOf(script)} 'wasm-unsafe-eval'`,

@@ -26,7 +26,12 @@ export function createChart(engine, sky, { name, title, fileTitle, box, isShown,
   const ring = make("div", { className: "ring", hidden: true });
   const readOut = make("div", { className: "read-out", id: `${name}-read-out`, hidden: true });
   const button = (id, label, symbol, act) =>
-    make("button", { type: "button", id: `${name}-${id}`, className: `tool ${id}`, onclick: act }, sign(symbol), make("span", {}, label));
+    make(
+      "button",
+      { type: "button", id: `${name}-${id}`, className: `tool ${id}`, onclick: act },
+      sign(symbol),
+      make("span", {}, label),
+    );
   const wholeButton = button("whole", "Whole chart", "i-whole", () => zoomWhole());
   const larger = button("larger", "Enlarge", "i-plus", () => zoomBy(buttonZoom));
   const smaller = button("smaller", "Reduce", "i-minus", () => zoomBy(1 / buttonZoom));
@@ -90,12 +95,16 @@ export function createChart(engine, sky, { name, title, fileTitle, box, isShown,
     const isWhole = framing.scale <= framings.fittingScale(box, view) * 1.0001;
     wholeButton.hidden = isWhole;
     smaller.disabled = isWhole;
-    larger.disabled = framing.scale >= framings.fittingScale(box, view) * framings.greatestZoom * 0.999;
+    larger.disabled =
+      framing.scale >= framings.fittingScale(box, view) * framings.greatestZoom * 0.999;
     // A finger scrolls the page while there is nothing to move within the chart.
     host.style.touchAction = isWhole ? "pan-y" : "none";
     host.classList.toggle("enlarged", !isWhole);
     // Small charts have larger letters, so that names can be read before one enlarges them.
-    sheet.style.setProperty("--letters", `${Math.max(leastLetters / framing.scale, drawnLetters)}px`);
+    sheet.style.setProperty(
+      "--letters",
+      `${Math.max(leastLetters / framing.scale, drawnLetters)}px`,
+    );
     placeShown();
   }
 
@@ -117,7 +126,10 @@ export function createChart(engine, sky, { name, title, fileTitle, box, isShown,
     ring.hidden = readOut.hidden = mark === undefined;
     if (mark) {
       const [first, ...lines] = mark.read_out;
-      readOut.replaceChildren(make("b", {}, first), ...lines.map((line) => make("span", {}, readable(line))));
+      readOut.replaceChildren(
+        make("b", {}, first),
+        ...lines.map((line) => make("span", {}, readable(line))),
+      );
       placeShown();
     }
   }
@@ -216,7 +228,9 @@ export function createChart(engine, sky, { name, title, fileTitle, box, isShown,
     reframe();
   }).observe(host);
   // Paper shows the whole chart, whatever is enlarged on the screen.
-  addEventListener("beforeprint", () => sheet.setAttribute("viewBox", [box.x, box.y, box.size, box.size].join(" ")));
+  addEventListener("beforeprint", () =>
+    sheet.setAttribute("viewBox", [box.x, box.y, box.size, box.size].join(" ")),
+  );
   addEventListener("afterprint", reframe);
 
   sky.whenMoved(draw);

@@ -15,7 +15,9 @@ function lineOf({ subject, code, body_part: bodyPart, sign, verdict, color }) {
   if (aside) {
     term.append(make("small", {}, aside));
   }
-  const said = [sign, verdict].filter(Boolean).map((text) => make("span", {}, text.replace(/ +/g, " ")));
+  const said = [sign, verdict]
+    .filter(Boolean)
+    .map((text) => make("span", {}, text.replace(/ +/g, " ")));
   return make("div", {}, term, make("dd", {}, ...said));
 }
 
@@ -37,7 +39,12 @@ export function showInterpretation(engine, sky) {
   const parts = [];
   for (const [heading, lines] of blocksOf(read.value.lines)) {
     parts.push(
-      make("section", { className: "reading" }, make("h3", {}, heading), make("dl", {}, ...lines.map(lineOf))),
+      make(
+        "section",
+        { className: "reading" },
+        make("h3", {}, heading),
+        make("dl", {}, ...lines.map(lineOf)),
+      ),
     );
     if (heading === beforeKeep) {
       parts.push(make("p", { className: "keep", id: "keep" }, read.value.keep));

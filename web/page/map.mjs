@@ -47,7 +47,12 @@ function graticule() {
 
 /** Draws the map into `host`; `choose({lat, long})` is called for every choice. */
 export function createMap(host, places, choose) {
-  const here = makeSvg("g", { class: "here" }, makeSvg("circle", { r: 26 }), makeSvg("circle", { r: 9 }));
+  const here = makeSvg(
+    "g",
+    { class: "here" },
+    makeSvg("circle", { r: 26 }),
+    makeSvg("circle", { r: 9 }),
+  );
   const spots = places.map((place) => {
     const { x, y } = toSheet(place);
     return makeSvg("circle", { class: "spot", cx: x.toFixed(1), cy: y.toFixed(1), r: 9 });
@@ -55,7 +60,11 @@ export function createMap(host, places, choose) {
   host.append(
     makeSvg(
       "svg",
-      { viewBox: `0 0 ${outline.width} ${outline.height}`, "aria-hidden": "true", focusable: "false" },
+      {
+        viewBox: `0 0 ${outline.width} ${outline.height}`,
+        "aria-hidden": "true",
+        focusable: "false",
+      },
       makeSvg("path", { class: "land", d: outline.land }),
       makeSvg("path", { class: "lakes", d: outline.lakes }),
       makeSvg("path", { class: "net", d: graticule() }),

@@ -38,7 +38,7 @@ export function markAt(marks, point, scale) {
   return best;
 }
 
-const stretchOf = (mark) => (mark.dots[0] ?? mark.letters[0]);
+const stretchOf = (mark) => mark.dots[0] ?? mark.letters[0];
 
 /** The unit of the chart that stands for a mark. */
 export function anchor(mark) {

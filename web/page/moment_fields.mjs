@@ -9,7 +9,11 @@ const monthLength = 30;
 const two = (number) => String(number).padStart(2, "0");
 
 /** "2230" is quicker on a phone than "22:30". */
-const withColon = (clock) => clock.trim().replace(/^(\d{1,2})(\d\d)$/, "$1:$2").replace(/^(\d):/, "0$1:");
+const withColon = (clock) =>
+  clock
+    .trim()
+    .replace(/^(\d{1,2})(\d\d)$/, "$1:$2")
+    .replace(/^(\d):/, "0$1:");
 
 export function startMomentFields(engine, sky) {
   const fields = Object.fromEntries(Object.keys(daysOf).map((id) => [id, byId(id)]));

@@ -22,7 +22,8 @@ import { clockWords, dateWords, placeWords } from "./words.mjs";
 
 const forPlayers = ["star-map"];
 const forAll = ["star-map", "horoscope", "tonight", "tables"];
-const daySentence = "The sun is up: of the sky only it and the moon, where it is risen, can be seen.";
+const daySentence =
+  "The sun is up: of the sky only it and the moon, where it is risen, can be seen.";
 
 function start(engine) {
   const session = readSession(engine);
@@ -85,7 +86,16 @@ function start(engine) {
   startSheet();
   if (!session.isForPlayers) {
     startTables(engine, sky, () => views.shown === "tables");
-    startTonight(engine, sky, () => views.shown === "tonight", goTo);
+    startTonight(
+      engine,
+      sky,
+      () => views.shown === "tonight",
+      (baseTime) => {
+        goTo(baseTime);
+        views.open("star-map");
+        byId("tab-star-map").focus();
+      },
+    );
   }
   showBounds(engine, session);
 
@@ -125,9 +135,15 @@ function showBounds(engine, session) {
   if (!session.isBounded) {
     return;
   }
-  const words = (days) => engine.moment({ moment: days, ...session.place }).value?.standard?.date.replace("T", " ");
+  const words = (days) =>
+    engine.moment({ moment: days, ...session.place }).value?.standard?.date.replace("T", " ");
   const [from, to] = [words(session.from), words(session.to)];
-  const text = from && to ? `This session lasts from ${from} to ${to}.` : from ? `This session begins at ${from}.` : `This session ends at ${to}.`;
+  const text =
+    from && to
+      ? `This session lasts from ${from} to ${to}.`
+      : from
+        ? `This session begins at ${from}.`
+        : `This session ends at ${to}.`;
   say(byId("bounds"), text);
   byId("bounds").hidden = false;
 }
@@ -146,7 +162,12 @@ function startKeys(timeBar, chart) {
   addEventListener("keydown", (event) => {
     const { target } = event;
     const presses = event.key === " " && target.closest("button, summary, a, [role=tab]");
-    if (keys[event.key] && !presses && !takesKeys(target) && !(event.ctrlKey || event.altKey || event.metaKey)) {
+    if (
+      keys[event.key] &&
+      !presses &&
+      !takesKeys(target) &&
+      !(event.ctrlKey || event.altKey || event.metaKey)
+    ) {
       event.preventDefault();
       keys[event.key](event);
     }

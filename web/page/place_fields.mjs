@@ -16,7 +16,9 @@ export function startPlaceFields(engine, sky) {
   }
   const choice = byId("place");
   const own = session.placeName && !engine.places.some(({ name }) => name === session.placeName);
-  const places = own ? [{ name: session.placeName, ...session.place }, ...engine.places] : engine.places;
+  const places = own
+    ? [{ name: session.placeName, ...session.place }, ...engine.places]
+    : engine.places;
   choice.append(
     ...places.map(({ name }) => make("option", {}, name)),
     make("option", { value: elsewhere }, "Another place"),

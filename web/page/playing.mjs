@@ -46,7 +46,10 @@ export function createTimeBar(sky) {
     ]) {
       const isOn = direction === way;
       byId(id).setAttribute("aria-pressed", isOn);
-      byId(id).replaceChildren(sign(isOn ? "i-pause" : symbol), make("span", {}, isOn ? "Pause" : label));
+      byId(id).replaceChildren(
+        sign(isOn ? "i-pause" : symbol),
+        make("span", {}, isOn ? "Pause" : label),
+      );
     }
   }
 

@@ -4,7 +4,11 @@ import { compassPoint, degrees } from "./words.mjs";
 
 /** The rows of the positions document: [body, azimuth, altitude, ecliptic longitude, sign]. */
 const rowsOf = (text, headingLines) =>
-  text.trimEnd().split("\n").slice(headingLines).map((line) => line.trim().split(/ +/));
+  text
+    .trimEnd()
+    .split("\n")
+    .slice(headingLines)
+    .map((line) => line.trim().split(/ +/));
 
 export function showPositions(engine, sky, eyes) {
   const about = engine.documents.find(({ document }) => document === "positions");
@@ -16,14 +20,20 @@ export function showPositions(engine, sky, eyes) {
   const rows = rowsOf(text.value, about.columnHeadingLines).filter(([body, , altitude]) =>
     eyes.seesBody(body, !altitude.startsWith("-"), day),
   );
-  const head = ["Body", "Altitude", "Direction", "Sign"].map((name) => make("th", { scope: "col" }, name));
+  const head = ["Body", "Altitude", "Direction", "Sign"].map((name) =>
+    make("th", { scope: "col" }, name),
+  );
   const body = rows.map(([name, azimuth, altitude, , signName]) =>
     make(
       "tr",
       { className: altitude.startsWith("-") ? "below" : "above" },
       make("th", { scope: "row" }, make("i", { className: `dot ${name.toLowerCase()}` }), name),
       make("td", {}, degrees(altitude)),
-      make("td", { title: `Azimuth ${degrees(azimuth)}, from south through west` }, compassPoint(azimuth)),
+      make(
+        "td",
+        { title: `Azimuth ${degrees(azimuth)}, from south through west` },
+        compassPoint(azimuth),
+      ),
       make("td", {}, signName),
     ),
   );
@@ -47,7 +57,11 @@ export function showMoons(engine, sky, goTo) {
   ]) {
     const date = moons[`${moon}_date`]?.replace("T", " ") ?? "";
     const button = byId(id);
-    button.replaceChildren(make("b", {}, name), make("span", {}, date), make("span", { className: "quiet" }, `local ${moons[`${moon}_local_clock`]}`));
+    button.replaceChildren(
+      make("b", {}, name),
+      make("span", {}, date),
+      make("span", { className: "quiet" }, `local ${moons[`${moon}_local_clock`]}`),
+    );
     button.onclick = () => goTo(moons[`${moon}_base_time_days`]);
   }
 }

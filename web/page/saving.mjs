@@ -1,12 +1,16 @@
 // What leaves the page, and only by a person's hand: a file, a sheet of paper, a link.
 import { byId, make } from "./elements.mjs";
-import { notify, tell } from "./notices.mjs";
+import { notify, notifyBriefly, tell } from "./notices.mjs";
 import { placeWords } from "./words.mjs";
 
 /** "Star Map - Wendmark - 720-06-12 22-30.svg", as the desktop offers it. */
 export function fileName(engine, sky, title) {
-  const place = placeWords(engine, sky).replace(/ +/g, " ").replace(/[/\p{Cc}]/gu, "-");
-  const moment = sky.reading.standard?.date.replace("T", " ").replace(":", "-") ?? `day ${sky.baseTime.toFixed(2)}`;
+  const place = placeWords(engine, sky)
+    .replace(/ +/g, " ")
+    .replace(/[/\p{Cc}]/gu, "-");
+  const moment =
+    sky.reading.standard?.date.replace("T", " ").replace(":", "-") ??
+    `day ${sky.baseTime.toFixed(2)}`;
   return `${title} - ${place} - ${moment}.svg`;
 }
 
@@ -52,6 +56,10 @@ export function startSaving(engine, sky, chart) {
   byId("copy-link").onclick = async () => {
     const link = `${location.href.split("#")[0]}#${sky.reading.address}`;
     const done = await copy(link);
-    notify(done ? "The link is copied." : `The link: ${link}`);
+    if (done) {
+      notifyBriefly("The link is copied.");
+    } else {
+      notify(`The link: ${link}`);
+    }
   };
 }

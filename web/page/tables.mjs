@@ -33,7 +33,10 @@ function rowOf(line, columns) {
   if (end < 0) {
     return undefined;
   }
-  const words = line.slice(end + dateEnds.length).trim().split(/ +/);
+  const words = line
+    .slice(end + dateEnds.length)
+    .trim()
+    .split(/ +/);
   return [line.slice(0, end), ...words.slice(0, columns), words.slice(columns).join("  ")];
 }
 
@@ -47,24 +50,46 @@ export function tableOf(text, headingLines) {
   const last = isConjunctions ? "Conjunctions" : lastColumn;
   const head = make("thead");
   if (isConjunctions) {
-    const groups = lines[0].trim().split(/ {2,}/).map((group) => group[0] + group.slice(1).toLowerCase());
+    const groups = lines[0]
+      .trim()
+      .split(/ {2,}/)
+      .map((group) => group[0] + group.slice(1).toLowerCase());
     head.append(
       make(
         "tr",
         {},
         make("td", {}),
-        ...groups.slice(0, 2).map((group) => headingCell(group, { scope: "colgroup", colSpan: figures.length / 2 })),
+        ...groups
+          .slice(0, 2)
+          .map((group) => headingCell(group, { scope: "colgroup", colSpan: figures.length / 2 })),
         make("td", {}),
       ),
     );
   }
-  const named = figures.map((name) => headingCell(isConjunctions ? name[0] + name.slice(1).toLowerCase() : name));
-  head.append(make("tr", {}, headingCell("Date, standard time"), ...named, headingCell(isConjunctions ? `${last} ${names.at(-1)}` : last)));
+  const named = figures.map((name) =>
+    headingCell(isConjunctions ? name[0] + name.slice(1).toLowerCase() : name),
+  );
+  head.append(
+    make(
+      "tr",
+      {},
+      headingCell("Date, standard time"),
+      ...named,
+      headingCell(isConjunctions ? `${last} ${names.at(-1)}` : last),
+    ),
+  );
   const body = make("tbody");
   for (const line of lines.slice(headingLines)) {
     const row = rowOf(line, figures.length);
     const [first, ...cells] = row ?? [line];
-    body.append(make("tr", {}, make("th", { scope: "row" }, first), ...cells.map((cell) => make("td", {}, cell))));
+    body.append(
+      make(
+        "tr",
+        {},
+        make("th", { scope: "row" }, first),
+        ...cells.map((cell) => make("td", {}, cell)),
+      ),
+    );
   }
   return make("table", {}, make("caption", { className: "spoken" }), head, body);
 }

@@ -16,7 +16,12 @@ function line(event, goTo) {
   const seen = event.seen ? "seen" : "not seen";
   const button = make(
     "button",
-    { type: "button", className: "event", "data-kind": event.kind, onclick: () => goTo(event.base_time_days) },
+    {
+      type: "button",
+      className: "event",
+      "data-kind": event.kind,
+      onclick: () => goTo(event.base_time_days),
+    },
     make("time", {}, clockOf(event) ?? ""),
     make("span", { className: "what" }, event.description),
     make("span", { className: `seen ${event.seen ? "yes" : "no"}` }, seen),
@@ -26,7 +31,11 @@ function line(event, goTo) {
 
 /** The line between what has been and what is to come. */
 const nowLine = (sky) =>
-  make("li", { className: "now" }, `Now, ${(isLocal() ? sky.reading.local : sky.reading.standard)?.date.split("T")[1] ?? ""}`);
+  make(
+    "li",
+    { className: "now" },
+    `Now, ${(isLocal() ? sky.reading.local : sky.reading.standard)?.date.split("T")[1] ?? ""}`,
+  );
 
 export function startTonight(engine, sky, isOpen, goTo) {
   const { session } = sky;
@@ -65,10 +74,11 @@ export function startTonight(engine, sky, isOpen, goTo) {
     const [begin, end] = [date(from), date(from + 1)];
     say(
       byId("tonight-span"),
-      begin && end ? `From noon of ${begin.day} ${begin.month_name} to noon of ${end.day} ${end.month_name} ${end.year}, by the clock of the place.` : "",
+      begin && end
+        ? `From noon of ${begin.day} ${begin.month_name} to noon of ${end.day} ${end.month_name} ${end.year}, by the clock of the place.`
+        : "",
     );
   }
   onlySeen.addEventListener("change", show);
   sky.whenAtRest(show);
 }
-

@@ -35,6 +35,7 @@ export function createViews(names, opened) {
       }
     };
   }
+  byId("tabs").hidden = tabs.length === 1;
   return {
     open,
     get shown() {

@@ -1,8 +1,22 @@
 // Figures and names as people read them.
 
 const points = [
-  "S", "SSW", "SW", "WSW", "W", "WNW", "NW", "NNW",
-  "N", "NNE", "NE", "ENE", "E", "ESE", "SE", "SSE",
+  "S",
+  "SSW",
+  "SW",
+  "WSW",
+  "W",
+  "WNW",
+  "NW",
+  "NNW",
+  "N",
+  "NNE",
+  "NE",
+  "ENE",
+  "E",
+  "ESE",
+  "SE",
+  "SSE",
 ];
 
 /** "-012:30" or ":20" of the documents as "−12° 30′"; their "164:60" is 165 degrees. */

@@ -3,7 +3,8 @@
 
 export const greatestZoom = 16;
 
-export const fittingScale = (box, view) => Math.max(Math.min(view.width, view.height) / box.size, 1e-3);
+export const fittingScale = (box, view) =>
+  Math.max(Math.min(view.width, view.height) / box.size, 1e-3);
 
 /** The middle along one side: held so that no more than needed beside the box is seen. */
 function heldIn(at, from, size, seen) {
