@@ -1,6 +1,7 @@
 // Year, month, day and clock: typed, chosen and stepped.
 import { byId, complain, make } from "./elements.mjs";
 import { heldWords, notify } from "./notices.mjs";
+import { whenPressed } from "./pressed.mjs";
 import { clockWords } from "./words.mjs";
 
 const daysOf = { year: 360, month: 30, day: 1, clock: 1 / 24 };
@@ -77,8 +78,8 @@ export function startMomentFields(engine, sky) {
       isTyping = false;
       goTo(sky.baseTime + direction * days);
     };
-    byId(`${id}-earlier`).onclick = step(-1);
-    byId(`${id}-later`).onclick = step(1);
+    whenPressed(byId(`${id}-earlier`), sky, step(-1));
+    whenPressed(byId(`${id}-later`), sky, step(1));
   }
   byId("moment-form").addEventListener("submit", (event) => {
     event.preventDefault();

@@ -2,6 +2,7 @@
 import { byId, make, say, sign } from "./elements.mjs";
 import { isLocal } from "./moment_fields.mjs";
 import { heldWords, notify } from "./notices.mjs";
+import { whenPressed } from "./pressed.mjs";
 import { clockWords } from "./words.mjs";
 
 /** A step, and what passes in a second of playing: days. */
@@ -88,8 +89,8 @@ export function createTimeBar(sky) {
   };
   byId("play").onclick = () => toggle(1);
   byId("play-back").onclick = () => toggle(-1);
-  byId("earlier").onclick = () => step(-1);
-  byId("later").onclick = () => step(1);
+  whenPressed(byId("earlier"), sky, () => step(-1));
+  whenPressed(byId("later"), sky, () => step(1));
 
   // The bar's left end; it stays where it is while a finger holds the bar.
   const showsSession = session.to - session.from <= longestBar;
