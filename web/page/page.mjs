@@ -81,7 +81,7 @@ function start(engine) {
 
   startMomentFields(engine, sky);
   startPlaceFields(engine, sky);
-  const timeBar = createTimeBar(sky);
+  const timeBar = createTimeBar(engine, sky);
   startSaving(engine, sky, () => charts[views.shown]);
   startSheet();
   if (!session.isForPlayers) {

@@ -1,5 +1,6 @@
 // The time bar: steps, playing in both directions, and the hours of the day under a finger.
 import { byId, make, say, sign } from "./elements.mjs";
+import { startDaylight } from "./daylight.mjs";
 import { isLocal } from "./moment_fields.mjs";
 import { heldWords, notify } from "./notices.mjs";
 import { whenPressed } from "./pressed.mjs";
@@ -24,7 +25,7 @@ const longestBar = 2;
 /** A picture that came late, as from another tab, is no leap in time: seconds. */
 const longestFrame = 0.25;
 
-export function createTimeBar(sky) {
+export function createTimeBar(engine, sky) {
   const { session } = sky;
   const pace = byId("pace");
   const bar = byId("hour-bar");
@@ -110,7 +111,6 @@ export function createTimeBar(sky) {
       begin = showsSession ? session.from : sky.baseTime - (clock?.hour ?? 0) / 24;
       bar.value = Math.round((sky.baseTime - begin) / minute);
     }
-    bar.style.setProperty("--share", `${(100 * bar.value) / bar.max}%`);
     bar.setAttribute("aria-valuetext", clock ? clockWords(clock) : "");
   }
 
@@ -134,6 +134,10 @@ export function createTimeBar(sky) {
   bar.addEventListener("blur", letGo);
 
   sky.whenMoved(showBar);
+  // To players dawn and dusk are still to come.
+  if (!session.isForPlayers) {
+    startDaylight(engine, sky, bar, () => ({ begin, days: bar.max * minute }));
+  }
   addEventListener("visibilitychange", () => document.hidden && play(0));
   return { toggle, step };
 }
