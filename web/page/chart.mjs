@@ -1,5 +1,5 @@
 // A chart on the screen: drawn from its document, enlarged and moved, pointed at, walked by keys.
-import { byId, make, makeSvg, say, sign } from "./elements.mjs";
+import { byId, face, make, makeSvg, say } from "./elements.mjs";
 import { startGestures } from "./gestures.mjs";
 import { anchor, extent, markAt, neighbour, sameMark } from "./marks.mjs";
 import { placeReadOut } from "./read_out.mjs";
@@ -25,13 +25,12 @@ export function createChart(engine, sky, { name, title, fileTitle, box, isShown,
   const sheet = makeSvg("svg", { class: "sheet", "aria-hidden": "true", focusable: "false" });
   const ring = make("div", { className: "ring", hidden: true });
   const readOut = make("div", { className: "read-out", id: `${name}-read-out`, hidden: true });
-  const button = (id, label, symbol, act) =>
-    make(
-      "button",
-      { type: "button", id: `${name}-${id}`, className: `tool ${id}`, onclick: act },
-      sign(symbol),
-      make("span", {}, label),
-    );
+  const button = (id, label, symbol, act) => {
+    const made = make("button", { type: "button", id: `${name}-${id}`, className: `tool ${id}` });
+    face(made, symbol, label);
+    made.onclick = act;
+    return made;
+  };
   const wholeButton = button("whole", "Whole chart", "i-whole", () => zoomWhole());
   const larger = button("larger", "Enlarge", "i-plus", () => zoomBy(buttonZoom));
   const smaller = button("smaller", "Reduce", "i-minus", () => zoomBy(1 / buttonZoom));

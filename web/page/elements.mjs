@@ -30,6 +30,12 @@ export function makeSvg(name, attributes = {}, ...children) {
 /** One of the signs at the top of the page. */
 export const sign = (id) => makeSvg("svg", {}, makeSvg("use", { href: `#${id}` }));
 
+/** Gives a button its sign, and its name to hear and to see under the pointer. */
+export function face(button, symbol, name) {
+  button.replaceChildren(sign(symbol), make("span", {}, name));
+  button.title = name;
+}
+
 /** Sets a text only where it differs, so that nothing is laid out or spoken anew. */
 export function say(element, text) {
   if (element.textContent !== text) {

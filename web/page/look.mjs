@@ -1,5 +1,5 @@
 // Light or dark: as the device is, until the switch says otherwise.
-import { byId, make, sign } from "./elements.mjs";
+import { byId, face } from "./elements.mjs";
 
 export function startLook() {
   const dark = matchMedia("(prefers-color-scheme: dark)");
@@ -16,6 +16,6 @@ export function startLook() {
     isDark = !isDark;
     show();
   };
-  byId("look").replaceChildren(sign("i-look"), make("span", {}, "Dark"));
+  face(byId("look"), "i-look", "Dark");
   show();
 }

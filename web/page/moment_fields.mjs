@@ -28,9 +28,9 @@ export function startMomentFields(engine, sky) {
     day.append(make("option", {}, String(number)));
   }
 
-  /** A year that is no number is to blame for itself; else it can only be the clock. */
+  /** A year that is none is to blame for itself; else it can only be the clock. */
   function blame(text = "") {
-    const isYear = !/^\s*\d+\s*$/.test(year.value);
+    const isYear = !/^\s*0*[1-9]\d*\s*$/.test(year.value);
     complain(year, error, isYear ? text : "");
     if (!isYear) {
       complain(clock, error, text);

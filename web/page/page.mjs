@@ -57,6 +57,8 @@ function start(engine) {
   sky.whenMoved(() => {
     isDay = eyes.isDay();
     byId("star-map").classList.toggle("by-day", isDay);
+    // A file of the star map has its stars by day, too.
+    byId("save-svg").disabled = isDay;
   });
   const charts = {
     "star-map": createChart(engine, sky, {

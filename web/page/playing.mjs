@@ -1,5 +1,5 @@
 // The time bar: steps, playing in both directions, and the hours of the day under a finger.
-import { byId, make, say, sign } from "./elements.mjs";
+import { byId, face, make, say } from "./elements.mjs";
 import { startDaylight } from "./daylight.mjs";
 import { isLocal } from "./moment_fields.mjs";
 import { heldWords, notify } from "./notices.mjs";
@@ -48,10 +48,7 @@ export function createTimeBar(engine, sky) {
     ]) {
       const isOn = direction === way;
       byId(id).setAttribute("aria-pressed", isOn);
-      byId(id).replaceChildren(
-        sign(isOn ? "i-pause" : symbol),
-        make("span", {}, isOn ? "Pause" : label),
-      );
+      face(byId(id), isOn ? "i-pause" : symbol, isOn ? "Pause" : label);
     }
   }
 
@@ -83,11 +80,15 @@ export function createTimeBar(engine, sky) {
     showPlaying();
   }
 
+  showPlaying();
+
   const toggle = (way) => play(direction === way ? 0 : way);
   const step = (way) => {
     play(0);
     move(way * Number(pace.value));
   };
+  face(byId("earlier"), "i-earlier", "A step earlier");
+  face(byId("later"), "i-later", "A step later");
   byId("play").onclick = () => toggle(1);
   byId("play-back").onclick = () => toggle(-1);
   whenPressed(byId("earlier"), sky, () => step(-1));
