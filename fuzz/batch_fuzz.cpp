@@ -15,6 +15,7 @@
 #include "fuzz/target.h"
 #include "words/quoting.h"
 #include "words/usage_error.h"
+#include "words/utf8.h"
 
 using namespace veyruna;
 using cli::BatchRow;

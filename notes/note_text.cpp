@@ -3,7 +3,7 @@
 #include <array>
 
 #include "astro/number_text.h"
-#include "records/json_text.h"
+#include "words/utf8.h"
 
 namespace veyruna::notes {
 
@@ -31,7 +31,7 @@ bool isNoPartOfALine(std::string_view codePoint) {
 }  // namespace
 
 std::string oneLine(std::string_view text) {
-  const std::string valid = records::validTextOf(text);
+  const std::string valid = words::validUtf8(text);
   std::string line;
   for (std::size_t begin = 0; begin < valid.size();) {
     std::size_t end = begin + 1;

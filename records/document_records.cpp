@@ -29,8 +29,9 @@ Recorded recordedOf(Document document) {
       return {positionsType, aboutPositions, forEachPositionsRow};
     case Document::moment:
       return {momentType, aboutMoment, forEachMomentRow};
-    case Document::starMap:
     case Document::horoscope:
+      return {interpretationType, aboutInterpretation, forEachInterpretationRow};
+    case Document::starMap:
     case Document::horoscopeOnPaper:
     case Document::date:
     case Document::nextFullMoon:

@@ -15,6 +15,7 @@ const RecordType& positionsType();
 const RecordType& ephemerisType();
 const RecordType& conjunctionsType();
 const RecordType& momentType();
+const RecordType& interpretationType();
 
 /// The type of a document's records; nothing where the document is a chart or a label.
 const RecordType* recordTypeOf(documents::Document document);

@@ -49,8 +49,4 @@ std::string schemaMemberOf(const RecordType& type) {
   return oneLine({{"name", type.name}, {"version", type.version}});
 }
 
-std::string validTextOf(std::string_view text) {
-  return Json::parse(jsonTextOf(text)).get<std::string>();
-}
-
 }  // namespace veyruna::records

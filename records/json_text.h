@@ -22,7 +22,4 @@ void appendMembers(std::string& out, const std::vector<Field>& fields, const Row
 /// `{"name":"events","version":1}`.
 std::string schemaMemberOf(const RecordType& type);
 
-/// The text itself in UTF-8 whatever it held: bytes that are none become U+FFFD.
-std::string validTextOf(std::string_view text);
-
 }  // namespace veyruna::records

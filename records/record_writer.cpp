@@ -4,6 +4,7 @@
 
 #include "astro/number_text.h"
 #include "records/json_text.h"
+#include "words/utf8.h"
 
 namespace veyruna::records {
 
@@ -12,7 +13,7 @@ namespace {
 /// A field of CSV: in quotes where a comma, a quote or the end of a line would be misread, or a
 /// blank at an edge be taken for none of it.
 void appendCsvText(std::string& out, std::string_view text) {
-  const std::string valid = validTextOf(text);
+  const std::string valid = words::validUtf8(text);
   const auto isBlank = [](char character) { return character == ' ' || character == '\t'; };
   const bool hasBlankEdge = !valid.empty() && (isBlank(valid.front()) || isBlank(valid.back()));
   if (!hasBlankEdge && valid.find_first_of(",\"\r\n") == std::string::npos) {

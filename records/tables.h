@@ -23,6 +23,10 @@ Row aboutPositions(const astro::Observer& observer);
 void forEachPositionsRow(const astro::Observer& observer, const reports::TableSize& size,
                          const TakeRow& take);
 
+Row aboutInterpretation(const astro::Observer& observer);
+void forEachInterpretationRow(const astro::Observer& observer, const reports::TableSize& size,
+                              const TakeRow& take);
+
 Row aboutMoment(const astro::Observer& observer);
 void forEachMomentRow(const astro::Observer& observer, const reports::TableSize& size,
                       const TakeRow& take);

@@ -68,6 +68,16 @@ constexpr void transform(Range&& range, Out out, Change change) {
                  [&](auto&& element) { return std::invoke(change, element); });
 }
 
+template <class Range, class Value>
+constexpr void replace(Range&& range, const Value& before, const Value& after) {
+  std::replace(std::begin(range), std::end(range), before, after);
+}
+
+template <class Range, class Out>
+constexpr void move(Range&& range, Out out) {
+  std::move(std::begin(range), std::end(range), out);
+}
+
 /// An order of elements by what is projected of them.
 template <class Order, class Projection>
 constexpr auto orderBy(Order& order, Projection& projection) {

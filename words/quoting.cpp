@@ -2,45 +2,16 @@
 
 #include <algorithm>
 
+#include "words/utf8.h"
+
 namespace veyruna::words {
 
 namespace {
 
-/// The length of the UTF-8 character at the beginning of a text; 0 where there is none: a byte out
-/// of place, a piece of a character, a code point written longer than it is, a surrogate, or one
-/// beyond U+10FFFF.
+/// The length of the character at the beginning; 0 where there is none.
 std::size_t characterLength(std::string_view text) {
-  const auto byteAt = [text](std::size_t i) {
-    return i < text.size() ? static_cast<unsigned char>(text[i]) : 0U;
-  };
-  const unsigned first = byteAt(0);
-  // The second byte alone tells whether a code point is one: its least and most after each first.
-  unsigned least = 0x80;
-  unsigned most = 0xBF;
-  std::size_t length = 0;
-  if (first < 0x80) {
-    return text.empty() ? 0 : 1;
-  }
-  if (first >= 0xC2 && first <= 0xDF) {
-    length = 2;
-  } else if (first >= 0xE0 && first <= 0xEF) {
-    length = 3;
-    least = first == 0xE0 ? 0xA0 : least;
-    most = first == 0xED ? 0x9F : most;
-  } else if (first >= 0xF0 && first <= 0xF4) {
-    length = 4;
-    least = first == 0xF0 ? 0x90 : least;
-    most = first == 0xF4 ? 0x8F : most;
-  }
-  if (byteAt(1) < least || byteAt(1) > most) {
-    return 0;
-  }
-  for (std::size_t i = 2; i < length; ++i) {
-    if (byteAt(i) < 0x80 || byteAt(i) > 0xBF) {
-      return 0;
-    }
-  }
-  return length;
+  const Utf8Piece piece = text.empty() ? Utf8Piece{0, false} : firstPiece(text);
+  return piece.isCharacter ? piece.length : 0;
 }
 
 /// Whether a character moves the cursor or worse: U+0000 to U+001F and U+007F to U+009F.
@@ -60,17 +31,6 @@ void appendHexadecimal(std::string& out, std::string_view bytes) {
 }
 
 }  // namespace
-
-bool isUtf8(std::string_view text) {
-  while (!text.empty()) {
-    const std::size_t length = characterLength(text);
-    if (length == 0) {
-      return false;
-    }
-    text.remove_prefix(length);
-  }
-  return true;
-}
 
 std::string inQuotes(std::string_view text) {
   constexpr std::size_t longest = 120;

@@ -7,9 +7,6 @@
 
 namespace veyruna::words {
 
-/// Whether all of `text` is UTF-8.
-bool isUtf8(std::string_view text);
-
 /// `text` in double quotes on one line, in UTF-8 whatever it holds: control characters and bytes
 /// that are no UTF-8 as \xNN, a quote or backslash behind a backslash, a long text cut between two
 /// characters.

@@ -8,6 +8,7 @@
 #include "astro/angle.h"
 #include "astro/calendar.h"
 #include "astro/clock.h"
+#include "astro/number_conversion.h"
 #include "astro/number_text.h"
 #include "words/quoting.h"
 #include "words/usage_error.h"
@@ -16,10 +17,9 @@ namespace veyruna::words {
 
 namespace {
 
-/// All of `text` as a number, or nothing. A leading plus and a typographic minus are understood,
-/// other notations are not.
-template <class Number>
-std::optional<Number> readingOf(std::string_view text) {
+/// The text with a minus as the readers of numbers take it, and without a plus in front. Other
+/// notations are not understood.
+std::string withPlainSign(std::string_view text) {
   constexpr std::string_view minusSign = "−";
   std::string plain(text);
   if (text.starts_with(minusSign)) {
@@ -27,13 +27,16 @@ std::optional<Number> readingOf(std::string_view text) {
   } else if (text.size() > 1 && text.front() == '+' && text[1] != '-') {
     plain.erase(0, 1);
   }
-  Number number{};
+  return plain;
+}
+
+/// All of `text` as a whole number, or nothing.
+std::optional<std::int64_t> wholeNumberOf(std::string_view text) {
+  const std::string plain = withPlainSign(text);
+  std::int64_t number = 0;
   const char* const end = plain.data() + plain.size();
   const auto read = std::from_chars(plain.data(), end, number);
-  if (read.ec != std::errc{} || read.ptr != end) {
-    return std::nullopt;
-  }
-  return number;
+  return read.ec == std::errc{} && read.ptr == end ? std::optional(number) : std::nullopt;
 }
 
 char lowered(char letter) {
@@ -87,7 +90,7 @@ bool equalIgnoringCase(std::string_view a, std::string_view b) {
 }
 
 std::optional<double> numberOf(std::string_view text) {
-  const std::optional<double> number = readingOf<double>(text);
+  const std::optional<double> number = astro::readDouble(withPlainSign(text));
   return number && std::isfinite(*number) ? number : std::nullopt;
 }
 
@@ -98,14 +101,14 @@ std::optional<std::int64_t> monthIndexOf(std::string_view text) {
   if (named != astro::monthNames.end()) {
     return named - astro::monthNames.begin();
   }
-  const std::optional<std::int64_t> number = readingOf<std::int64_t>(text);
+  const std::optional<std::int64_t> number = wholeNumberOf(text);
   return number && *number >= 1 && *number <= astro::monthsPerYear ? std::optional(*number - 1)
                                                                    : std::nullopt;
 }
 
 std::int64_t readWholeNumber(std::string_view what, std::string_view text, std::int64_t least,
                              std::int64_t most) {
-  const std::optional<std::int64_t> number = readingOf<std::int64_t>(text);
+  const std::optional<std::int64_t> number = wholeNumberOf(text);
   if (!number || *number < least || *number > most) {
     refuse(what, text,
            "a whole number from " + std::to_string(least) + " to " + std::to_string(most));

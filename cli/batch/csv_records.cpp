@@ -5,6 +5,7 @@
 #include <new>
 
 #include "words/quoting.h"
+#include "words/utf8.h"
 
 namespace veyruna::cli {
 

@@ -14,6 +14,7 @@
 #include "model/locations_file.h"
 #include "model/qt_settings_store.h"
 #include "model/stored_settings.h"
+#include "words/angles.h"
 #include "words/quoting.h"
 #include "words/usage_error.h"
 
@@ -54,13 +55,6 @@ QList<CityPreset> knownPlaces() {
   return places;
 }
 
-/// "40.50°N", which --lat reads again.
-std::string coordinate(double radians, char positive, char negative) {
-  std::string text;
-  astro::appendFixed(text, astro::typedDegreesOf(std::abs(radians)), 2);
-  return text + "°" + (radians >= 0.0 ? positive : negative);
-}
-
 /// A place's name as it stands on a line.
 QString listedName(const CityPreset& place) {
   return QString::fromStdString(words::asListed(place.name.toStdString()));
@@ -96,8 +90,7 @@ CityPreset placeNamed(const std::string& name, const std::string& what) {
 }  // namespace
 
 Place placeAt(double latitude, double longitude) {
-  return {latitude, longitude,
-          coordinate(latitude, 'N', 'S') + "  " + coordinate(longitude, 'E', 'W')};
+  return {latitude, longitude, words::coordinatesText(latitude, longitude)};
 }
 
 Place savedPlace(const std::string& name, const std::string& what) {
@@ -136,8 +129,8 @@ std::string savedPlacesText() {
       text += "not on the globe\n";
       continue;
     }
-    text += rightAligned(coordinate(place.latitude, 'N', 'S'), 7) + "  " +
-            rightAligned(coordinate(place.longitude, 'E', 'W'), 8) + "\n";
+    text += rightAligned(words::latitudeText(place.latitude), 7) + "  " +
+            rightAligned(words::longitudeText(place.longitude), 8) + "\n";
   }
   return text;
 }
