@@ -46,13 +46,17 @@ export function say(element, text) {
 /** Whether keys belong to what has the focus: typing, choosing, sliding. */
 export const takesKeys = (element) => /^(INPUT|SELECT|TEXTAREA)$/.test(element.tagName);
 
-/** Shows what is wrong with a field in `error` beside it; an empty text takes it back. */
-export function complain(field, error, text) {
-  say(error, text);
-  error.hidden = text === "";
-  if (text) {
+/** Marks a field as one that holds what cannot be used. */
+export function markInvalid(field, isInvalid) {
+  if (isInvalid) {
     field.setAttribute("aria-invalid", "true");
   } else {
     field.removeAttribute("aria-invalid");
   }
+}
+
+/** Shows in `error` what is wrong; an empty text takes it back. */
+export function complain(error, text) {
+  say(error, text);
+  error.hidden = text === "";
 }

@@ -1,5 +1,5 @@
 // Year, month, day and clock: typed, chosen and stepped.
-import { byId, complain, make } from "./elements.mjs";
+import { byId, complain, make, markInvalid } from "./elements.mjs";
 import { heldWords, notify } from "./notices.mjs";
 import { whenPressed } from "./pressed.mjs";
 import { clockWords } from "./words.mjs";
@@ -28,21 +28,23 @@ export function startMomentFields(engine, sky) {
     day.append(make("option", {}, String(number)));
   }
 
-  /** A year that is none is to blame for itself; else it can only be the clock. */
+  const typedDate = (time) =>
+    `${year.value.trim()}-${two(month.value || 1)}-${two(day.value || 1)}T${time}`;
+  const read = (moment) => engine.moment({ ...sky.asked, moment, local: local.checked });
+
+  /** Marks the field that is to blame for the text: the clock, where the day has a noon. */
   function blame(text = "") {
-    const isYear = !/^\s*0*[1-9]\d*\s*$/.test(year.value);
-    complain(year, error, isYear ? text : "");
-    if (!isYear) {
-      complain(clock, error, text);
-    } else {
-      clock.removeAttribute("aria-invalid");
-    }
+    const isClock = text !== "" && read(typedDate("12:00")).ok;
+    markInvalid(clock, isClock);
+    markInvalid(year, text !== "" && !isClock);
+    complain(error, text);
   }
 
   function show() {
     if (isTyping) {
       return;
     }
+    blame();
     const reading = local.checked ? sky.reading.local : sky.reading.standard;
     for (const field of Object.values(fields)) {
       field.disabled = !reading && field.tagName === "SELECT";
@@ -61,13 +63,12 @@ export function startMomentFields(engine, sky) {
 
   function apply() {
     isTyping = false;
-    const typed = `${year.value.trim()}-${two(month.value || 1)}-${two(day.value || 1)}T${withColon(clock.value)}`;
-    const read = engine.moment({ ...sky.asked, moment: typed, local: local.checked });
-    if (read.ok) {
-      goTo(read.value.base_time);
+    const asked = read(typedDate(withColon(clock.value)));
+    if (asked.ok) {
+      goTo(asked.value.base_time);
       show();
     } else {
-      blame(read.error);
+      blame(asked.error);
     }
   }
 

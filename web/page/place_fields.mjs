@@ -1,5 +1,5 @@
 // The place: one of the known ones, coordinates, or a point of the map.
-import { byId, complain, make, say } from "./elements.mjs";
+import { byId, complain, make, markInvalid, say } from "./elements.mjs";
 import { createMap } from "./map.mjs";
 import { heldWords, notify } from "./notices.mjs";
 import { placeWords } from "./words.mjs";
@@ -41,12 +41,16 @@ export function startPlaceFields(engine, sky) {
   function coordinate(id, member) {
     const field = byId(id);
     const error = byId(`${id}-error`);
+    const blame = (text) => {
+      markInvalid(field, text !== "");
+      complain(error, text);
+    };
     let isTyping = false;
     field.addEventListener("input", () => (isTyping = true));
     field.addEventListener("change", () => {
       isTyping = false;
       const read = engine.moment({ ...sky.asked, [member]: field.value });
-      complain(field, error, read.ok ? "" : read.error);
+      blame(read.ok ? "" : read.error);
       if (read.ok) {
         goTo({ [member]: read.value[member] });
       }
@@ -54,7 +58,7 @@ export function startPlaceFields(engine, sky) {
     return (text) => {
       if (!isTyping) {
         field.value = text;
-        complain(field, error, "");
+        blame("");
       }
     };
   }

@@ -35,6 +35,8 @@ export function createViews(names, opened) {
       }
     };
   }
+  // The address is the sky's, so it is no link.
+  byId("skip").onclick = () => byId("views").focus();
   byId("tabs").hidden = tabs.length === 1;
   return {
     open,
