@@ -19,4 +19,5 @@ fixed seeds, so the same sheet is drawn every time.
     graticule  net, crossings and frame        ornaments  cartouche, scale, rose, degrees
     sheet      the whole sheet, layer by layer
     note       the note beside the picture     check      measures the finished picture
+    measures   what a reader meets, in figures
 """

@@ -1,4 +1,5 @@
-"""Measures the finished picture: where its marks and crossings really are.
+"""Measures the finished picture: where its marks and crossings really are, and what its reader
+meets (see `measures`).
 
 A mark is the middle of its red, a crossing the middle of its dark dot in the pale pearl.
 The pearl and the ring keep all else away, so a threshold half-way is safe even after
@@ -8,10 +9,16 @@ the picture has been compressed.
 import numpy as np
 from PIL import Image
 
-from . import graticule
+from . import graticule, measures, sheet
+from .land import GRID
 from .world import HEIGHT, PLACES, WIDTH
 
 WORST = 0.75  # pixels
+LEAST_SHORE = 1.6  # contrast of the land with the sea beside it, which is the darker
+LEAST_TEXT = 4.5  # contrast of a name with its ground
+LEAST_TYPE, LEAST_DEGREES = 8.0, 9.8  # points at 100 % in a window of 1280 by 800
+FAINTEST = 150  # 0 to 255: what is lighter is no ink of the frame
+LEAST_OFF_RIVER, LEAST_OFF_MARK, LEAST_OFF_COAST = 1.0, 42.0, 15.0  # pixels
 
 
 def redness(window):
@@ -37,6 +44,47 @@ def centre(picture, x, y, reach, weight):
             return np.nan, np.nan, 0.0
         x, y = (share * columns).sum() / total, (share * rows).sum() / total
     return x, y, total
+
+
+def _reading(picture, grey):
+    """Prints what a reader meets; true when all is within bounds."""
+    country, _, names, figures = sheet.plan()
+    bright = measures.luminance(picture)
+    rows, columns = country.land.shape
+    cells = bright.reshape(rows, GRID, columns, GRID).mean(axis=(1, 3))
+    shores = measures.coast(cells, country)
+    low = shores[shores[:, 0].argmin()]
+    print(
+        f"  {len(shores)} stations of the coasts: the land is {low[0]:.2f} times lighter than the"
+        f" sea or more, {np.median(shores[:, 0]):.2f} in the middle (least at {low[1]:.1f} E"
+        f" {low[2]:.1f} N)"
+    )
+    texts = measures.lettering_contrast(bright, names + figures)
+    print(
+        f"  lettering: contrast {texts.min():.2f} ({(names + figures)[texts.argmin()].text}) or more"
+    )
+    least, degrees = measures.sizes(names + figures)
+    print(f"  type: {least:.1f} points or more in a window of 1280 by 800, degrees {degrees:.1f}")
+    corners = measures.frame_corners(grey)
+    print("  frame: lightest ink at the corners", corners)
+    springs = measures.springs_in_dunes(country)
+    river, mark = measures.clearance(names, country)
+    off = measures.offing(names, country)
+    print(
+        f"  {len(country.rivers)} rivers, {springs} of which rise in dunes; letters keep"
+        f" {river:.1f} pixels off rivers, {mark:.1f} off marks, the seas' {off:.1f} off the coast"
+    )
+    return (
+        low[0] >= LEAST_SHORE
+        and texts.min() >= LEAST_TEXT
+        and least >= LEAST_TYPE
+        and degrees >= LEAST_DEGREES
+        and max(corners.values()) <= FAINTEST
+        and springs == 0
+        and river >= LEAST_OFF_RIVER
+        and mark >= LEAST_OFF_MARK
+        and off >= LEAST_OFF_COAST
+    )
 
 
 def run(path):
@@ -69,4 +117,4 @@ def run(path):
         if odd:
             print("    odd:", ", ".join(odd))
         good = good and off.max() <= WORST and not odd
-    return good
+    return _reading(picture / 255, np.asarray(image.convert("L"))) and good

@@ -42,6 +42,11 @@ def rain(land, heights, lat):
     return np.clip(0.55 * wet, 0.02, 1.0)
 
 
+def dunes(desert, heights):
+    """How thick dunes stand, 0 to 1: in the deserts, and on no mountain."""
+    return np.clip(desert * 1.4 - 0.3, 0, 1) * (heights < 0.33)
+
+
 def warmth(heights, lat):
     """1 at the equator's shore, 0 where trees end."""
     return np.clip(1.12 - lat / 56 - 0.45 * np.maximum(heights, 0), 0, 1.1)

@@ -12,17 +12,19 @@ class Country:
 
     def __init__(self):
         self.land, self.lakes = land.field(), relief.lake_field()
-        x, y = land.pixel_grids(relief.GRID)
-        coarse = np.s_[: 2 * x.shape[0] : 2, : 2 * x.shape[1] : 2]
-        dry, lakes, lat = self.land[coarse], self.lakes[coarse], to_degrees(x, y)[1]
-        rain = climate.rain(dry > 0, relief.raw_heights(dry), lat)
-        heights, drainage = relief.heights(dry, lakes, rain / rain[dry > 0].mean())
-        self.rivers = rivers.trace(drainage)
-        self.heights, self.rain = self._finer(heights), self._finer(rain)
         x, y = land.pixel_grids()
         self.lon, self.lat = to_degrees(x, y)
-        self.warmth = climate.warmth(self.heights, self.lat)
         self.fen, self.desert = self._blots(MARSHES, 881), self._blots(DESERTS, 882)
+        rows, columns = land.pixel_grids(relief.GRID)[0].shape
+        coarse = np.s_[: 2 * rows : 2, : 2 * columns : 2]
+        ground, lakes, desert = self.land[coarse], self.lakes[coarse], self.desert[coarse]
+        rain = climate.rain(ground > 0, relief.raw_heights(ground), self.lat[coarse])
+        # What falls on sand feeds no river.
+        fed = rain * (1 - desert / self.desert.max())
+        heights, drainage = relief.heights(ground, lakes, fed / fed[ground > 0].mean())
+        self.rivers = rivers.trace(drainage, climate.dunes(desert, heights) > 0, self.land)
+        self.heights, self.rain = self._finer(heights), self._finer(rain)
+        self.warmth = climate.warmth(self.heights, self.lat)
         self.fen *= self.heights < 0.2
         self.wood = noise.fractal(self.land.shape, 75, 4, 883)
         self.valid = graticule.valid(x, y)

@@ -64,24 +64,45 @@ def draw_net(c):
     c.restore()
 
 
-def draw_frame(c):
-    """The border line, and outside of it a band of dark and light degrees."""
+WAYS_OUT = {SOUTH: np.array([0, 1.0]), NORTH: np.array([0, -1.0])}
 
-    def outward(lon, lat):
-        """A frame point and the way out of the area."""
-        x, y = to_pixel(lon, lat)
-        ahead = np.array(to_pixel(lon, lat + 0.01)) - np.array([x, y])
-        normal = np.array([-ahead[1], ahead[0]]) / np.hypot(*ahead)
-        return np.array([x, y]), normal if lon > 0 else -normal
+
+def _outward(lon, lat):
+    """A point of the frame's side and the way out of the area."""
+    x, y = to_pixel(lon, lat)
+    ahead = np.array(to_pixel(lon, lat + 0.01)) - np.array([x, y])
+    normal = np.array([-ahead[1], ahead[0]]) / np.hypot(*ahead)
+    return np.array([x, y]), normal if lon > 0 else -normal
+
+
+def corner(lon, lat, wide=1.0):
+    """Where the bands of both sides meet outside a corner, so many pixels out of either."""
+    point, side = _outward(lon, lat)
+    return point + wide * (side + WAYS_OUT[lat]) / (1 + side @ WAYS_OUT[lat])
+
+
+def draw_frame(c):
+    """The border line, and outside of it a band of dark and light degrees, joined at the corners."""
+
+    def joined(lon, lat):
+        return np.array(to_pixel(lon, lat)), corner(lon, lat) - np.array(to_pixel(lon, lat))
 
     edges = []
     for lon in (WEST, EAST):
-        edges += [
-            [outward(lon, lat + k / 6) for k in range(7)] for lat in range(int(SOUTH), int(NORTH))
+        side = [
+            [_outward(lon, lat + k / 6) for k in range(7)] for lat in range(int(SOUTH), int(NORTH))
         ]
-    for lat, way in ((SOUTH, 1.0), (NORTH, -1.0)):
-        for lon in range(int(WEST), int(EAST)):
-            edges.append([(np.array(to_pixel(lon + k, lat)), np.array([0, way])) for k in (0, 1)])
+        side[0][0] = joined(lon, SOUTH)
+        side[-1][-1] = joined(lon, NORTH)
+        edges += side
+    for lat, way in WAYS_OUT.items():
+        row = [
+            [(np.array(to_pixel(lon + k, lat)), way) for k in (0, 1)]
+            for lon in range(int(WEST), int(EAST))
+        ]
+        row[0][0] = joined(WEST, lat)
+        row[-1][-1] = joined(EAST, lat)
+        edges += row
     for number, edge in enumerate(edges):
         inner = [p + n * 4 for p, n in edge]
         outer = [p + n * BAND for p, n in edge]

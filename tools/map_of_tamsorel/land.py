@@ -8,13 +8,14 @@ import numpy as np
 from PIL import Image, ImageDraw
 from scipy import ndimage
 
-from . import noise
-from .drawings import ISLETS, LANDS
+from . import lines, noise
+from .drawings import FIRTHS, HEADLANDS, ISLETS, LANDS
 from .world import HEIGHT, PLACES, WIDTH, to_degrees, to_pixel
 
 GRID = 2
 SHAPE = (HEIGHT // GRID, WIDTH // GRID)  # the relief's grid is twice as coarse
 SMALLEST_ISLE, SMALLEST_POND = 40, 2500  # cells
+NARROWEST = 3  # cells of water on either side of a channel's middle; less is drawn as land
 FJORD_COUNTRY = ((-24, 46, 11, 11), (4, 52, 12, 4.5), (38, 54, 7, 8), (-33, 51, 6, 4))
 
 
@@ -52,6 +53,17 @@ def _islets(x, y):
     return field
 
 
+def _shape(field, x, y, rough):
+    """Raises the headlands and lets the sea into the firths that were drawn by hand."""
+    for shapes, shape in ((HEADLANDS, 1), (FIRTHS, -1)):
+        for half, way in shapes:
+            way = np.stack(to_pixel(*np.array(way, float).T), axis=1)
+            away = lines.nearest(x, y, lines.smooth_curve(way, 20, 40), 4 * half)[0]
+            limit = shape * (half - away) + 0.4 * rough
+            field = np.maximum(field, limit) if shape > 0 else np.minimum(field, limit)
+    return field
+
+
 def _fjords(field, x, y):
     """How deep inlets cut into the land, in pixels: narrow, and only in fjord country."""
     lon, lat = to_degrees(x, y)
@@ -80,7 +92,9 @@ def _settle(field, x, y):
 
 
 def _tidy(field):
-    """Takes away specks of land and ponds of sea."""
+    """Takes away specks of land, ponds of sea, and inlets whose coasts would be one thick line."""
+    dry = field > 0
+    field[ndimage.binary_closing(np.pad(dry, 9), iterations=NARROWEST)[9:-9, 9:-9] & ~dry] = 1.5
     parts, count = ndimage.label(field > 0)
     sizes = ndimage.sum_labels(np.ones(SHAPE), parts, np.arange(count + 1))
     field[(sizes < SMALLEST_ISLE)[parts] & (parts > 0)] = -1.5
@@ -108,8 +122,8 @@ def field():
     land = np.full(SHAPE, -1e3)
     for roughness, corners in LANDS:
         land = np.maximum(land, _outline_distance(corners) + roughness * (rough + fine))
-    land = np.maximum(
-        land, _islets(x, y) + 0.36 * (rough - 38 * noise.waves(SHAPE, 160, 101)) + 0.8 * fine
-    )
+    small = rough - 38 * noise.waves(SHAPE, 160, 101)
+    land = np.maximum(land, _islets(x, y) + 0.36 * small + 0.8 * fine)
     land -= _fjords(land, x, y)
+    land = _shape(land, x, y, small)
     return _tidy(_settle(land, x, y))

@@ -6,6 +6,7 @@ from .paint import INK, rgb
 from .world import PLACES
 
 DISC, RING, RIM = 8.5, 14.0, 16.5  # radii in pixels
+ROOM = 43.0  # pixels around the middle where no letter stands: a ring is drawn there on screens
 DISC_COLOUR, RING_COLOUR = rgb("#c22a1c"), rgb("#f7eed8")
 
 

@@ -1,6 +1,6 @@
 """The note that explains the picture, made from what is on it."""
 
-from . import graticule, marks
+from . import check, graticule, marks, names as given, ornaments
 from .world import PLACES
 
 KINDS = {
@@ -35,13 +35,15 @@ writes the picture and this note, the same bytes every time (on one and the same
 of the system; another release of the drawing library may round a few pixels otherwise).
 `--check` measures the picture as it stands.
 
-The outlines of the lands, the crests of the ranges, the valleys of the great rivers and
-the names were drawn up by hand; noise with fixed seeds roughens the coasts, cuts the
-fjords and breaks the crests. Water then runs over the ground and wears it down, hollows
-are filled to their brim, and the rivers follow the water: each runs strictly downhill to
-the sea or to a greater river, and grows on its way, which the tool asserts. Rain comes
-with the west wind in the north and the east wind in the south and is lost on the ranges;
-from rain, warmth and height follow the colours and where woods, dunes and fens stand.
+The outlines of the lands, firths and headlands, the crests of the ranges, the valleys of
+the great rivers and the names were drawn up by hand; noise with fixed seeds roughens the
+coasts, cuts the fjords and breaks the crests. Water then runs over the ground and wears
+it down, hollows are filled to their brim, and the rivers follow the water: each runs
+strictly downhill to the sea or to a greater river, and grows on its way, which the tool
+asserts. Rain comes with the west wind in the north and the east wind in the south and is
+lost on the ranges; from rain, warmth and height follow the colours and where woods, dunes
+and fens stand. What falls on sand feeds no river, and none rises in dunes; a brook that
+would run under a name rises below it.
 
 ## Projection
 
@@ -59,6 +61,12 @@ parchment around it belongs to no place. Parallels and meridians are drawn every
   {ring_r} pixels with a dark rim out to {rim_r}; its middle is the place's own pixel.
 - The {crossings} crossings of the net: a dot of {dot}, radius {dot_r} pixels, on a disc of
   {pearl}, radius {pearl_r} pixels. No name, mark or ornament covers any of them.
+- Along every coast the land is lighter than the sea beside it, by a contrast of {shore} or
+  more; every name has one of {text} or more with its ground.
+- No letter stands within {room:.0f} pixels of a place's middle: there the program draws its
+  ring. None touches a river, and the names of waters keep {off:.0f} pixels off the coast.
+- The bands of the frame meet at its corners. The smallest names are set at {small:.0f}
+  pixels to the em, the degrees at {degrees:.0f}.
 
 ## Places
 
@@ -112,6 +120,12 @@ def write(path, names):
     path.write_text(
         TEXT.format(
             step=graticule.STEP,
+            shore=check.LEAST_SHORE,
+            text=check.LEAST_TEXT,
+            room=check.LEAST_OFF_MARK,
+            off=check.LEAST_OFF_COAST,
+            small=min(style.size for style in given.STYLES.values()),
+            degrees=ornaments.FIGURES.size,
             places=len(PLACES),
             crossings=len(graticule.crossings()),
             rows=rows,

@@ -21,9 +21,10 @@ ROSE = (4012.0, 1086.0, 176.0)  # middle and radius in pixels
 LEAGUES = 20  # to the degree
 RED, PALE, GOLD = rgb("#9c3324"), rgb("#f5ecd3"), rgb("#c39a54")
 TITLE = Style(176, False, 0.05, tuple(rgb("#5b2318")))
-UNDERTITLE = Style(38, True, 0.02, tuple(INK))
-FIGURES = Style(32, True, 0.02, tuple(INK))
-SCALE_FIGURES = Style(34, False, 0.02, tuple(INK))
+UNDERTITLE = Style(42, True, 0.02, tuple(INK))
+FIGURES = Style(51, True, 0.0, tuple(INK))
+SCALE_FIGURES = Style(46, False, 0.02, tuple(INK))
+SCALE_NOTE = Style(46, True, 0.0, tuple(INK))
 POINTS = Style(62, False, 0.0, tuple(INK))
 
 
@@ -37,7 +38,7 @@ def boxes():
     rx, ry, radius = ROSE
     return [
         box(*CARTOUCHE),
-        box(x - 20, y - 66, x + 10 * DEGREE + 40, y + 78),
+        box(x - 20, y - 74, x + 10 * DEGREE + 40, y + 92),
         box(rx - radius - 66, ry - radius - 66, rx + radius + 66, ry + radius + 66),
     ]
 
@@ -144,7 +145,7 @@ def _scale(c, labels):
         )
     labels.append(
         lettering.on_arc(
-            "Leagues, twenty to a degree of latitude", "scale", FIGURES, x + 5 * DEGREE, y + 56
+            "Leagues, twenty to a degree of latitude", "scale", SCALE_NOTE, x + 5 * DEGREE, y + 66
         )
     )
 
@@ -199,14 +200,14 @@ def _degrees(labels):
         text = f"{lat}°" + ("N" if lat else "")
         x, y = to_pixel(EAST, lat)
         if lat not in (SOUTH, NORTH):
-            put(text, x + BAND + 46, y + 12)
+            put(text, x + BAND + 70, y + 16)
             x, y = to_pixel(WEST, lat)
-            put(text, *((x - BAND - 46, y + 12) if x > 110 else (46, y - 18)))
+            put(text, *((x - BAND - 70, y + 16) if x > 160 else (64, y - 22 if x < 0 else y - 50)))
     for lon in range(int(WEST), int(EAST) + 1, STEP):
         text = f"{abs(lon)}°" + ("E" if lon > 0 else "W" if lon < 0 else "")
-        for lat, drop in ((SOUTH, BAND + 36), (NORTH, -BAND - 14)):
+        for lat, drop in ((SOUTH, BAND + 42), (NORTH, -BAND - 16)):
             x, y = to_pixel(lon, lat)
-            if 40 < x < WIDTH - 40:
+            if 60 < x < WIDTH - 60:
                 put(text, x, y + drop)
 
 

@@ -17,11 +17,11 @@ def rgb(text):
 
 PAPER = rgb("#ecdfc0")
 INK = rgb("#3f2d20")
-DEEP, OPEN, SHALLOW = rgb("#93b0b2"), rgb("#a9c1bd"), rgb("#cfdac8")
-MEADOW, FOREST, STEPPE = rgb("#d9d3a2"), rgb("#b9c08a"), rgb("#e2d2a0")
-DESERT, JUNGLE, MOOR = rgb("#ecd09a"), rgb("#a9b87c"), rgb("#cfc9ac")
-ROCK, SNOW, FEN = rgb("#c3a883"), rgb("#f2ede0"), rgb("#bcc5a0")
-LAKE = rgb("#b3c9c4")
+# The sea is darkest along the coast, where the land is to stand out, as old copper plates have it.
+DEEP, OPEN, COAST = rgb("#86aaae"), rgb("#93b4b4"), rgb("#6b949d")
+MEADOW, FOREST, STEPPE = rgb("#dfd9aa"), rgb("#cdd19c"), rgb("#e6d8a9")
+DESERT, JUNGLE, MOOR = rgb("#eed5a3"), rgb("#c1cc92"), rgb("#d9d3b8")
+ROCK, SNOW, FEN = rgb("#cdb28c"), rgb("#f2ede0"), rgb("#c9d1ac")
 
 
 def enlarge(picture, size=(WIDTH, HEIGHT)):
@@ -78,5 +78,5 @@ def sea_wash(away):
     """Colours of the sea by the pixels to the nearest coast."""
     swell = 0.12 * noise.fractal(away.shape, 150, 4, 931)
     wash = np.broadcast_to(OPEN, away.shape + (3,)).copy()
-    wash = mix(wash, SHALLOW, np.exp(-away / 55) * (1 + swell))
-    return mix(wash, DEEP, np.clip((away - 110) / 420 + swell, 0, 1) * 0.85)
+    wash = mix(wash, DEEP, np.clip((away - 110) / 420 + swell, 0, 1) * 0.85)
+    return mix(wash, COAST, np.exp(-np.maximum(away - 20, 0) / 60) * (1 + 0.5 * swell))

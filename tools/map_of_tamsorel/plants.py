@@ -5,9 +5,10 @@ from dataclasses import dataclass
 import numpy as np
 from scipy import ndimage
 
-from . import growth, peaks, scatter
+from . import climate, growth, peaks, scatter
 from .land import GRID
 
+STRAND = 24  # pixels of bare ground along every coast
 LEAST_HEIGHT = 0.28  # of a mountain; what is lower is a hill
 
 
@@ -37,7 +38,7 @@ TUFT = Kind(growth.tuft, 13, 0.2, (0.6, 0.9), (2.2, 1.6), 60000, 48)
 def plant(country, sheet):
     """All the small signs of the land, clear of the sheet's names and marks."""
     inland = GRID * ndimage.distance_transform_edt(country.land > 0)
-    closed = sheet.busy | ~country.valid | (country.lakes > -7) | (inland < 12) | sheet.rivers
+    closed = sheet.busy | ~country.valid | (country.lakes > -7) | (inland < STRAND) | sheet.rivers
     ground = scatter.Ground(closed)
     heights, rain, warmth = country.heights, country.rain, country.warmth
     snow = (0.66 - warmth) / 0.42 + (heights - 0.75) * 0.8
@@ -49,7 +50,6 @@ def plant(country, sheet):
     lush = 2.6 * (rain - 0.27) + 1.5 * np.clip((warmth - 0.82) / 0.14, 0, 1)
     thick = np.clip((country.wood + lush) * 4, 0, 1) * clear
     cold = np.clip((0.43 - warmth + 0.05 * country.wood) * 9, 0, 1)
-    dunes = np.clip(country.desert * 1.4 - 0.3, 0, 1) * low
     for kind, share in (
         (HILL, foothills * 0.9),
         (SEDGE, fen * 0.9),
@@ -58,7 +58,7 @@ def plant(country, sheet):
         (BROADLEAF, thick * (1 - cold) * (warmth < 0.78)),
         (LONE_TREE, clear * 0.04 * (warmth > 0.25) * (warmth < 0.78)),
         (LONE_PALM, clear * 0.04 * (warmth > 0.72)),
-        (DUNE, dunes),
+        (DUNE, climate.dunes(country.desert, heights)),
         (TUFT, clear * ((rain < 0.4) | (warmth < 0.25)) * 0.35),
     ):
         scatter.strew(ground, share, kind)

@@ -54,6 +54,7 @@ def raw_heights(land):
         foot = 0.22 * height * np.exp(-((away / (2.3 * width)) ** 2))
         range_ = (bulk * (0.62 + 0.62 * crag) + foot + 0.5 * heights) * (1 - np.exp(-inland / 70))
         heights = np.maximum(heights, range_)
+    heights += 0.014 * noise.fractal(shape, 22, 4, 560, 0.6)
     wind_x, wind_y = _winding(x, y)
     for valley in VALLEYS:
         way = lines.smooth_curve(np.stack(to_pixel(*np.array(valley, float).T), axis=1), 12, 22)
@@ -67,8 +68,6 @@ def raw_heights(land):
 def heights(land, lakes, rain):
     """Worn heights and the way the water takes: (heights, flow.Drainage)."""
     ground = raw_heights(land)
-    ground += np.where(land > 0, 0.014 * noise.fractal(land.shape, 22, 4, 560, 0.6), 0)
-    ground = np.where(land > 0, np.maximum(ground, 0.001), -0.01)
     for _ in range(ROUNDS):
         ground = np.where((lakes > 0) & (land > 0), ground - 0.02, ground)
         drainage = flow.drain(ground, land > 0, rain)

@@ -6,19 +6,21 @@ import numpy as np
 from scipy import ndimage
 
 from . import lines
+from .land import GRID as LAND_GRID
 from .relief import GRID
 from .world import PLACES
 
-LEAST_WATER = 260  # cells of mean rain; less is a brook and not drawn
+LEAST_WATER = 400  # cells of mean rain; less is a brook and not drawn
 SHORTEST = 9  # cells
 NEAR = 13.0  # pixels
 
 
 @dataclass
 class River:
-    points: np.ndarray  # pixels, from the spring down to the sea or the greater river
+    points: np.ndarray  # pixels, from the spring down to the coast or the greater river
     widths: np.ndarray  # pixels
     water: float  # at the mouth
+    mouth: tuple  # points and widths across the coast; none where it joins a greater river
 
 
 def _stems(drainage):
@@ -44,12 +46,17 @@ def _stems(drainage):
     return stems
 
 
-def trace(drainage):
-    """All rivers; asserts that each runs strictly downhill and never shrinks."""
+def trace(drainage, dunes, land):
+    """All rivers, down to the coast of the land's field; asserts that each runs strictly downhill
+    and never shrinks. None rises in the dunes (where that is true): it is drawn from where it
+    leaves them."""
     columns = drainage.receiver.shape[1]
     filled, water = drainage.filled.ravel(), drainage.water.ravel()
     seat, rivers, dropped = {}, [], set()
+    sand = dunes.ravel()
     for number, stem in enumerate(_stems(drainage)):
+        while len(stem) > 1 and sand[stem[-1]]:
+            stem.pop()
         if len(stem) < SHORTEST or stem[0] in dropped:
             dropped.update(stem[1:])
             continue
@@ -68,8 +75,33 @@ def trace(drainage):
         widths = np.clip(1.7 + 0.062 * (np.sqrt(water[stem[1:]]) - LEAST_WATER**0.5), 1.5, 9)
         widths = ndimage.gaussian_filter1d(np.concatenate([widths[:1] * 1.25, widths]), 2.5)
         widths *= np.clip(0.45 + np.arange(len(widths))[::-1] / 14, 0, 1)
-        rivers.append(River(points[::-1], widths[::-1], float(water[stem[1]])))
+        points, widths = points[::-1], widths[::-1]
+        mouth = (points[:0], widths[:0])
+        if parent is None:
+            points, widths, mouth = _meet_the_sea(points, widths, land)
+        rivers.append(River(points, widths, float(water[stem[1]]), mouth))
     return rivers
+
+
+def _meet_the_sea(points, widths, land):
+    """Ends a river at the coast itself: (points, widths, mouth). The mouth widens into the sea."""
+    column, row = points.T / LAND_GRID - 0.5
+    dry = ndimage.map_coordinates(land, (row, column), order=1, mode="nearest")
+    wet = np.nonzero(dry > 0)[0]
+    last = int(wet[-1]) if len(wet) else 0
+    if last < 2:
+        return points, widths, (points[:0], widths[:0])
+    share = dry[last] / (dry[last] - dry[last + 1]) if last + 1 < len(points) else 1.0
+    ahead = points[last] - points[last - 2]
+    ahead /= max(np.hypot(*ahead), 1e-9)
+    shore = points[last] + (
+        share * (points[last + 1] - points[last]) if last + 1 < len(points) else 3 * ahead
+    )
+    points, widths = np.vstack([points[: last + 1], shore]), np.append(
+        widths[: last + 1], widths[last]
+    )
+    steps, wider = np.array([-7.0, 0.0, 5.0, 10.0]), np.array([1.0, 1.1, 1.35, 1.7])
+    return points, widths, (shore + steps[:, None] * ahead, widths[-1] * wider)
 
 
 def _join(points, stem, greater):

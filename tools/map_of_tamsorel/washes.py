@@ -37,9 +37,10 @@ def bare_sheet(country, coast, shore):
     ground = paint.land_wash(
         country.heights, country.rain, country.warmth, country.fen, country.desert
     )
-    ground *= paint.light(country.heights, 26)[..., None]
+    # No shade reaches the coast: land is lighter than the sea beside it, everywhere.
     inland = GRID * ndimage.distance_transform_edt(country.land > 0)
-    ground *= (1 - 0.10 * np.exp(-inland / 16))[..., None]
+    shade = (paint.light(country.heights, 26) - 1) * (1 - np.exp(-inland / 55))
+    ground *= 1 + shade[..., None]
     coast_mask = _mask(coast)[..., None]
     picture = sea + (_enlarge3(ground) - sea) * coast_mask
     away = GRID * ndimage.distance_transform_edt(~country.valid)
