@@ -9,11 +9,25 @@ namespace veyruna::ui {
 
 namespace {
 
-constexpr double dotRadius = 3.0;   ///< points
-constexpr double ringRadius = 8.0;  ///< points
-constexpr double nameReach = 8.0;   ///< points from a mark at which its name shows
-constexpr QRgb ink = 0xff8b1a1a;    // a red that is seen on sea, land and parchment
+constexpr double dotRadius = 3.0;  ///< points
+constexpr double nameReach = 8.0;  ///< points from a mark at which its name shows
+constexpr QRgb ink = 0xff8b1a1a;   // a red that is seen on sea, land and parchment
 constexpr QRgb outline = 0xfffff8e8;
+
+constexpr double ringWidth = 2.2;     ///< points
+constexpr double haloWidth = 4.0;     ///< points: of the light line beneath the ring
+constexpr QRgb ringInk = 0xff6a1b9a;  // violet: nothing on the map has it
+constexpr double printedRim = 16.5;  ///< pixels of the picture: the radius of a place printed on it
+constexpr double offRim = 3.0;       ///< points from there to the ring
+constexpr double leastRing = 6.2;    ///< points: around the dot, however small the map
+constexpr double mostRing = 512.0;   ///< points: more than any map at rest asks for
+
+/// The ring's radius in points: it stands clear of what is printed at the place, at every zoom.
+double ringRadiusIn(const Layout& layout) {
+  const double pointsPerPixel = layout.displaySize.width() / mapWidth;
+  const double radius = printedRim * pointsPerPixel + offRim;
+  return radius < mostRing ? std::max(leastRing, radius) : mostRing;
+}
 
 /// An empty stamp for everything within `radius` points of its centre, which is the centre of its
 /// middle pixel.
@@ -50,12 +64,12 @@ QImage drawnDot(double pixelsPerPoint) {
   return stamp;
 }
 
-QImage drawnRing(double pixelsPerPoint) {
-  QImage stamp = stampOf(ringRadius + 3.0, pixelsPerPoint);
+QImage drawnRing(double radius, double pixelsPerPoint) {
+  QImage stamp = stampOf(radius + haloWidth, pixelsPerPoint);
   QPainter painter(&stamp);
   prepareFor(painter, stamp, pixelsPerPoint);
-  fillRing(painter, ringRadius, 4.5, outline);
-  fillRing(painter, ringRadius, 2.5, ink);
+  fillRing(painter, radius, haloWidth, outline);
+  fillRing(painter, radius, ringWidth, ringInk);
   return stamp;
 }
 
@@ -89,7 +103,7 @@ std::vector<MapMark> marksOf(const model::AstronomyModel& model) {
 
 void MarkStamps::draw(QPainter& painter, const std::vector<MapMark>& marks, const Layout& layout,
                       const QTransform& toDevice, const QRect& view) {
-  prepare(toDevice.m11());
+  prepare(toDevice.m11(), ringRadiusIn(layout));
   const int reach = ring_.width();
   const QRectF near = view.adjusted(-reach, -reach, reach, reach);
   for (const MapMark& mark : marks) {
@@ -107,12 +121,15 @@ void MarkStamps::draw(QPainter& painter, const std::vector<MapMark>& marks, cons
   }
 }
 
-void MarkStamps::prepare(double pixelsPerPoint) {
+void MarkStamps::prepare(double pixelsPerPoint, double ringRadius) {
   if (pixelsPerPoint != pixelsPerPoint_) {
-    pixelsPerPoint_ = pixelsPerPoint;
     dot_ = drawnDot(pixelsPerPoint);
-    ring_ = drawnRing(pixelsPerPoint);
   }
+  if (pixelsPerPoint != pixelsPerPoint_ || ringRadius != ringRadius_) {
+    ring_ = drawnRing(ringRadius, pixelsPerPoint);
+  }
+  pixelsPerPoint_ = pixelsPerPoint;
+  ringRadius_ = ringRadius;
 }
 
 NameOnMap nameAt(QPointF point, const std::vector<MapMark>& marks, const Layout& layout) {

@@ -25,20 +25,21 @@ struct MapMark {
 /// selection whose place is gone marks nothing.
 std::vector<MapMark> marksOf(const model::AstronomyModel& model);
 
-/// What a mark looks like, drawn once for a screen's scale factor and stamped from then on: frames
-/// must not cost more for being marked.
+/// What a mark looks like, drawn once for a screen's scale factor and a size of the map, and
+/// stamped from then on: frames must not cost more for being marked.
 class MarkStamps {
  public:
-  /// Draws those marks that touch the view: a dot for each, a ring around the selected one, their
-  /// centres on the nearest device pixel. The painter counts in device pixels; `toDevice` leads
-  /// there from the layout's points.
+  /// Draws those marks that touch the view: a dot for each, around the selected one a ring that
+  /// stands outside what is printed there, their centres on the nearest device pixel. The painter
+  /// counts in device pixels; `toDevice` leads there from the layout's points.
   void draw(QPainter& painter, const std::vector<MapMark>& marks, const Layout& layout,
             const QTransform& toDevice, const QRect& view);
 
  private:
-  void prepare(double pixelsPerPoint);
+  void prepare(double pixelsPerPoint, double ringRadius);
 
   double pixelsPerPoint_ = 0.0;
+  double ringRadius_ = 0.0;
   QImage dot_;
   QImage ring_;
 };

@@ -15,6 +15,7 @@ namespace {
 
 constexpr double degree = astro::pi / 180.0;
 constexpr QRgb red = 0xff8b1a1a;
+constexpr QRgb violet = 0xff6a1b9a;
 constexpr QRgb cream = 0xfffff8e8;
 constexpr QRgb sea = 0xff4080c0;
 constexpr QSize frameSize(120, 90);  // points
@@ -39,13 +40,13 @@ struct Layer {
   QRgb color;
 };
 
-/// A dot of 3 points in red under a line of 1.5; for the selected one a ring of 8 points, red and
-/// 2.5 wide, on a line of 4.5.
+/// A dot of 3 points in red under a line of 1.5; for the selected one a ring, violet and 2.2 wide
+/// on a line of 4, 3 points off the printed disc of 16.5.
 std::vector<Layer> layersOf(bool isSelected) {
   std::vector<Layer> layers = {{-1.0, 3.0, red}, {2.25, 3.75, cream}};
   if (isSelected) {
-    layers.push_back({5.75, 10.25, cream});
-    layers.push_back({6.75, 9.25, red});
+    layers.push_back({17.5, 21.5, cream});
+    layers.push_back({18.4, 20.6, violet});
   }
   return layers;
 }
@@ -73,12 +74,12 @@ std::array<double, 3> expectedColor(QPoint pixel, QPointF middle, double scale, 
 }
 
 void expectMark(const QImage& frame, QPointF middle, double scale, bool isSelected) {
-  constexpr double tolerance = 30.0;  // of 191 at most: a sixth of a pixel
+  constexpr double tolerance = 35.0;  // of 221 at most: a sixth of a pixel
   for (int y = 0; y < frame.height(); ++y) {
     for (int x = 0; x < frame.width(); ++x) {
       const QRgb seen = frame.pixel(x, y);
       const QPointF away = (QPointF(x, y) - middle) / scale;
-      if (std::hypot(away.x(), away.y()) > 13.0) {
+      if (std::hypot(away.x(), away.y()) > 23.0) {
         ASSERT_EQ(seen, sea) << "at " << x << ", " << y << ", scale " << scale;
         continue;
       }
@@ -100,6 +101,49 @@ TEST(MarkPictures, ADotAndARingAreDrawnAsTheyAreMeasuredAtEveryScale) {
                            std::floor(centre.y() * scale) + 0.5);
       expectMark(frame, middle, scale, isSelected);
     }
+  }
+}
+
+TEST(MarkPictures, TheRingStandsOutsideThePrintedDiscAndNearItAtEveryZoom) {
+  // The picture's width in points: at 100 % in a small and a common window, at 384 and 1200 %.
+  for (const double width : {300.0, 835.0, 3206.0, 10'020.0}) {
+    const double rim = 16.5 * width / 4316.0;
+    const Layout layout{{200.4 - 1768.0 * width / 4316.0, 200.4 - 3194.0 * width / 4316.0},
+                        {width, width * 3266.0 / 4316.0}};
+    QImage frame(400, 400, QImage::Format_RGB32);
+    frame.fill(sea);
+    QPainter painter(&frame);
+    MarkStamps().draw(painter, {{{0.0, 0.0}, {}, true}}, layout, {}, frame.rect());
+    int ringed = 0;
+    for (int y = 0; y < frame.height(); ++y) {
+      for (int x = 0; x < frame.width(); ++x) {
+        const double away = std::hypot(x - 200.0, y - 200.0);
+        if (frame.pixel(x, y) == violet) {
+          ++ringed;
+          ASSERT_GT(away, std::max(rim, 4.5)) << width;
+          ASSERT_LT(away, std::max(rim, 4.5) + 5.0) << width;
+        }
+        // No letter of the map stands within 43 pixels of a place.
+        ASSERT_TRUE(frame.pixel(x, y) == sea || away < std::max(43.0 * width / 4316.0, 9.0))
+            << width;
+      }
+    }
+    EXPECT_GT(ringed, 20) << width;
+  }
+}
+
+TEST(MarkPictures, OneSetOfStampsServesMapsOfDifferentSizes) {
+  const std::vector<MapMark> marks = {{{0.0, 0.0}, {}, true}};
+  MarkStamps stamps;
+  for (const double width : {2000.0, 4316.0, 2000.0}) {
+    const double share = width / 4316.0;
+    const Layout layout{QPointF(60.0, 45.0) - QPointF(1768.0, 3194.0) * share,
+                        {width, 3266.0 * share}};
+    QImage frame(frameSize, QImage::Format_RGB32);
+    frame.fill(sea);
+    QPainter painter(&frame);
+    stamps.draw(painter, marks, layout, {}, frame.rect());
+    EXPECT_EQ(frame, drawn(marks, layout, 1.0)) << width;
   }
 }
 

@@ -113,6 +113,21 @@ TEST(Tamsorel, MarksTheThirteenPlacesWhereTheyAre) {
   }
 }
 
+TEST(Tamsorel, HasNothingInTheVioletOfTheChosenPlace) {
+  constexpr QRgb violet = 0xff6a1b9a;
+  constexpr int likeness = 40;  // of each channel
+  int alike = 0;
+  for (int y = 0; y < tamsorel().height(); ++y) {
+    const auto* const row = reinterpret_cast<const QRgb*>(tamsorel().constScanLine(y));
+    alike += static_cast<int>(std::count_if(row, row + tamsorel().width(), [](QRgb color) {
+      return std::abs(qRed(color) - qRed(violet)) <= likeness &&
+             std::abs(qGreen(color) - qGreen(violet)) <= likeness &&
+             std::abs(qBlue(color) - qBlue(violet)) <= likeness;
+    }));
+  }
+  EXPECT_EQ(alike, 0);
+}
+
 TEST(Tamsorel, TheGraticuleCrossesEveryFiveDegrees) {
   ASSERT_FALSE(tamsorel().isNull()) << mapFile().toStdString();
   int crossings = 0;
