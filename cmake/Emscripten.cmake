@@ -1,7 +1,7 @@
 # What differs where the engine is built for browsers.
 
 # Small before quick: drawing in the browser takes ten times as long as calculating.
-set(CMAKE_CXX_FLAGS_RELEASE "-Oz -DNDEBUG -flto")
+set(CMAKE_CXX_FLAGS_RELEASE "-Oz -DNDEBUG -flto -fno-rtti -mbulk-memory -msign-ext -mnontrapping-fptoint")
 target_compile_options(veyruna_options INTERFACE -include ${PROJECT_SOURCE_DIR}/web/library_gaps.h)
 target_link_options(veyruna_options INTERFACE -fwasm-exceptions)
 

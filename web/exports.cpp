@@ -29,7 +29,7 @@ VEYRUNA_EXPORT char* veyruna_room(std::size_t bytes) {
 
 /// Answers what stands in that room; returns how many bytes the answer has.
 VEYRUNA_EXPORT std::size_t veyruna_answer() {
-  answerText() = veyruna::web::answer(questionText());
+  answerText() = veyruna::web::answer(questionText(), VEYRUNA_ANSWERERS());
   return answerText().size();
 }
 

@@ -1,7 +1,10 @@
 #pragma once
 
+#include <span>
 #include <string>
 #include <string_view>
+
+#include "web/question.h"
 
 /// The engine as one function, for scripts of a browser: a question, an answer. Pure and safe from
 /// any thread.
@@ -12,21 +15,19 @@ inline constexpr char answerIsText = '=';   ///< a document as it is
 inline constexpr char answerIsJson = '>';   ///< data
 inline constexpr char answerIsError = '!';  ///< what is wrong with the question, in words
 
+/// One thing that can be asked for.
+struct Answerer {
+  std::string_view ask;
+  char sort = answerIsText;                         ///< of its answer
+  std::string (*answer)(const Question& question);  ///< throws words::UsageError
+};
+
+/// All that the module answers, and all that the page asks for: a page is to be small.
+std::span<const Answerer> moduleAnswerers();
+std::span<const Answerer> pageAnswerers();
+
 /// Answers "ask=moment&moment=720-06-12&lat=…", values as addresses of the web carry them. What
 /// cannot be read is an error that quotes it and says what is accepted; nothing is thrown.
-///
-/// | ask | besides | answer |
-/// |---|---|---|
-/// | about | | version, documents, places, months, kinds of events |
-/// | moment | a sky | the moment in both clocks, the place in words |
-/// | document | name, a sky | its text, as the command writes it |
-/// | record | name, a sky | its values, as the command writes them in JSON |
-/// | marks | name, a sky | what a chart shows where |
-/// | events | from, to or for, kinds, lat, long, place_name, local | as the command writes them in
-/// JSON | | search | conditions, from, to or for, lat, long, place_name, local, first | likewise |
-///
-/// A sky is moment, lat, long and local. All is as a person types it; kinds and conditions may come
-/// several times.
-std::string answer(std::string_view question);
+std::string answer(std::string_view question, std::span<const Answerer> answerers);
 
 }  // namespace veyruna::web

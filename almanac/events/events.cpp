@@ -76,7 +76,7 @@ void addSources(EventKind kind, const EventQuery& query, std::vector<OwnedSource
 
 }  // namespace
 
-void forEachEvent(const EventQuery& query, const std::function<void(const Event&)>& take) {
+void forEachEventUntil(const EventQuery& query, const std::function<bool(const Event&)>& take) {
   astro::releaseUpperRegisters();
   std::vector<OwnedSource> sources;
   for (const EventKind kind : query.kinds) {
@@ -96,9 +96,18 @@ void forEachEvent(const EventQuery& query, const std::function<void(const Event&
     std::ranges::pop_heap(waiting, comesLater);
     Waiting first = std::move(waiting.back());
     waiting.pop_back();
-    take(first.event);
+    if (!take(first.event)) {
+      return;
+    }
     wait(std::move(first.source));
   }
+}
+
+void forEachEvent(const EventQuery& query, const std::function<void(const Event&)>& take) {
+  forEachEventUntil(query, [&take](const Event& event) {
+    take(event);
+    return true;
+  });
 }
 
 Sight sightOf(const Event& event, const astro::Observer& place) {

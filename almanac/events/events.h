@@ -22,6 +22,8 @@ struct EventQuery {
 /// order of kinds, then of bodies, then of places. One at a time: memory does not grow with the
 /// range.
 void forEachEvent(const EventQuery& query, const std::function<void(const Event&)>& take);
+/// The same until `take` says false.
+void forEachEventUntil(const EventQuery& query, const std::function<bool(const Event&)>& take);
 
 /// How an event is seen from a place at its moment: the body that it is about, from the world's
 /// middle.
