@@ -28,15 +28,23 @@ double widestSpan(const Figure& figure) {
 /// What the eye takes in at one look: the width of a figure.
 constexpr double oneLookDegrees = 25.0;
 
-TEST(ShippedSky, FiguresFitIntoOneLookAndOnlyOneIsLong) {
-  int longFigures = 0;
+TEST(ShippedSky, MostFiguresFitIntoOneLookSomeAreCompactAndFewAreLarge) {
+  int compact = 0;
+  int large = 0;
   for (const auto& [code, figure] : surveyOfTheSky().figures) {
     const double span = widestSpan(figure);
+    EXPECT_GE(span, 4.0) << code << " cannot be made out";
     EXPECT_LE(span, 40.0) << code;
-    EXPECT_GT(span, 2.0) << code << " cannot be made out";
-    longFigures += span > oneLookDegrees ? 1 : 0;
+    compact += span <= 9.0 ? 1 : 0;
+    if (span > oneLookDegrees) {
+      EXPECT_GE(span, 30.0) << code << " is neither large nor taken in at one look";
+      ++large;
+    }
   }
-  EXPECT_LE(longFigures, 1);
+  EXPECT_GE(compact, 4);
+  EXPECT_LE(compact, 6);
+  EXPECT_GE(large, 2);
+  EXPECT_LE(large, 3);
 }
 
 TEST(ShippedSky, LinesOfTwoConstellationsNeverCross) {

@@ -13,7 +13,7 @@ generator with a fixed seed, so the same sky is drawn every time.
     wheel       how the wheel shows the sky       lettering  how much room a name takes
     drawings    the figures as drawn by hand      figures  the same laid on the sphere
     names       where every name stands           band     the dense band of stars
-    background  the stars between the figures
+    background  the stars between the figures  wanderers  sun, moon and planets
     note        the note that explains the files  files    the texts of all files
-    checks      measures the files as they stand
+    checks      measures the tables of a catalogue
 """

@@ -1,26 +1,40 @@
-"""The background stars: evenly spaced, their density following the band.
+"""The background stars: a band of faint ones, clusters and doubles, brighter ones apart.
 
-Many more stars than needed are strewn at random where none disturbs a figure or a
-name.  Then the most crowded one is taken away again and again until enough are left;
-that leaves a pattern without clumps and holes.
+They are strewn one after the other where none disturbs a figure or a name: first the
+clusters, then the wide country outside the band, then the band with the density it has.
+A place is chosen at random, so that there are groups and gaps as in a sky; only a little
+care is taken that nothing runs together and nowhere a hole is left.
 """
 
-import heapq
 import math
 import random
 
 from . import band
 from .lettering import map_reach, name_box, text_width
 from .plane import box_to_point
-from .sphere import angle, angles, dot
+from .sphere import along, angle, angles, cross, dot, even_points, norm, vec
 from .wheel import INNER_PATH, from_middle, on_rim
 from .world import TAU
 
 COUNT = 454
-STREWN = 3600
 SEED = 20720
 BRIGHTEST, FAINTEST = 4.51, 6.0  # magnitudes
 STAR_GAP = math.cos(math.radians(1.9))  # to a figure's star
+
+CLUSTERS = [  # longitude and latitude of the middle as seen, degrees; how many stars
+    (216, 21, 7),
+    (300, 22, 6),
+    (94, 54, 7),
+    (352, -8, 6),
+    (152, -30, 7),
+]
+CLUSTER_GAP = (0.8, 1.3)  # degrees from a cluster's star to the next
+DOUBLES = 9
+DOUBLE_GAP = (0.6, 0.75)  # degrees
+OUTSIDE = 116  # single stars outside the band
+OUTSIDE_GAP, BAND_GAP = 2.2, 0.8  # degrees between single stars
+WIDEST_HOLE = 10.5  # degrees from anywhere outside the band to the nearest star
+IN_BAND = 3.0  # the density at which the band begins
 
 
 class Obstacles:
@@ -30,7 +44,9 @@ class Obstacles:
         self.figures = figures
         self.stars = [s.at for f in figures for s in f.stars]
         self.pole_star = next(t.at for t in labels if t.mag)
-        self.names = [(t.at, map_reach(t.name, 0) + 0.5) for t in labels if not t.mag]
+        # The band's name lies in the band: only its letters on the wheel stay free.
+        others = [t for t in labels if not t.mag and t.name != band.NAME]
+        self.names = [(t.at, map_reach(t.name, 0) + 0.5) for t in others]
         self.rim, self.boxes = [], []
         for t in labels:
             if on_rim(t.at):
@@ -53,74 +69,110 @@ class Obstacles:
         return any(dot(v, f.centre) > 0.75 and f.distance(v) < 1.3 for f in self.figures)
 
 
-def strew(rnd, obstacles):
-    """Random free points as (vector, density of the band there), denser in the band."""
-    points = []
-    while len(points) < STREWN:
-        z = 2 * rnd.random() - 1
-        lon = TAU * rnd.random()
-        chance = rnd.random() * band.PEAK
-        c = math.sqrt(1 - z * z)
-        v = (c * math.cos(lon), c * math.sin(lon), z)
-        density = band.density(v)
-        if chance <= density and not obstacles.cover(v):
-            points.append((v, density))
-    return points
+class Strewing:
+    """The stars strewn so far, as (vector, magnitude), and the chance that strews more."""
 
+    def __init__(self, figures, labels):
+        self.rnd = random.Random(SEED)
+        self.obstacles = Obstacles(figures, labels)
+        self.figure_stars = self.obstacles.stars
+        self.stars = []
 
-def reaches(points, count):
-    """How far apart the points would stand in the densest packing of `count` of them.
+    def anywhere(self):
+        lon, z = TAU * self.rnd.random(), 2 * self.rnd.random() - 1
+        return vec(lon, math.asin(z))
 
-    Each point by its local density; in radii of the sphere.
-    """
-    area = 4 * math.pi / sum(1 / d for _, d in points)
-    return [math.sqrt((area / d) * len(points) / count / (2 * math.sqrt(3))) * 2 for _, d in points]
+    def near(self, v, gap):
+        """A point beside v in any direction, as far from it as the two ends of gap allow."""
+        right = norm(cross(v, (0.0, 0.0, 1.0)))
+        up = cross(right, v)
+        turn, distance = TAU * self.rnd.random(), self.rnd.uniform(*gap)
+        e = tuple(math.cos(turn) * right[i] + math.sin(turn) * up[i] for i in range(3))
+        return along(v, e, distance)
 
+    def room(self, v):
+        """Degrees to the nearest star strewn so far."""
+        nearest = max((dot(v, s) for s, _ in self.stars), default=-1.0)
+        return math.degrees(math.acos(max(-1.0, min(1.0, nearest))))
 
-def crowding(points, reach):
-    """For every point its neighbours, as (index, weight), and the sum of their weights."""
-    order = sorted(range(len(points)), key=lambda i: points[i][0][2])
-    neighbours = [[] for _ in points]
-    crowd = [0.0] * len(points)
-    for k, i in enumerate(order):
-        x, y, z = points[i][0]
-        for j in order[k + 1 :]:
-            x2, y2, z2 = points[j][0]
-            if z2 - z > 0.5:
-                break
-            r = 0.5 * (reach[i] + reach[j])
-            square = (x - x2) ** 2 + (y - y2) ** 2 + (z - z2) ** 2
-            if square < r * r:
-                weight = (1 - math.sqrt(square) / r) ** 8
-                neighbours[i].append((j, weight))
-                neighbours[j].append((i, weight))
-                crowd[i] += weight
-                crowd[j] += weight
-    return neighbours, crowd
+    def magnitude(self, brightest, faintest):
+        """Of a star in a range: each magnitude has about three times the stars of the last."""
+        share = self.rnd.random()
+        low, high = 3.0**brightest, 3.0**faintest
+        return math.log(low + share * (high - low), 3)
 
+    def cluster(self, middle, count):
+        """A handful of stars, each close to one that stands already."""
+        members = [middle]
+        while len(members) < count:
+            v = self.near(self.rnd.choice(members), CLUSTER_GAP)
+            gaps = [angle(v, m) for m in members]
+            if min(gaps) >= CLUSTER_GAP[0] and angle(v, middle) < 2.2:
+                if not self.obstacles.cover(v):
+                    members.append(v)
+        for i, v in enumerate(members):
+            self.stars.append((v, self.magnitude(4.6, 5.0) if i < 2 else self.magnitude(4.9, 5.9)))
 
-def thin_out(points, count):
-    """The vectors that are left when the most crowded point has gone until `count` remain."""
-    neighbours, crowd = crowding(points, reaches(points, count))
-    heap = [(-w, i) for i, w in enumerate(crowd)]
-    heapq.heapify(heap)
-    left = set(range(len(points)))
-    while len(left) > count:
-        weight, i = heapq.heappop(heap)
-        if i not in left or -weight != crowd[i]:
-            continue  # an entry from before a neighbour went
-        left.remove(i)
-        for j, w in neighbours[i]:
-            if j in left:
-                crowd[j] -= w
-                heapq.heappush(heap, (-crowd[j], j))
-    return [points[i][0] for i in sorted(left)]
+    def outside(self, count):
+        """Single stars outside the band, where there is much room rather than little."""
+        while count:
+            free = [
+                v
+                for v in (self.anywhere() for _ in range(20))
+                if band.density(v) < IN_BAND / 2
+                and self.room(v) > OUTSIDE_GAP
+                and not self.obstacles.cover(v)
+            ][:5]
+            if free:
+                v = max(free, key=lambda p: min(self.room(p), self.figure_room(p)))
+                self.stars.append((v, self.magnitude(BRIGHTEST, 5.4)))
+                count -= 1
+
+    def fill_holes(self):
+        """A star in the middle of every place outside the band that was left too empty."""
+        for v in even_points(2000):
+            if min(self.room(v), self.figure_room(v)) > WIDEST_HOLE and band.density(v) < IN_BAND:
+                if not self.obstacles.cover(v):
+                    self.stars.append((v, self.magnitude(BRIGHTEST, 5.4)))
+
+    def figure_room(self, v):
+        return math.degrees(math.acos(max(dot(v, s) for s in self.figure_stars)))
+
+    def doubles(self, count):
+        """Companions for single stars outside the band."""
+        first = len(self.stars)
+        while len(self.stars) < first + count:
+            v, mag = self.stars[self.rnd.randrange(first - OUTSIDE, first)]
+            companion = self.near(v, DOUBLE_GAP)
+            if angle(companion, v) <= self.room(companion) and not self.obstacles.cover(companion):
+                if self.alone(v):
+                    self.stars.append((companion, min(FAINTEST, mag + self.rnd.uniform(0.2, 0.9))))
+
+    def alone(self, v):
+        return sum(dot(v, s) > math.cos(math.radians(2)) for s, _ in self.stars) == 1
+
+    def band(self, count):
+        """The band's stars, as dense as it is and the fainter the denser."""
+        while count:
+            v = self.anywhere()
+            density = band.density(v)
+            if density < IN_BAND / 2 or self.rnd.random() * band.PEAK > density:
+                continue
+            if self.room(v) > BAND_GAP and not self.obstacles.cover(v):
+                self.stars.append((v, self.magnitude(4.9, FAINTEST)))
+                count -= 1
 
 
 def background_stars(figures, labels):
     """The stars as (vector at which it is seen, magnitude): many faint ones, few bright."""
-    rnd = random.Random(SEED)
-    places = thin_out(strew(rnd, Obstacles(figures, labels)), COUNT)
-    mags = [BRIGHTEST + (FAINTEST - BRIGHTEST) * (k / (COUNT - 1)) ** 0.62 for k in range(COUNT)]
-    rnd.shuffle(mags)
-    return list(zip(places, mags))
+    sky = Strewing(figures, labels)
+    for lon, lat, count in CLUSTERS:
+        sky.cluster(vec(math.radians(lon), math.radians(lat)), count)
+    sky.outside(OUTSIDE)
+    sky.doubles(DOUBLES)
+    sky.fill_holes()
+    sky.band(COUNT - len(sky.stars))
+    by_brightness = sorted(range(COUNT), key=lambda i: sky.stars[i][1])
+    for i, mag in ((by_brightness[0], BRIGHTEST), (by_brightness[-1], FAINTEST)):
+        sky.stars[i] = (sky.stars[i][0], mag)
+    return sky.stars

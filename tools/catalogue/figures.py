@@ -7,6 +7,7 @@ from functools import cached_property
 from . import drawings
 from .lettering import dot_size
 from .sphere import angle, arc_distance, mean, on_page, vec
+from .wheel import on_whole_units
 from .world import sign_range
 
 
@@ -32,6 +33,11 @@ class Figure:
         return mean([s.at for s in self.stars])
 
     @cached_property
+    def span(self):
+        """Degrees from star to star where they stand farthest apart."""
+        return max(angle(a.at, b.at) for a in self.stars for b in self.stars)
+
+    @cached_property
     def arcs(self):
         return [(self.stars[a].at, self.stars[b].at) for a, b in self.lines]
 
@@ -47,7 +53,7 @@ class Figure:
 
 
 def _figure(drawing, place):
-    stars = [Star(place(x, y), mag) for x, y, mag in drawing.stars]
+    stars = [Star(on_whole_units(place(x, y)), mag) for x, y, mag in drawing.stars]
     lines = [(int(a) - 1, int(b) - 1) for a, b in drawing.lines.split()]
     return Figure(drawing.name, drawing.depicts, stars, lines)
 

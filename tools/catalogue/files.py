@@ -3,6 +3,9 @@
 from pathlib import Path
 
 from .background import background_stars
+from .checks import measure
+from .checks.loaded import LINES_HEAD, STARS_HEAD
+from .checks.report import Report
 from .drawings import YELLOW_STAR
 from .figures import other_figures, zodiac_figures
 from .names import place_names
@@ -15,9 +18,6 @@ STARS_CSV = RESOURCES / "star_catalogue.csv"
 LINES_CSV = RESOURCES / "constellation_lines.csv"
 NOTE_MD = RESOURCES / "star_catalogue.md"
 FILES = (STARS_CSV, LINES_CSV, NOTE_MD)
-
-STARS_HEAD = "name,frame,color,phi,theta,magnitude\n"
-LINES_HEAD = "from,to\n"
 
 
 def as_row(name, frame, color, position, mag):
@@ -67,10 +67,14 @@ def draw_up():
     zodiac, others = zodiac_figures(), other_figures()
     figures = zodiac + others
     labels = place_names(zodiac, others)
+    stars = STARS_HEAD + "".join(star_rows(figures, labels))
+    lines = LINES_HEAD + "".join(line_rows(figures))
+    findings = []
+    measure(stars.encode(), lines.encode(), Report(findings.append))
     return {
-        STARS_CSV: STARS_HEAD + "".join(star_rows(figures, labels)),
-        LINES_CSV: LINES_HEAD + "".join(line_rows(figures)),
-        NOTE_MD: note_text(figures, labels),
+        STARS_CSV: stars,
+        LINES_CSV: lines,
+        NOTE_MD: note_text(figures, labels, findings),
     }
 
 
@@ -79,7 +83,15 @@ def write():
         path.write_bytes(text.encode("utf-8"))
 
 
-def as_drawn():
-    """Whether the files hold exactly what draw_up() yields."""
+def check():
+    """Measure the files as they stand and print what is found; the number of faults."""
+    report = Report()
+    measure(STARS_CSV.read_bytes(), LINES_CSV.read_bytes(), report)
+    # No fault of the sky: another mathematical library may round a last digit otherwise.
     held = {path: path.read_bytes().decode("utf-8") for path in FILES}
-    return held == draw_up()
+    print(
+        "note   the files %s what this tool draws"
+        % ("are exactly" if held == draw_up() else "DIFFER from")
+    )
+    print("%d faults" % report.faults if report.faults else "no faults")
+    return report.faults

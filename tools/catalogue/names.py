@@ -8,11 +8,21 @@ import math
 from dataclasses import dataclass
 
 from . import band
-from .lettering import map_reach, text_width
+from .lettering import map_reach, name_box, text_width
 from .plane import between
 from .sphere import angle, angles, on_page, to_ecliptic, vec
-from .wheel import INNER_PATH, OUTER_PATH, from_middle, longitude, on_rim, rim_interval
-from .world import SIGNS, TAU, WHITE, YELLOW, sign_range
+from .wanderers import planets
+from .wheel import (
+    INNER_PATH,
+    OUTER_PATH,
+    chord_gap,
+    circle_gap,
+    from_middle,
+    longitude,
+    on_rim,
+    rim_interval,
+)
+from .world import FIRST_MOMENT, SIGNS, TAU, WHITE, YELLOW, sign_range
 
 POLE_STAR = "Hathel"
 POLE_STAR_AT = to_ecliptic(vec(math.radians(40.0), math.radians(89.6)))
@@ -29,6 +39,16 @@ class Label:
     mag: float = 0
 
 
+BAND_ROOM = 3.0  # degrees around the band's name; more is no better
+FIRST_START_GAP = 2.5  # units from a name to the circle and the chords of the first start
+
+
+def first_start_cost(name, p):
+    """What it costs an upright name to come near a line that a new user's first wheel has."""
+    box = name_box(name, 0, *from_middle(p))
+    return 3 * max(0, FIRST_START_GAP - circle_gap(box), FIRST_START_GAP - chord_gap(box))
+
+
 def clearance(name, p, own, figures, labels):
     """Degrees between a name at p and the nearest name or figure but its own.
 
@@ -43,8 +63,12 @@ def clearance(name, p, own, figures, labels):
     return min(gaps)
 
 
+SIGN_LATITUDE = -6.5  # degrees
+SIGN_REACH = 6.0  # degrees at most from a sign's name to its figure
+
+
 def sign_label(i, figures, labels):
-    """A sign's name, just south of the ecliptic.
+    """A sign's name, as far south of the ecliptic as the labels of the planets want.
 
     Along the wheel's outer path it is centred in its sign.
     """
@@ -53,10 +77,12 @@ def sign_label(i, figures, labels):
     lon = (start + end) / 2 - text_width(name) / OUTER_PATH / 2
 
     def cost(lat):
-        gap = clearance(name, vec(lon, math.radians(lat)), None, figures, labels)
-        return abs(lat + 3.5) + 5 * max(0, 1.2 - gap)
+        at = vec(lon, math.radians(lat))
+        gap = clearance(name, at, None, figures, labels)
+        away = figures[i].distance(at) - map_reach(name, 0)
+        return abs(lat - SIGN_LATITUDE) + 5 * max(0, 1.2 - gap) + 5 * max(0, away - SIGN_REACH)
 
-    lat = min((k / 10 for k in range(-80, 1)), key=cost)
+    lat = min((k / 10 for k in range(-100, 1)), key=cost)
     return Label(name, "ecliptic", WHITE, vec(lon, math.radians(lat)))
 
 
@@ -75,14 +101,15 @@ def rim_cost(name, lon, figure, crossings, labels):
     """What it costs a name to run along the rim from a longitude on.
 
     It keeps clear of the path's ends, of the other names there (all on one path, as in
-    black and white) and of the lines, and wants its middle beside the figure.
+    black and white), of the planets where they stand when the program is first opened,
+    and of the lines, and wants its middle beside the figure.
     """
     start, end = rim_interval(name, lon, INNER_PATH)
     gap = min(start, TAU * INNER_PATH - end) - 2
-    for t in labels:
-        if on_rim(t.at):
-            start2, end2 = rim_interval(t.name, angles(t.at)[0], INNER_PATH)
-            gap = min(gap, max(start2 - end, start - end2))
+    there = [(t.name, t.at) for t in labels if on_rim(t.at)] + list(planets(FIRST_MOMENT))
+    for other, at in there:
+        start2, end2 = rim_interval(other, angles(at)[0], INNER_PATH)
+        gap = min(gap, max(start2 - end, start - end2))
     width = text_width(name) / INNER_PATH
     to_line = INNER_PATH * min(max(lon - line, line - lon - width) for line in crossings)
     off = (lon + width / 2 - angles(figure.centre)[0] + math.pi) % TAU - math.pi
@@ -113,19 +140,23 @@ def figure_label(figure, figures, crossings, labels):
                 # North of the figure where there is room: seen from the
                 # northern lands, the name rises with its figure.
                 cost += rim_cost(figure.name, lon, figure, crossings, labels) + y * 0.12
+            else:
+                cost += first_start_cost(figure.name, p)
             if cost < best[0]:
                 best = (cost, p)
     return Label(figure.name, "equatorial", YELLOW if southern else WHITE, best[1])
 
 
 def band_label(figures, labels):
-    """The band's name, where it lies quietest among the northern figures."""
+    """The band's name: among the northern figures, in stars and where none of them is near."""
     best = (-math.inf, None)
     for half_degrees in range(720):
-        for lat in (-3, -1.5, 0, 1.5, 3):
+        for lat in (-4.5, -3, -1.5, 0, 1.5, 3, 4.5):
             p = band.point(half_degrees / 2, lat)
             if angles(p)[1] > math.radians(14):
-                room = clearance(band.NAME, p, None, figures, labels) - abs(lat) * 0.3
+                room = min(BAND_ROOM, clearance(band.NAME, p, None, figures, labels))
+                room += 3 * math.log(band.density_around(p, 5.0))
+                room -= first_start_cost(band.NAME, p)
                 if room > best[0]:
                     best = (room, p)
     return Label(band.NAME, "equatorial", WHITE, best[1])

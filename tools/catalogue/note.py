@@ -48,19 +48,31 @@ and a name in one. `constellation_lines.csv` has `from,to`.
   the sky the other way round, they appear as in a mirror.
 - The zodiac figures lie mostly north of the ecliptic so that the wheel shows
   them; a stem, a mast or a blade reaches across it beside the sign's name. The
-  names of the signs are centred in their signs along the wheel's outer path.
+  names of the signs are centred in their signs along the wheel's outer path; on the
+  star map they stand about 6.5 degrees south of the ecliptic, out of the way of the
+  planets' labels.
+- Figures are not all of one size: some are compact, so that a handful of stars is
+  seen as one thing at once, and three are large.
+- Every figure star stands on whole units of the wheel. The charts draw dots on
+  whole units and lines where they are; so on the wheel a line ends in its dots.
 - Names of southern figures run along the wheel's inner path and are %(yellow)s;
   they keep clear of the signs' names too, because in black and white all of them
   share that path, and of longitude 0, where the path ends. Names further north
   than 12 degrees are drawn upright beside their figures and are %(white)s.
 - A name stays clear of its own figure, of the others and of the other names
-  however the sky is turned on the star map.
-- Bright stars stand at the corners of a figure. One star is yellow: %(flame)s,
+  however the sky is turned on the star map. On the wheel with which the program
+  first opens, no upright name is cut by the circle of the latitude or a chord, and
+  no southern name lies under the label of a planet.
+- Of every magnitude there are about three times as many stars as of the one before.
+  Pemi blazes, Felum and Vellio are faint throughout. One star is yellow: %(flame)s,
   the flame in the lantern %(lantern)s.
 - %(pole)s stands 0.4 degrees from the celestial north pole, alone in a dark round.
-- %(band)s is the dense band: background stars thicken towards a slightly winding
-  belt around the sphere, broadest in the far north beside %(pole)s and narrowest in the far
-  south, and thin out evenly away from it. Its name stands inside it, north of %(under)s.
+- %(band)s is the dense band, a slightly winding belt around the sphere, broadest in the
+  far north beside %(pole)s and narrowest in the far south. Its stars are the faint ones
+  and stand in clouds; for a quarter of its way a dark rift parts it. Its name stands
+  among its stars, north of %(under)s.
+- Outside the band the background stars are brighter and stand apart, but for five
+  clusters of six or seven and some doubles.
 
 ## The constellations
 
@@ -80,7 +92,16 @@ def sign_at(lon):
             return name
 
 
-def note_text(figures, labels):
+NOTE_FINDINGS = """
+## What it measures
+
+What `--check` says of these files; lengths are degrees of the sky or units of the charts.
+
+    """
+
+
+def note_text(figures, labels, findings):
+    """The note; findings are the lines that the checks say of the sky."""
     band_lon = next(angles(t.at)[0] for t in labels if t.name == band.NAME)
     out = NOTE_HEAD % {
         "pole": POLE_STAR,
@@ -104,4 +125,4 @@ def note_text(figures, labels):
             lat,
             declination,
         )
-    return out
+    return out + NOTE_FINDINGS + "\n    ".join(findings) + "\n"

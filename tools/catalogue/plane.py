@@ -32,6 +32,16 @@ def meeting_point(a, b, c, d):
     return between(a, b, a_side / (a_side - b_side))
 
 
+def box_to_line(box, a, b):
+    """Distance of a box from the line a-b, 0 where they meet."""
+    x0, y0, x1, y1 = box
+    corners = [(x0, y0), (x1, y0), (x1, y1), (x0, y1)]
+    if any(meeting_point(a, b, corners[i], corners[i - 1]) for i in range(4)):
+        return 0.0
+    ends = (box_to_point(box, a), box_to_point(box, b))
+    return min(*ends, *(point_to_line(c, a, b) for c in corners))
+
+
 def point_to_line(p, a, b):
     """Distance of a point from the line a-b, which ends at a and b."""
     dx, dy = b[0] - a[0], b[1] - a[1]

@@ -60,6 +60,14 @@ def norm(a):
     return (a[0] / n, a[1] / n, a[2] / n)
 
 
+def even_points(n):
+    """Directions spread evenly over the sphere along a spiral."""
+    for k in range(n):
+        z = 1 - (2 * k + 1) / n
+        c, lon = math.sqrt(1 - z * z), k * 2.399963229728653
+        yield c * math.cos(lon), c * math.sin(lon), z
+
+
 def mean(vectors):
     """The direction in the middle of some directions."""
     return norm(tuple(sum(v[i] for v in vectors) for i in range(3)))

@@ -7,6 +7,10 @@ TAU = 2 * math.pi
 TILT = 0.3665191429188092  # between ecliptic and equator, radians
 TURN = -math.radians(18)  # how far the charts turn numbered stars in ecliptic longitude
 
+# With which the program opens: noon of the first day of the year 720 at Wendmark.
+FIRST_MOMENT = 258840.0  # days since noon of the first day
+FIRST_LATITUDE = math.radians(40.5)
+
 WHITE, YELLOW, GREY = "#f4f4f3", "#fef651", "#adadad"
 
 SIGNS = [  # name, start in radians of ecliptic longitude as it is written in the catalogue

@@ -1,32 +1,24 @@
-"""Measures the catalogue's files as they stand.
+"""Measures a catalogue, as the texts of its two tables.
 
-One line is printed for every property; those of the form come first, and only when
+One line is said for every property; those of the form come first, and only when
 they are all in order is the sky itself measured.
 """
 
-from .. import files
-from . import forms, pairs, sky, star_map, wheel
+from . import forms, pairs, random_charts, sky, spacing, star_map, wheel
 from .loaded import load
-from .report import Report
 
 
-def run():
-    """Print what is found; returns the number of faults."""
-    report = Report()
-    catalogue = load(report)
+def measure(stars, lines, report):
+    """Measure the bytes of the star table and of the line table."""
+    catalogue = load(stars, lines, report)
     forms.check(catalogue, report)
     pairs.check(catalogue, report)
     if report.faults:
-        print("%d faults; the sky itself is measured once they are mended" % report.faults)
-        return report.faults
+        report.say("%d faults; the sky itself is measured once they are mended" % report.faults)
+        return
 
     sky.check(catalogue, report)
+    spacing.check(catalogue, report)
     star_map.check(catalogue, report)
     wheel.check(catalogue, report)
-    # No fault of the sky: another mathematical library may round a last digit otherwise.
-    print(
-        "note   the files %s what this tool draws"
-        % ("are exactly" if files.as_drawn() else "DIFFER from")
-    )
-    print("%d faults" % report.faults if report.faults else "no faults")
-    return report.faults
+    random_charts.check(catalogue, report)

@@ -81,10 +81,37 @@ def check_members(catalogue, report):
         and all(s.frame == "equatorial" for s in members),
         "figure stars %s, one %s: %s" % (WHITE, YELLOW, " ".join(yellow)),
     )
-    mags = sorted(s.mag for s in members) or [0]
+    check_brightness(catalogue, report)
+
+
+BRIGHT_STARS, FAINT_STARS = range(17, 25), 101  # brighter than 2; at least fainter than 3
+
+
+def check_brightness(catalogue, report):
+    """A sky's: of every magnitude about three times as many stars as of the one before."""
+    mags = sorted(s.mag for s in catalogue.members) or [0]
     report(
         mags[0] == 0.54 and mags[-1] == 4.0,
         "figure magnitudes %.2f to %.2f, mean %.2f" % (mags[0], mags[-1], sum(mags) / len(mags)),
+    )
+    counts = [sum(m < n for m in mags) for n in (1, 2, 3)] + [len(mags)]
+    growth = [b / a if a else math.inf for a, b in zip(counts, counts[1:])]
+    faint = sum(m > 3 for m in mags)
+    report(
+        counts[1] in BRIGHT_STARS and faint >= FAINT_STARS and all(2 <= g <= 4 for g in growth),
+        "figure stars brighter than 1, 2, 3 and all: %d, %d, %d, %d; fainter than 3: %d"
+        % (*counts, faint),
+    )
+    ranges = {
+        code: (min(s.mag for s in group), max(s.mag for s in group))
+        for code, group in catalogue.groups.items()
+    }
+    all_bright = [code.capitalize() for code, (_, most) in ranges.items() if most <= 2.5]
+    all_faint = [code.capitalize() for code, (least, _) in ranges.items() if least >= 3]
+    report(
+        all_bright and all_faint,
+        "figures without a star fainter than 2.5: %s; without one brighter than 3: %s"
+        % (", ".join(all_bright), ", ".join(all_faint)),
     )
 
 

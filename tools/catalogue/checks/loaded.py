@@ -5,8 +5,10 @@ from dataclasses import dataclass
 from functools import cached_property
 
 from ..figures import Figure
-from ..files import LINES_CSV, LINES_HEAD, STARS_CSV, STARS_HEAD
 from ..sphere import to_ecliptic, to_equatorial, turned_back, vec
+
+STARS_HEAD = "name,frame,color,phi,theta,magnitude\n"
+LINES_HEAD = "from,to\n"
 
 
 @dataclass(frozen=True, eq=False)
@@ -99,9 +101,8 @@ class Catalogue:
         return sorted(self.background + self.members + self.named_stars, key=lambda s: s.at[2])
 
 
-def load(report):
-    """The catalogue in the files; the bytes of the files are checked on the way."""
-    stars, lines = STARS_CSV.read_bytes(), LINES_CSV.read_bytes()
+def load(stars, lines, report):
+    """The catalogue in the bytes of its two tables, which are checked on the way."""
     both = stars + lines
     report(both.isascii() and b"\r" not in both, "both files are plain ASCII with line feeds")
     report(

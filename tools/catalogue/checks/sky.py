@@ -3,26 +3,22 @@
 import math
 from itertools import combinations
 
-from .. import band
-from ..sphere import NORTH, angle, angles, arc_arc_distance, arc_distance, dot
+from ..sphere import NORTH, angle, angles, arc_arc_distance, arc_distance, dot, even_points
 from ..world import TAU, sign_range
 
-GREATEST_FIGURE, LONG_FIGURE = 25.0, 40.0  # across; one figure may be long
+COMPACT, ORDINARY, LONG = (4.0, 9.0), 25.0, (30.0, 40.0)  # how far figures reach across
+COMPACT_FIGURES, LONG_FIGURES = range(4, 7), range(2, 4)
 ZODIAC_LATITUDE = 18.0
 STAR_GAP = 0.3  # between any two stars
 FIGURE_STAR_GAP = 1.2  # between background and figures
 FIGURE_GAP = 2.5
 POLE_STAR_OFF, POLE_STAR_SPACE = 1.0, 2.0  # from the celestial pole; to the next star
-HOLE, DARK = 22.0, 13.0  # radius of circles without a figure, a star
+HOLE, DARK = 22.0, 12.5  # radius of circles without a figure, a star
 
 
 def check(catalogue, report):
     check_sizes(catalogue.figures, report)
     check_zodiac(catalogue.figures[:12], report)
-    in_band = sum(band.density(s.at) > 3 for s in catalogue.background)
-    report(
-        True, "background stars in the dense band: %d of %d" % (in_band, len(catalogue.background))
-    )
     check_stars(catalogue.dots, report)
     check_pole_star(catalogue, report)
     check_figure_gaps(catalogue.figures, report)
@@ -30,14 +26,21 @@ def check(catalogue, report):
 
 
 def check_sizes(figures, report):
-    sizes = sorted(
-        (max(angle(a.at, b.at) for a in f.stars for b in f.stars), f.name) for f in figures
-    )
-    (least, _), (great, _), (longest, name) = sizes[0], sizes[-2], sizes[-1]
+    def listed(some):
+        return ", ".join("%s %.1f" % (f.name, f.span) for f in some)
+
+    by_size = sorted(figures, key=lambda f: f.span)
+    compact = [f for f in by_size if f.span <= COMPACT[1]]
+    large = [f for f in by_size if f.span > ORDINARY]
+    others = [f.span for f in by_size if f not in compact and f not in large]
     report(
-        great <= GREATEST_FIGURE and longest <= LONG_FIGURE,
-        "figures %.1f to %.1f degrees across, the long one (%s) %.1f"
-        % (least, great, name, longest),
+        len(compact) in COMPACT_FIGURES and compact[0].span >= COMPACT[0],
+        "compact figures, degrees across: " + listed(compact),
+    )
+    report(True, "the other figures %.1f to %.1f degrees across" % (others[0], others[-1]))
+    report(
+        len(large) in LONG_FIGURES and all(LONG[0] <= f.span <= LONG[1] for f in large),
+        "large figures, degrees across: " + listed(large),
     )
 
 
@@ -108,14 +111,6 @@ def check_figure_gaps(figures, report):
         gap >= FIGURE_GAP,
         "nearest two figures %.1f degrees apart (%s and %s), none crossing" % (gap, f.name, g.name),
     )
-
-
-def even_points(n):
-    """Directions spread evenly over the sphere along a spiral."""
-    for k in range(n):
-        z = 1 - (2 * k + 1) / n
-        c, lon = math.sqrt(1 - z * z), k * 2.399963229728653
-        yield c * math.cos(lon), c * math.sin(lon), z
 
 
 def check_holes(catalogue, report):

@@ -7,20 +7,34 @@ from itertools import combinations
 from ..lettering import ASCENT, DESCENT, dot_size, name_box, text_width, whole
 from ..plane import between, box_gap, box_to_point, meeting_point, point_to_line
 from ..sphere import angles
-from ..wheel import INNER_PATH, OUTER_PATH, from_middle, longitude, on_rim, project
-from ..world import TAU, WHITE, YELLOW, sign_range
+from ..wanderers import planets
+from ..wheel import (
+    INNER_PATH,
+    OUTER_PATH,
+    chord_gap,
+    circle_gap,
+    from_middle,
+    longitude,
+    on_rim,
+    project,
+)
+from ..world import FIRST_MOMENT, TAU, WHITE, YELLOW, sign_range
 
 UPRIGHT_LATITUDE = 12.0  # degrees; names further north stand upright
 RIM_GAP = 2.5  # between two names along the rim
 SEAM = 2.0  # from such a name to the path's ends at longitude 0
 UPRIGHT_GAP = 2.0  # between two upright names
+FIRST_START_GAP = 1.5  # from an upright name to the circle and the chords of the first start
+DOT_OFFSET = 0.01  # from a figure star's place to the whole units of its dot
 TEXT_TO_LINE, TEXT_TO_DOT = 0.8, 0.2
 MIDDLE = (180, 180)
 
 
 def check(catalogue, report):
     lines = check_figures(catalogue, report)
+    check_dots(catalogue, report)
     check_places(catalogue, report)
+    check_first_start(catalogue, report)
     for black_and_white in (False, True):
         check_texts(catalogue, lines, black_and_white, report)
 
@@ -46,6 +60,43 @@ def check_figures(catalogue, report):
         "lines from outside to outside showing %d" % (crossing, cut),
     )
     return lines
+
+
+def check_dots(catalogue, report):
+    """Lines end in the middles of the dots, which stand on whole units."""
+    offsets = sorted(
+        math.hypot(x - whole(x), y - whole(y))
+        for x, y in (from_middle(s.at) for s in catalogue.members)
+    )
+    report(
+        offsets[-1] <= DOT_OFFSET,
+        "wheel: figure stars' dots stand %.3f units beside their places, at most %.3f"
+        % (offsets[len(offsets) // 2], offsets[-1]),
+    )
+
+
+def check_first_start(catalogue, report):
+    """What a new user sees first: the circle of the latitude, the planets' chords and labels."""
+    rim, upright = wheel_texts(catalogue.names, False)
+    for gap_to, what in ((circle_gap, "the circle of the latitude"), (chord_gap, "a chord")):
+        gap, name = min((gap_to(t.box), t.name) for t in upright)
+        report(
+            gap >= FIRST_START_GAP,
+            "wheel of the first start: nearest upright name to %s %.1f units (%s)"
+            % (what, gap, name),
+        )
+    gap, name, planet = min(
+        (max(t.start - start - text_width(p), start - t.end), t.name, p)
+        for p, at in planets(FIRST_MOMENT)
+        for t in rim
+        if t.radius == INNER_PATH
+        for start in (angles(at)[0] * INNER_PATH,)
+    )
+    report(
+        gap >= RIM_GAP,
+        "wheel of the first start: nearest name to a planet's label %.1f units (%s and %s)"
+        % (gap, name, planet),
+    )
 
 
 def check_places(catalogue, report):
