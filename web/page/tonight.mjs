@@ -72,12 +72,13 @@ export function startTonight(engine, sky, isOpen, goTo) {
     byId("no-events").hidden = shown.length > 0;
     const date = (at) => engine.moment({ ...sky.asked, moment: at }).value?.local;
     const [begin, end] = [date(from), date(from + 1)];
-    say(
-      byId("tonight-span"),
+    const clock = isLocal() ? "local" : "standard";
+    const words =
       begin && end
-        ? `From noon of ${begin.day} ${begin.month_name} to noon of ${end.day} ${end.month_name} ${end.year}, by the clock of the place.`
-        : "",
-    );
+        ? `From local noon of ${begin.day} ${begin.month_name} to that of ${end.day} ` +
+          `${end.month_name} ${end.year}, in ${clock} time.`
+        : "";
+    say(byId("tonight-span"), words);
   }
   onlySeen.addEventListener("change", show);
   sky.whenAtRest(show);
