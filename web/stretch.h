@@ -26,7 +26,7 @@ almanac::Range askedRange(const Question& question, const std::optional<records:
 class Rows {
  public:
   /// What an answer holds at most: a browser's memory is not a disk.
-  static constexpr std::int64_t most = 100'000;
+  static constexpr std::int64_t most = 500'000;
 
   explicit Rows(const records::RecordType& type);
 

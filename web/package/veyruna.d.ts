@@ -203,9 +203,9 @@ export interface Veyruna {
   interpretation(sky: Sky): Result<Interpretation>;
   /** What a chart, star-map or horoscope, shows where. */
   marks(chart: string, sky: Sky): Result<Marks>;
-  /** What happens; kinds as `eventKinds`, all that can be seen where none is named. At most 100000. */
+  /** What happens; kinds as `eventKinds`, all that can be seen where none is named. At most 500000. */
   events(asked: Stretched & { kinds?: string[] }): Result<Events>;
-  /** When all of the conditions hold; see the manual's page on preparing a session. At most 100000. */
+  /** When all of the conditions hold; see the manual's page on preparing a session. At most 500000. */
   search(asked: Stretched & { conditions: string | string[]; first?: number }): Result<Intervals>;
 }
 
