@@ -110,6 +110,33 @@ def check_links(manual, pages):
         yield "manual.css fetches something"
 
 
+def luminance(colour):
+    """How much light a colour such as #26232e gives, from 0 to 1."""
+    shares = [int(colour[k : k + 2], 16) / 255 for k in (1, 3, 5)]
+    linear = [s / 12.92 if s <= 0.04045 else ((s + 0.055) / 1.055) ** 2.4 for s in shares]
+    return 0.2126 * linear[0] + 0.7152 * linear[1] + 0.0722 * linear[2]
+
+
+def check_colours(manual):
+    """Faults of the manual's colours: what of them cannot be read on its grounds."""
+    sheet = (manual / "manual.css").read_text(encoding="utf-8").split("@media print")[0]
+    looks = [
+        dict(re.findall(r"--([a-z]+): (#[0-9a-f]{6});", root))
+        for root in re.findall(r":root \{([^}]*)\}", sheet)
+    ]
+    if len(looks) != 2:
+        yield f"manual.css has {len(looks)} looks, not a light and a dark one"
+    for look in ({**looks[0], **changed} for changed in looks):  # as a style sheet is read
+        for ink in ("text", "quiet", "link", "mark"):
+            for ground in ("ground", "panel"):
+                light = sorted(luminance(look[name]) + 0.05 for name in (ink, ground))
+                if light[1] / light[0] < 4.5:
+                    yield (
+                        f"manual.css: {ink} {look[ink]} on {ground} {look[ground]} has a contrast"
+                        f" of {light[1] / light[0]:.2f}"
+                    )
+
+
 class Program:
     """The command, run in an empty home of its own."""
 
@@ -187,6 +214,7 @@ def faults_of(manual, veyruna):
     pages = {path.name: Page(path) for path in sorted(manual.glob("*.html"))}
     yield from (f"{name} {fault}" for name, page in pages.items() for fault in page.faults)
     yield from check_links(manual, pages)
+    yield from check_colours(manual)
     with tempfile.TemporaryDirectory() as home:
         for table in manual.glob("*.csv"):
             shutil.copy(table, home)
