@@ -8,6 +8,8 @@
 #include <optional>
 #include <tuple>
 
+#include "ui/controls/shades.h"
+
 /// Buttons of which one is chosen. The chosen one is drawn in the palette's highlight: pressed in
 /// alone it is hard to tell on a dark desktop.
 namespace veyruna::ui {
@@ -20,7 +22,7 @@ class ChosenPalette {
     if (!plainKey_ || *plainKey_ != plain.cacheKey()) {
       plainKey_ = plain.cacheKey();
       chosen_ = plain;
-      chosen_.setColor(QPalette::Button, plain.color(QPalette::Highlight));
+      chosen_.setColor(QPalette::Button, chosenGround(plain));
       chosen_.setColor(QPalette::ButtonText, plain.color(QPalette::HighlightedText));
     }
     return chosen_;

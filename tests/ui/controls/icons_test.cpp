@@ -5,6 +5,8 @@
 #include <QDir>
 #include <QPainter>
 #include <QPalette>
+#include <algorithm>
+#include <array>
 #include <gtest/gtest.h>
 
 #include "tests/support/source_path.h"
@@ -65,6 +67,26 @@ TEST(Icons, EveryDrawingIsThereInBothInksAndAllSizes) {
             << ink << ' ' << name.toStdString() << ' ' << size;
       }
     }
+  }
+}
+
+TEST(Icons, TheProgramsSmallestPicturesShowSunAndMoonInWholePixels) {
+  // What is only reduced blurs: two white pixels of the moon are left of 16, five of 22.
+  for (const auto& [size, moon, sun] : {std::array{16, 6, 15}, std::array{22, 10, 25}}) {
+    const QImage drawn(QStringLiteral(":/icons/veyruna_astro_%1.png").arg(size));
+    ASSERT_EQ(drawn.size(), QSize(size, size));
+    int white = 0;
+    int yellow = 0;
+    for (int y = 0; y < size; ++y) {
+      for (int x = 0; x < size; ++x) {
+        const QColor here = drawn.pixelColor(x, y);
+        const bool isWhite = std::min({here.red(), here.green(), here.blue()}) > 235;
+        white += isWhite && here.alpha() == 255 ? 1 : 0;
+        yellow += here.red() > 240 && here.green() > 190 && here.blue() < 110 ? 1 : 0;
+      }
+    }
+    EXPECT_GE(white, moon) << size;
+    EXPECT_GE(yellow, sun) << size;
   }
 }
 

@@ -9,6 +9,7 @@
 
 #include "tests/support/patience.h"
 #include "tests/ui/light_and_dark.h"
+#include "ui/controls/highlighted_buttons.h"
 
 namespace veyruna::ui {
 namespace {
@@ -142,6 +143,28 @@ TEST_P(Looks, WhatGoesWrongIsSaidReadably) {
   shown.press("saveButton");
   QTest::keyClick(shown.find<QLineEdit>("nameField"), Qt::Key_Return);
   canBeRead("saveError");
+}
+
+TEST_P(Looks, EveryChosenTabAndSegmentCanBeRead) {
+  const QColor text = QApplication::palette().color(QPalette::HighlightedText);
+  int chosen = 0;
+  for (QAbstractButton* const button : shown.window.findChildren<QAbstractButton*>()) {
+    const bool isOneOfAChoice = dynamic_cast<TabButton*>(button) != nullptr ||
+                                dynamic_cast<SegmentButton*>(button) != nullptr;
+    if (!isOneOfAChoice || !button->isVisible() || !button->isChecked()) {
+      continue;
+    }
+    ++chosen;
+    const QImage picture = tests::pictureOf(*button);
+    // Every row's ground, since styles shade a button from top to bottom.
+    for (int y = 3; y < picture.height() - 3; ++y) {
+      const QColor ground = picture.pixelColor(picture.width() - 4, y);
+      EXPECT_GE(tests::contrast(ground, text), 4.5)
+          << button->text().toStdString() << ' ' << y << ' ' << ground.name().toStdString();
+    }
+    EXPECT_GE(tests::bestContrast(picture, tests::groundOf(picture)), 4.5);
+  }
+  EXPECT_GE(chosen, 3);
 }
 
 TEST_P(Looks, EveryLabelStandsBesideItsField) {
