@@ -14,6 +14,7 @@ export function createViews(names, opened) {
       tab.tabIndex = isShown ? 0 : -1;
       byId(`view-${names[index]}`).hidden = !isShown;
     }
+    byId("panels").scrollTop = 0;
     document.documentElement.dataset.view = name;
     opened(name);
   }
