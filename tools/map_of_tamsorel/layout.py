@@ -129,6 +129,8 @@ def _cost(room, points, under):
             return None
         cost += 700 * room.steep[row, column].mean()
     elif under == "land":
+        if room.shore[row, column].any():
+            return None
         cost += 900 * (~room.land[row, column]).mean()
     return cost
 

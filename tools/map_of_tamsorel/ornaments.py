@@ -116,11 +116,11 @@ def _cartouche(c, labels):
         _scroll(c, 258, y, 46, 0.0, 1)
         c.restore()
     labels.append(
-        lettering.on_arc("The Lands and Seas of Veyruna", "title", UNDERTITLE, middle, top + 332)
+        lettering.on_arc("The Lands and Seas of Veyruna", "title", UNDERTITLE, middle, top + 322)
     )
     labels.append(
         lettering.on_arc(
-            "from the Equator to the sixtieth Parallel", "title", UNDERTITLE, middle, top + 382
+            "from the Equator to the sixtieth Parallel", "title", UNDERTITLE, middle, top + 366
         )
     )
 

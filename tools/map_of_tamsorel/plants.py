@@ -8,7 +8,7 @@ from scipy import ndimage
 from . import climate, growth, peaks, scatter
 from .land import GRID
 
-STRAND = 24  # pixels of bare ground along every coast
+STRAND = 18  # pixels of bare ground along every coast
 LEAST_HEIGHT = 0.28  # of a mountain; what is lower is a hill
 
 

@@ -101,7 +101,12 @@ def _meet_the_sea(points, widths, land):
         widths[: last + 1], widths[last]
     )
     steps, wider = np.array([-7.0, 0.0, 5.0, 10.0]), np.array([1.0, 1.1, 1.35, 1.7])
-    return points, widths, (shore + steps[:, None] * ahead, widths[-1] * wider)
+    mouth, wide = shore + steps[:, None] * ahead, widths[-1] * wider
+    column, row = (mouth + wide[:, None] * ahead).T / LAND_GRID - 0.5
+    beyond = ndimage.map_coordinates(land, (row, column), order=1, mode="nearest") > 0
+    beyond[:2] = False  # in narrow waters the other bank is not washed away
+    open_water = len(mouth) if not beyond.any() else int(beyond.argmax())
+    return points, widths, (mouth[:open_water], wide[:open_water])
 
 
 def _join(points, stem, greater):
