@@ -4,6 +4,10 @@
 /** So long nothing may move until tables, address and voices follow the chart, in milliseconds. */
 const restAfter = 140;
 
+/** Degrees that were read from a text may differ in their last digit. */
+export const isSamePlace = (one, other) =>
+  Math.abs(one.lat - other.lat) < 1e-6 && Math.abs(one.long - other.long) < 1e-6;
+
 export function createSky(engine, session) {
   const state = { baseTime: session.baseTime, ...session.place };
   const onFrame = [];
@@ -72,7 +76,7 @@ export function createSky(engine, session) {
     change(next) {
       const wanted = { ...state, ...next };
       let held;
-      if (session.isForPlayers && (wanted.lat !== state.lat || wanted.long !== state.long)) {
+      if (session.isForPlayers && !isSamePlace(wanted, state)) {
         Object.assign(wanted, session.place);
         held = "place";
       }

@@ -1,4 +1,5 @@
 // Figures and names as people read them.
+import { isSamePlace } from "./sky.mjs";
 
 const points = [
   "S",
@@ -46,8 +47,7 @@ export const clockWords = (reading) => (reading ? reading.date.split("T")[1] : "
 /** The place's name where it has one, else its coordinates. */
 export function placeWords(engine, sky) {
   const { session } = sky;
-  const isAt = (place) =>
-    Math.abs(place.lat - sky.lat) < 1e-6 && Math.abs(place.long - sky.long) < 1e-6;
+  const isAt = (place) => isSamePlace(place, sky);
   if (session.placeName && isAt(session.place)) {
     return session.placeName;
   }
