@@ -92,6 +92,9 @@ export function createChart(engine, sky, { name, title, fileTitle, box, isShown,
     framing = framing ? framings.held(framing, box, view) : framings.whole(box, view);
     sheet.setAttribute("viewBox", framings.viewBox(framing, view));
     const isWhole = framing.scale <= framings.fittingScale(box, view) * 1.0001;
+    if (isWhole && [wholeButton, smaller].includes(document.activeElement)) {
+      host.focus(); // they go, the focus stays
+    }
     wholeButton.hidden = isWhole;
     smaller.disabled = isWhole;
     larger.disabled =
@@ -145,12 +148,8 @@ export function createChart(engine, sky, { name, title, fileTitle, box, isShown,
   }
 
   function zoomWhole() {
-    const hadFocus = document.activeElement === wholeButton;
     framing = framings.whole(box, view);
     reframe();
-    if (hadFocus) {
-      host.focus();
-    }
   }
 
   function pan(dx, dy) {

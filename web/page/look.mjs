@@ -7,6 +7,9 @@ export function startLook() {
   const show = () => {
     document.documentElement.dataset.look = isDark ? "dark" : "light";
     byId("look").setAttribute("aria-pressed", isDark);
+    // A phone paints its own bars in the page's colour.
+    const ground = getComputedStyle(document.documentElement).getPropertyValue("--ground");
+    byId("ground").content = ground.trim();
   };
   dark.addEventListener("change", () => {
     isDark = dark.matches;

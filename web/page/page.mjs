@@ -2,9 +2,10 @@
 import { load } from "veyruna";
 import { startAddress } from "./address.mjs";
 import { createChart } from "./chart.mjs";
-import { byId, say, takesKeys } from "./elements.mjs";
+import { byId, say } from "./elements.mjs";
 import { createEyes } from "./eyes.mjs";
 import { showInterpretation } from "./interpretation.mjs";
+import { startKeys } from "./keys.mjs";
 import { startLook } from "./look.mjs";
 import { isLocal, startMomentFields } from "./moment_fields.mjs";
 import { heldWords, notify, startNotices, tell } from "./notices.mjs";
@@ -148,32 +149,6 @@ function showBounds(engine, session) {
         : `This session ends at ${to}.`;
   say(byId("bounds"), text);
   byId("bounds").hidden = false;
-}
-
-/** Keys that mean the same wherever one is, except where one types or presses. */
-function startKeys(timeBar, chart) {
-  const keys = {
-    " ": (event) => timeBar.toggle(event.shiftKey ? -1 : 1),
-    ",": () => timeBar.step(-1),
-    ".": () => timeBar.step(1),
-    "+": () => chart()?.zoomBy(1.6),
-    "=": () => chart()?.zoomBy(1.6),
-    "-": () => chart()?.zoomBy(1 / 1.6),
-    0: () => chart()?.zoomWhole(),
-  };
-  addEventListener("keydown", (event) => {
-    const { target } = event;
-    const presses = event.key === " " && target.closest("button, summary, a, [role=tab]");
-    if (
-      keys[event.key] &&
-      !presses &&
-      !takesKeys(target) &&
-      !(event.ctrlKey || event.altKey || event.metaKey)
-    ) {
-      event.preventDefault();
-      keys[event.key](event);
-    }
-  });
 }
 
 load().then(start, (error) => {
