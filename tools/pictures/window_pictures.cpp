@@ -5,6 +5,7 @@
 // scratch folder.
 #include <QAbstractButton>
 #include <QApplication>
+#include <QCursor>
 #include <QDir>
 #include <QEventLoop>
 #include <QScreen>
@@ -87,6 +88,9 @@ int main(int argc, char** argv) {
   bool isSaved = true;
   for (const veyruna::ui::TabView& view : veyruna::ui::tabViews) {
     window->selectTab(view.tab);
+    // On a chart the pointer would have something told; on the map it has a place read out.
+    const bool isMap = view.tab == veyruna::exports::OutputTab::location;
+    QCursor::setPos(isMap ? window->geometry().center() : window->geometry().bottomLeft());
     wait(untilDrawn);
     const QString name = QString::fromLatin1(view.icon).replace(QLatin1Char('_'), QLatin1Char('-'));
     isSaved &= save(*window, folder.filePath(QStringLiteral("window-%1.png").arg(name)));
