@@ -98,7 +98,8 @@ describe("the driver", () => {
     it(`writes and presses ${view.touch ? "by finger" : "by mouse"}`, async () => {
       const page = await browser.open(sample, view);
       const date = await page.find("textbox", "Date");
-      await date.write("12-06-720");
+      await date.write("12.06.720 (%'&\"#$!)");
+      assert.equal(await date.evaluate((field) => field.value), "12.06.720 (%'&\"#$!)");
       await date.write("720-06-12");
       await (await page.find("button", /^Press$/)).press();
       const seen = () => document.querySelector("#told").textContent;

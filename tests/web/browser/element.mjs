@@ -27,7 +27,10 @@ export class Element {
 
   /** {left, top, width, height, x, y} in pixels of the view, x and y in the middle; scrolled to first. */
   async box() {
-    await this.#page.send("DOM.scrollIntoViewIfNeeded", { backendNodeId: this.#id });
+    // To the middle: at the edges of the view bars may lie over it.
+    await this.evaluate((element) => {
+      element.scrollIntoView({ block: "center", inline: "nearest", behavior: "instant" });
+    });
     await this.#page.painted();
     return this.evaluate((element) => {
       const { left, top, width, height } = element.getBoundingClientRect();

@@ -37,7 +37,8 @@ export class Hands {
   /** One key, for example "Tab", "a", "+", with what is held meanwhile ("Shift", "Control"). */
   async key(key, ...holding) {
     const modifiers = holding.reduce((sum, name) => sum | held[name], 0);
-    const plain = key.length === 1 ? [undefined, key.toUpperCase().charCodeAt(0), key] : undefined;
+    // Of letters and digits the virtual key is their code; other signs have none that all keyboards share.
+    const plain = [undefined, /^[a-z0-9]$/i.test(key) ? key.toUpperCase().charCodeAt(0) : 0, key];
     const [code, windowsVirtualKeyCode, text] = keys[key] ?? plain;
     const event = { key, code, windowsVirtualKeyCode, modifiers };
     const writes = text !== undefined && (modifiers & (held.Control | held.Alt | held.Meta)) === 0;

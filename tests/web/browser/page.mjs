@@ -161,12 +161,12 @@ export class Page {
     return Buffer.from(data, "base64");
   }
 
-  /** The page as PDF on paper of so many inches. */
+  /** The page as PDF on paper of so many inches, with backgrounds, as who asks for them gets it. */
   async print({ width, height }) {
     const { data } = await this.send("Page.printToPDF", {
       paperWidth: width,
       paperHeight: height,
-      preferCSSPageSize: false,
+      printBackground: true,
     });
     return Buffer.from(data, "base64");
   }
