@@ -10,6 +10,7 @@ namespace {
 
 std::vector<std::string> headings() {
   std::vector<std::string> all;
+  all.reserve(charts::readingBlocks.size());
   for (const charts::ReadingBlockEntry& entry : charts::readingBlocks) {
     all.emplace_back(entry.heading);
   }

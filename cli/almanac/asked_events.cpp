@@ -1,6 +1,6 @@
 #include "cli/almanac/asked_events.h"
 
-#include "cli/almanac/range.h"
+#include "cli/typed/range.h"
 #include "words/event_kinds.h"
 
 namespace veyruna::cli {

@@ -8,7 +8,7 @@
 #include "cli/almanac/asked_events.h"
 #include "cli/almanac/event_output.h"
 #include "cli/almanac/note_output.h"
-#include "cli/almanac/range.h"
+#include "cli/typed/range.h"
 #include "cli/written/asked_forms.h"
 #include "cli/written/document_writer.h"
 #include "cli/written/progress.h"

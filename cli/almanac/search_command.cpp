@@ -7,7 +7,7 @@
 
 #include "almanac/search/search.h"
 #include "cli/almanac/asked_conditions.h"
-#include "cli/almanac/range.h"
+#include "cli/typed/range.h"
 #include "cli/almanac/span_output.h"
 #include "cli/written/asked_forms.h"
 #include "cli/written/document_writer.h"

@@ -1,11 +1,14 @@
 #include "cli/documents/document_commands.h"
 
 #include <algorithm>
+#include <cstdio>
 #include <filesystem>
 #include <optional>
 
 #include "astro/invariant.h"
 #include "cli/documents/document_content.h"
+#include "cli/page/page_file.h"
+#include "cli/page/session.h"
 #include "cli/typed/errors.h"
 #include "cli/written/asked_forms.h"
 #include "cli/written/notation.h"
@@ -25,6 +28,9 @@ namespace {
 using documents::Document;
 using documents::Entry;
 using documents::Form;
+
+/// Of the page for browsers in a folder of all documents.
+constexpr const char* pageName = "veyruna.html";
 
 constexpr std::int64_t mostRows = 100'000'000;
 /// Of a table that is not written row by row: all of its pages are laid out in memory.
@@ -101,7 +107,26 @@ void DocumentCommands::writeAll() const {
       list.write(path + "\n");
     }
   }
+  if (std::ranges::count(forms_, Form::html) > 0) {
+    writePageBeside(list);
+  }
   list.finish();
+}
+
+void DocumentCommands::writePageBeside(DocumentWriter& list) const {
+  const Session session{
+      .baseTime = sky_.observer.baseTime,
+      .place = Place{sky_.observer.latitude, sky_.observer.longitude, sky_.place}};
+  std::string page;
+  try {
+    page = pageFor(session);
+  } catch (const std::runtime_error& error) {
+    std::fprintf(stderr, "veyruna: left out is %s: %s\n", pageName, error.what());
+    return;
+  }
+  const std::string path = (std::filesystem::path(typed_.folder) / pageName).string();
+  writeWhole(DocumentWriter::to(path), page);
+  list.write(path + "\n");
 }
 
 reports::TableSize DocumentCommands::typedSize() const {

@@ -26,10 +26,13 @@ class DocumentCommands {
   /// A table of the person's own length and step.
   void writeTable(const documents::Entry& likeIt) const;
 
-  /// Every document in every form that was asked for and that it can have, into one folder.
+  /// Every document in every form that was asked for and that it can have, into one folder; in HTML
+  /// the page for browsers, too.
   void writeAll() const;
 
  private:
+  /// The page, opened at the moment and place; where it was not built, that is said.
+  void writePageBeside(DocumentWriter& list) const;
   [[nodiscard]] reports::TableSize typedSize() const;
   /// `text` keeps the document's text from one form to the next.
   void writeContent(const documents::Entry& document, documents::Form form, const std::string& file,

@@ -14,6 +14,7 @@
 #include "cli/documents/drawing_program.h"
 #include "cli/documents/locations_command.h"
 #include "cli/documents/schema_command.h"
+#include "cli/page/page_command.h"
 #include "cli/typed/grammar.h"
 #include "cli/typed/sky.h"
 #include "cli/written/asked_forms.h"
@@ -63,9 +64,9 @@ struct OwnCommand {
   void (*run)(const Typed& typed);
 };
 constexpr std::array ownCommands = {
-    OwnCommand{"calendar", writeCalendar}, OwnCommand{"events", writeEvents},
-    OwnCommand{"locations", writeLocations}, OwnCommand{"schema", writeSchema},
-    OwnCommand{"search", writeSearch}};
+    OwnCommand{"calendar", writeCalendar},   OwnCommand{"events", writeEvents},
+    OwnCommand{"locations", writeLocations}, OwnCommand{"page", writePage},
+    OwnCommand{"schema", writeSchema},       OwnCommand{"search", writeSearch}};
 
 /// To draw, in this program or in the one that can.
 void makeReady(const Renderer& renderer, const std::vector<std::string>& arguments) {

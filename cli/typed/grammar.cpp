@@ -63,6 +63,7 @@ Grammar::Grammar()
   CLI::App* const all = addCommand("all", "Every document, into one folder", " --out campaign");
   addValue(*all, "--out", "DIR", typed_.folder, "The folder; made where it is missing");
   addBatch();
+  addPage();
   addCommand("locations", "The saved places with their coordinates");
   addCalendar();
   addSchema();
@@ -92,6 +93,8 @@ const Typed& Grammar::parse(const std::vector<std::string>& arguments) {
   refuseTwoOf("--base-time", typed_.baseTime, {"--year", "--month", "--day", "--hour", "--local"},
               "moments");
   refuseTwoOf("--location", typed_.location, {"--lat", "--long"}, "places");
+  typed_.hasMoment = isGiven("--base-time") || isGiven("--year") || isGiven("--month") ||
+                     isGiven("--day") || isGiven("--hour");
   typed_.hasPlace = isGiven("--lat") || isGiven("--long") || !typed_.location.empty();
   refuseMomentBesideOthers();
   const std::vector<std::string> extras = app_->remaining(true);
@@ -172,6 +175,8 @@ void Grammar::refuseMomentBesideOthers() const {
   };
   if (typed_.command == "batch") {
     refuseIfGiven({"--base-time", "--year", "--month", "--day"}, "the date of each row");
+  } else if (typed_.command == "page" && typed_.from.empty()) {
+    return;  // which opens at a moment or is bound to a stretch
   } else if (!typed_.command.empty() &&
              app_->get_subcommand(typed_.command)->get_option_no_throw("--from") != nullptr) {
     refuseIfGiven({"--base-time", "--year", "--month", "--day", "--hour"},
@@ -250,6 +255,14 @@ void Grammar::addSearch() {
   addValue(*search, "-f", "FILE", typed_.conditionFile, "Further conditions, one a line");
   search->add_flag("--explain", typed_.isExplained, "First say what is asked, and what is not");
   addValue(*search, "--first", "N", typed_.first, "No more than the first N answers");
+}
+
+void Grammar::addPage() {
+  CLI::App* const page = addStretchCommand(
+      "page", "The sky in one page for any browser, made for a session",
+      " --from 720-06-12T18:00 --to 720-06-13T02:00 --location Ebb --player -o evening.html");
+  page->add_flag("--player", typed_.isForPlayers, "Shows what eyes can see from there, no more");
+  addValue(*page, "--title", "TEXT", typed_.title, "What stands over it");
 }
 
 void Grammar::addSchema() {

@@ -28,6 +28,6 @@ export function readSession(engine) {
     isForPlayers: asked.player === true,
     placeName: asked.place ?? "",
     place: hasPlace ? { lat: asked.lat, long: asked.long } : wendmark,
-    baseTime: Number.isFinite(from) ? from : Math.min(opening, to),
+    baseTime: Number.isFinite(from) ? from : Math.min(asked.base_time ?? opening, to),
   };
 }

@@ -1,4 +1,4 @@
-#include "cli/almanac/range.h"
+#include "cli/typed/range.h"
 
 #include "cli/typed/sky.h"
 #include "words/dates.h"

@@ -1,0 +1,54 @@
+#include "cli/page/page_file.h"
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+#include <stdexcept>
+#include <string_view>
+
+#include "words/quoting.h"
+
+namespace veyruna::cli {
+
+namespace {
+
+constexpr std::string_view emptySession =
+    R"(<script type="application/json" id="session">{}</script>)";
+
+std::filesystem::path pageFile() {
+  if (const char* const named = std::getenv("VEYRUNA_PAGE")) {
+    return named;
+  }
+  const std::filesystem::path program = std::filesystem::read_symlink("/proc/self/exe");
+  std::filesystem::path installed =
+      program.parent_path().parent_path() / "share/veyruna/veyruna.html";
+  std::error_code problem;
+  return std::filesystem::exists(installed, problem) ? installed : VEYRUNA_BUILT_PAGE;
+}
+
+std::string contentOf(const std::filesystem::path& file) {
+  std::ifstream stream(file, std::ios::binary);
+  std::ostringstream content;
+  content << stream.rdbuf();
+  if (!stream.is_open() || stream.bad()) {
+    throw std::runtime_error(
+        "the page for browsers is not here: " + words::inQuotes(file.string()) +
+        " cannot be read; in the source tree ./page builds it");
+  }
+  return content.str();
+}
+
+}  // namespace
+
+std::string pageFor(const Session& session) {
+  const std::filesystem::path file = pageFile();
+  std::string page = contentOf(file);
+  const std::size_t at = page.find(emptySession);
+  if (at == std::string::npos) {
+    throw std::runtime_error(words::inQuotes(file.string()) + " is no page for browsers");
+  }
+  return page.replace(at + emptySession.find("{}"), 2, sessionJson(session));
+}
+
+}  // namespace veyruna::cli
