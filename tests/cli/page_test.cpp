@@ -109,7 +109,7 @@ TEST_F(Page, WhatIsNotAcceptedIsQuotedAndNothingIsWritten) {
       {"--from 720-01-01 -o x.html", "page needs an end"},
       {"--to 720-01-01 -o x.html", "page needs a beginning"},
       {"--from 720-13-01 --for 1 day -o x.html", "--from: \"720-13-01\" is not accepted"},
-      {"--from 720-02-01 --to 720-01-01 -o x.html", "\"720-01-01\" is beforeSession --from"},
+      {"--from 720-02-01 --to 720-01-01 -o x.html", "\"720-01-01\" is before --from"},
       {"--from 720-01-01 --for 1 day --hour 12 -o x.html", "--hour is of one moment"},
       {"--location all -o x.html", "a page opens at one place"},
       {"--location Nowhere -o x.html", "\"Nowhere\" is not a saved place"},
