@@ -14,20 +14,26 @@ constexpr double nameReach = 8.0;  ///< points from a mark at which its name sho
 constexpr QRgb ink = 0xff8b1a1a;   // a red that is seen on sea, land and parchment
 constexpr QRgb outline = 0xfffff8e8;
 
-constexpr double ringWidth = 2.2;     ///< points
-constexpr double haloWidth = 4.0;     ///< points: of the light line beneath the ring
 constexpr QRgb ringInk = 0xff6a1b9a;  // violet: nothing on the map has it
-constexpr double printedRim = 16.5;  ///< pixels of the picture: the radius of a place printed on it
-constexpr double offRim = 3.0;       ///< points from there to the ring
-constexpr double leastRing = 6.2;    ///< points: around the dot, however small the map
-constexpr double mostRing = 512.0;   ///< points: more than any map at rest asks for
+constexpr double printedRim = 16.5;   ///< pixels of the picture: a printed place's radius
+constexpr double leastRim = 3.2;      ///< points: room for the dot, however small the map
+constexpr double mostRim = 512.0;     ///< points: more than any map at rest asks for
 
-/// The ring's radius in points: it stands clear of what is printed at the place, at every zoom.
-double ringRadiusIn(const Layout& layout) {
-  const double pointsPerPixel = layout.displaySize.width() / mapWidth;
-  const double radius = printedRim * pointsPerPixel + offRim;
-  return radius < mostRing ? std::max(leastRing, radius) : mostRing;
+/// The radius in points from which on nothing is printed at a place.
+double rimIn(const Layout& layout) {
+  const double rim = printedRim * layout.displaySize.width() / mapWidth;
+  return rim < mostRim ? std::max(leastRim, rim) : mostRim;
 }
+
+/// The line around the selected place, in points: clear of what is printed there, at every zoom.
+struct Ring {
+  explicit Ring(double rim)
+      : width(2.0 + 0.065 * rim), halo(width + 1.8), radius(rim + 1.0 + halo * 0.5) {}
+
+  double width;
+  double halo;  ///< the width of the light line beneath it
+  double radius;
+};
 
 /// An empty stamp for everything within `radius` points of its centre, which is the centre of its
 /// middle pixel.
@@ -64,12 +70,12 @@ QImage drawnDot(double pixelsPerPoint) {
   return stamp;
 }
 
-QImage drawnRing(double radius, double pixelsPerPoint) {
-  QImage stamp = stampOf(radius + haloWidth, pixelsPerPoint);
+QImage drawnRing(const Ring& ring, double pixelsPerPoint) {
+  QImage stamp = stampOf(ring.radius + ring.halo, pixelsPerPoint);
   QPainter painter(&stamp);
   prepareFor(painter, stamp, pixelsPerPoint);
-  fillRing(painter, radius, haloWidth, outline);
-  fillRing(painter, radius, ringWidth, ringInk);
+  fillRing(painter, ring.radius, ring.halo, outline);
+  fillRing(painter, ring.radius, ring.width, ringInk);
   return stamp;
 }
 
@@ -103,7 +109,7 @@ std::vector<MapMark> marksOf(const model::AstronomyModel& model) {
 
 void MarkStamps::draw(QPainter& painter, const std::vector<MapMark>& marks, const Layout& layout,
                       const QTransform& toDevice, const QRect& view) {
-  prepare(toDevice.m11(), ringRadiusIn(layout));
+  prepare(toDevice.m11(), rimIn(layout));
   const int reach = ring_.width();
   const QRectF near = view.adjusted(-reach, -reach, reach, reach);
   for (const MapMark& mark : marks) {
@@ -121,15 +127,15 @@ void MarkStamps::draw(QPainter& painter, const std::vector<MapMark>& marks, cons
   }
 }
 
-void MarkStamps::prepare(double pixelsPerPoint, double ringRadius) {
+void MarkStamps::prepare(double pixelsPerPoint, double rim) {
   if (pixelsPerPoint != pixelsPerPoint_) {
     dot_ = drawnDot(pixelsPerPoint);
   }
-  if (pixelsPerPoint != pixelsPerPoint_ || ringRadius != ringRadius_) {
-    ring_ = drawnRing(ringRadius, pixelsPerPoint);
+  if (pixelsPerPoint != pixelsPerPoint_ || rim != rim_) {
+    ring_ = drawnRing(Ring(rim), pixelsPerPoint);
   }
   pixelsPerPoint_ = pixelsPerPoint;
-  ringRadius_ = ringRadius;
+  rim_ = rim;
 }
 
 NameOnMap nameAt(QPointF point, const std::vector<MapMark>& marks, const Layout& layout) {

@@ -36,10 +36,10 @@ class MarkStamps {
             const QTransform& toDevice, const QRect& view);
 
  private:
-  void prepare(double pixelsPerPoint, double ringRadius);
+  void prepare(double pixelsPerPoint, double rim);
 
   double pixelsPerPoint_ = 0.0;
-  double ringRadius_ = 0.0;
+  double rim_ = 0.0;
   QImage dot_;
   QImage ring_;
 };
