@@ -137,14 +137,14 @@ export type Stretch = [x1: number, y1: number, x2: number, y2: number, radius: n
 
 export interface Mark {
   kind:
-    | 'body'
-    | 'star'
-    | 'background_star'
-    | 'figure_name'
-    | 'sign_boundary'
-    | 'ascendant'
-    | 'chord'
-    | 'panel_line';
+    | "body"
+    | "star"
+    | "background_star"
+    | "figure_name"
+    | "sign_boundary"
+    | "ascendant"
+    | "chord"
+    | "panel_line";
   name: string;
   /** How readily it is pointed at: the smaller, the more. */
   magnitude: number;
@@ -168,7 +168,7 @@ export interface DocumentEntry {
   document: string;
   heading: string;
   summary: string;
-  kind: 'chart' | 'table' | 'list' | 'label';
+  kind: "chart" | "table" | "list" | "label";
   /** Its name in a folder of all documents, and in a name with place and moment; empty for a label. */
   fileName: string;
   fileTitle: string;
@@ -198,7 +198,7 @@ export interface Veyruna {
   /** The text of a document, to the byte what the command writes. */
   document(name: string, sky: Sky): Result<string>;
   /** The values of positions, moment, hourly, monthly, daily, yearly or horoscope. */
-  record(name: 'positions', sky: Sky): Result<Positions>;
+  record(name: "positions", sky: Sky): Result<Positions>;
   record(name: string, sky: Sky): Result<Observed>;
   interpretation(sky: Sky): Result<Interpretation>;
   /** What a chart, star-map or horoscope, shows where. */

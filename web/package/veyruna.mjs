@@ -1,11 +1,11 @@
 // The sky of Veyruna for scripts: what this module answers is calculated by the very engine of the
 // program, which it carries inside. Nothing is loaded from anywhere and nothing is kept.
-import packedEngine from './engine.mjs';
+import packedEngine from "./engine.mjs";
 
 /** The bytes of a gzipped file that stands in a text as base64. */
 async function unpacked(base64) {
   const packed = Uint8Array.from(atob(base64), (letter) => letter.charCodeAt(0));
-  const stream = new Blob([packed]).stream().pipeThrough(new DecompressionStream('gzip'));
+  const stream = new Blob([packed]).stream().pipeThrough(new DecompressionStream("gzip"));
   return new Response(stream).arrayBuffer();
 }
 
@@ -13,7 +13,7 @@ async function unpacked(base64) {
 class Engine {
   #module;
   #exports;
-  #complaint = '';
+  #complaint = "";
 
   constructor(module) {
     this.#module = module;
@@ -63,22 +63,22 @@ class Engine {
       answer = this.answer(question);
     } catch (stop) {
       const error = this.#complaint.trim() || `the engine stopped: ${stop.message}`;
-      this.#complaint = '';
+      this.#complaint = "";
       this.#start();
       return { ok: false, error };
     }
     const rest = answer.slice(1);
-    if (answer[0] === '!') {
+    if (answer[0] === "!") {
       return { ok: false, error: rest };
     }
-    return { ok: true, value: answer[0] === '>' ? JSON.parse(rest) : rest };
+    return { ok: true, value: answer[0] === ">" ? JSON.parse(rest) : rest };
   }
 }
 
 /** What a value is as a text; numbers of a moment are days. */
 function textOf(name, value) {
-  const isDays = typeof value === 'number' && ['moment', 'from', 'to'].includes(name);
-  return (isDays ? '@' : '') + String(value);
+  const isDays = typeof value === "number" && ["moment", "from", "to"].includes(name);
+  return (isDays ? "@" : "") + String(value);
 }
 
 /** A question of names and values; what is undefined or null is not said. */
@@ -105,7 +105,7 @@ class Veyruna {
 
   constructor(engine) {
     this.#engine = engine;
-    Object.assign(this, engine.ask('ask=about').value);
+    Object.assign(this, engine.ask("ask=about").value);
     Object.freeze(this);
   }
 
@@ -121,31 +121,31 @@ class Veyruna {
   }
 
   moment(sky) {
-    return this.#ask('moment', () => ({ ...sky }));
+    return this.#ask("moment", () => ({ ...sky }));
   }
 
   document(name, sky) {
-    return this.#ask('document', () => ({ name, ...sky }));
+    return this.#ask("document", () => ({ name, ...sky }));
   }
 
   record(name, sky) {
-    return this.#ask('record', () => ({ name, ...sky }));
+    return this.#ask("record", () => ({ name, ...sky }));
   }
 
   interpretation(sky) {
-    return this.record('horoscope', sky);
+    return this.record("horoscope", sky);
   }
 
   marks(name, sky) {
-    return this.#ask('marks', () => ({ name, ...sky }));
+    return this.#ask("marks", () => ({ name, ...sky }));
   }
 
   events(asked) {
-    return this.#ask('events', () => almanacValues(asked));
+    return this.#ask("events", () => almanacValues(asked));
   }
 
   search(asked) {
-    return this.#ask('search', () => almanacValues(asked));
+    return this.#ask("search", () => almanacValues(asked));
   }
 }
 
