@@ -10,6 +10,9 @@ const rowsOf = (text, headingLines) =>
     .slice(headingLines)
     .map((line) => line.trim().split(/ +/));
 
+/** Each with the figure that stands under its words. */
+const headings = [["Body"], ["Altitude"], ["Direction", "azimuth"], ["Sign", "ec. long."]];
+
 export function showPositions(engine, sky, eyes) {
   const about = engine.documents.find(({ document }) => document === "positions");
   const text = engine.document("positions", sky.asked);
@@ -20,21 +23,17 @@ export function showPositions(engine, sky, eyes) {
   const rows = rowsOf(text.value, about.columnHeadingLines).filter(([body, , altitude]) =>
     eyes.seesBody(body, !altitude.startsWith("-"), day),
   );
-  const head = ["Body", "Altitude", "Direction", "Sign"].map((name) =>
-    make("th", { scope: "col" }, name),
+  const head = headings.map(([name, under]) =>
+    make("th", { scope: "col" }, name, ...(under ? [" ", make("small", {}, under)] : [])),
   );
-  const body = rows.map(([name, azimuth, altitude, , signName]) =>
+  const body = rows.map(([name, azimuth, altitude, longitude, signName]) =>
     make(
       "tr",
       { className: altitude.startsWith("-") ? "below" : "above" },
       make("th", { scope: "row" }, make("i", { className: `dot ${name.toLowerCase()}` }), name),
       make("td", {}, degrees(altitude)),
-      make(
-        "td",
-        { title: `Azimuth ${degrees(azimuth)}, from south through west` },
-        compassPoint(azimuth),
-      ),
-      make("td", {}, signName),
+      make("td", {}, compassPoint(azimuth), " ", make("small", {}, degrees(azimuth))),
+      make("td", {}, signName, " ", make("small", {}, degrees(longitude))),
     ),
   );
   const none = make("tr", {}, make("td", { colSpan: 4 }, "None of the bodies can be seen."));

@@ -34,9 +34,9 @@ export function whenPressed(button, sky, act) {
     button.addEventListener(end, letGo);
   }
   button.addEventListener("contextmenu", (event) => event.preventDefault());
-  button.addEventListener("click", () => {
-    // The click that ends a long press has had its steps.
-    if (!hasRepeated) {
+  button.addEventListener("click", (event) => {
+    // The click that ends a long press has had its steps; a key's is none of that.
+    if (!hasRepeated || event.detail === 0) {
       act();
     }
     hasRepeated = false;
