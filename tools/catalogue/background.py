@@ -31,7 +31,7 @@ CLUSTERS = [  # longitude and latitude of the middle as seen, degrees; how many 
 CLUSTER_GAP = (0.8, 1.3)  # degrees from a cluster's star to the next
 DOUBLES = 9
 DOUBLE_GAP = (0.6, 0.75)  # degrees
-OUTSIDE = 116  # single stars outside the band
+OUTSIDE = 108  # single stars outside the band
 OUTSIDE_GAP, BAND_GAP = 2.2, 0.8  # degrees between single stars
 WIDEST_HOLE = 10.5  # degrees from anywhere outside the band to the nearest star
 IN_BAND = 3.0  # the density at which the band begins
@@ -159,7 +159,7 @@ class Strewing:
             if density < IN_BAND / 2 or self.rnd.random() * band.PEAK > density:
                 continue
             if self.room(v) > BAND_GAP and not self.obstacles.cover(v):
-                self.stars.append((v, self.magnitude(4.9, FAINTEST)))
+                self.stars.append((v, self.magnitude(4.7, FAINTEST)))
                 count -= 1
 
 

@@ -61,13 +61,16 @@ def rift_middle(lon):
 
 
 def rift(v):
-    """What the rift leaves of the belt at v: 1 away from it, next to nothing in its middle."""
+    """What the rift makes of the belt at v: next to nothing in its middle, the arms beside it
+    brighter, 1 where it does not run.
+    """
     lon = math.degrees(longitude(v)) % 360
     inside = min(lon - RIFT_FROM, RIFT_TO - lon) / 20.0  # 1 where it has come to its width
     if inside <= 0:
         return 1.0
     off = beside(v) - rift_middle(lon)
-    return 1.0 - 0.97 * math.exp(-((off / (RIFT_WIDTH * min(inside, 1.0))) ** 4))
+    dark = math.exp(-((off / (RIFT_WIDTH * min(inside, 1.0))) ** 4))
+    return (1.0 - 0.97 * dark) * (1.0 + 0.9 * min(inside, 1.0))
 
 
 def density(v):

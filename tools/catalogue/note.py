@@ -71,7 +71,7 @@ and a name in one. `constellation_lines.csv` has `from,to`.
   far north beside %(pole)s and narrowest in the far south. Its stars are the faint ones
   and stand in clouds; for a quarter of its way a dark rift parts it. Its name stands
   among its stars, north of %(under)s.
-- Outside the band the background stars are brighter and stand apart, but for five
+- Outside the band the background stars are brighter and stand apart, but for
   clusters of six or seven and some doubles.
 
 ## The constellations
