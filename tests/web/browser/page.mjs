@@ -11,8 +11,8 @@ import { inTime, until } from "./patience.mjs";
 import { Watch } from "./watch.mjs";
 
 /** A view is {width, height} in CSS pixels, and where they are not the usual: scale (1), touch (false),
-    dark (false), still (true: less motion is wished for), forcedColours (false). */
-const usualView = { scale: 1, touch: false, dark: false, still: false, forcedColours: false };
+    dark, still (less motion is wished for), forcedColours, paper (as it would be printed): all false. */
+const usualView = { scale: 1, touch: false, dark: false, still: false, forcedColours: false, paper: false };
 
 export class Page {
   #connection;
@@ -78,7 +78,7 @@ export class Page {
   /** Sets the view; what is not named is as usual. */
   async see(view) {
     this.view = { ...usualView, ...view };
-    const { width, height, scale, touch, dark, still, forcedColours } = this.view;
+    const { width, height, scale, touch, dark, still, forcedColours, paper } = this.view;
     await this.send("Emulation.setDeviceMetricsOverride", {
       width,
       height,
@@ -87,6 +87,7 @@ export class Page {
     });
     await this.send("Emulation.setTouchEmulationEnabled", { enabled: touch, maxTouchPoints: 5 });
     await this.send("Emulation.setEmulatedMedia", {
+      media: paper ? "print" : "",
       features: [
         { name: "prefers-color-scheme", value: dark ? "dark" : "light" },
         { name: "prefers-reduced-motion", value: still ? "reduce" : "no-preference" },

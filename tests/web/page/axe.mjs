@@ -30,6 +30,12 @@ export async function axeFaults(page) {
   }
 }
 
+/** What cannot be read because of its colours. */
+export async function contrastFaults(page) {
+  const lines = await axeFaults(page);
+  return lines.filter((line) => line.startsWith("color-contrast"));
+}
+
 async function faultsIn(page) {
   source ??= readFileSync(path, "utf8");
   // Not a script of the page: its content policy would not let one in.

@@ -65,4 +65,19 @@ pageTests("the keyboard", (test) => {
     await page.until("it is closed", `() => !(${isOpen})()`);
     await page.until("the focus is back", () => document.activeElement.id === "open-inputs");
   });
+
+  test("lets single keys be switched off where nothing is played or enlarged by them", async (open) => {
+    const page = await open(desk);
+    const clock = () => document.querySelector("#shown-clock").textContent;
+    const before = await page.evaluate(clock);
+    await (await page.select("#help summary")).press();
+    await (await page.find("checkbox", /These keys work everywhere/)).press();
+    await (await page.find("tab", "Star map")).focus();
+    await page.hands.key(".");
+    await page.painted();
+    assert.equal(await page.evaluate(clock), before);
+    await (await page.select("#star-map")).focus();
+    await page.hands.key(".");
+    await page.until("on a chart they work still", `(before) => (${clock})() !== before`, before);
+  });
 });

@@ -6,8 +6,9 @@ import { layoutFaults } from "./layout.mjs";
 import { pageTests, show, sizes, tabs } from "./sky_page.mjs";
 
 pageTests("the page's layout", (test) => {
-  for (const size of sizes) {
-    test(`fits into ${size.width} × ${size.height}`, async (open) => {
+  for (const size of [...sizes, { ...sizes[0], forcedColours: true }]) {
+    const colours = size.forcedColours ? " in colours of the device" : "";
+    test(`fits into ${size.width} × ${size.height}${colours}`, async (open) => {
       const page = await open(size);
       const faults = [];
       const judge = async (where) => {

@@ -2,6 +2,7 @@
 
 import assert from "node:assert/strict";
 
+import { contrastFaults } from "./axe.mjs";
 import { papers, readPaper } from "./paper.mjs";
 import { desk, pageTests, phone, show, tabs, textOf } from "./sky_page.mjs";
 
@@ -26,4 +27,14 @@ pageTests("paper", (test) => {
       }
     }
   }
+
+  test("is read as well where the screen was dark", async (open) => {
+    const page = await open({ ...desk, dark: true });
+    for (const tab of tabs) {
+      await page.see({ ...desk, dark: true });
+      await show(page, tab);
+      await page.see({ ...desk, dark: true, paper: true });
+      assert.equal((await contrastFaults(page)).join("\n"), "", tab);
+    }
+  });
 });
