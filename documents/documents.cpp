@@ -91,7 +91,7 @@ constexpr std::array<Entry, documentCount> allDocuments = {{
      "The sky above the place, as SVG", Kind::chart, none, starMap, 0, starMapMarks},
     {Document::horoscope, "horoscope", "horoscope.svg", "Horoscope", "Horoscope",
      "The horoscope with its interpretation, as SVG", Kind::chart, none, horoscope, 0,
-     horoscopeMarks},
+     horoscopeMarks, true},
     {Document::horoscopeOnPaper, "", "horoscope-black-and-white.svg", "Horoscope",
      "Horoscope, black on white", "The horoscope black on white, as SVG", Kind::chart, none,
      horoscopeOnPaper, 0, horoscopeMarks},

@@ -43,16 +43,17 @@ enum class Kind {
 /// What is said of a document.
 struct Entry {
   Document document = Document::count;
-  std::string_view command;    ///< its word on the command line; empty for one without
-  std::string_view fileName;   ///< in a folder of all documents; empty for a label
-  std::string_view fileTitle;  ///< in a name with a place and moment; likewise
-  std::string_view heading;    ///< over it where several stand together
-  std::string_view summary;    ///< one line of help
+  std::string_view command = {};    ///< its word on the command line; empty for one without
+  std::string_view fileName = {};   ///< in a folder of all documents; empty for a label
+  std::string_view fileTitle = {};  ///< in a name with a place and moment; likewise
+  std::string_view heading = {};    ///< over it where several stand together
+  std::string_view summary = {};    ///< one line of help
   Kind kind = Kind::label;
-  reports::TableSize size;  ///< of a table; of anything else, nothing
+  reports::TableSize size = {};  ///< of a table; of anything else, nothing
   std::string (*write)(const astro::Observer& observer, const reports::TableSize& size) = nullptr;
   int columnHeadingLines = 0;  ///< how many of its first lines head its columns
   charts::ChartMarks (*marks)(const astro::Observer& observer) = nullptr;  ///< of a chart
+  bool isRead = false;  ///< of a chart: whether what it says can be had as values, too
 };
 
 /// Every document, in their order.

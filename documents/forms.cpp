@@ -104,10 +104,14 @@ bool canBe(Kind kind, Form form) {
   return false;
 }
 
-std::string acceptedExtensions(Kind kind, std::string_view prefix) {
+bool canBe(const Entry& document, Form form) {
+  return canBe(document.kind, form) || (document.isRead && formEntry(form).isOfValues);
+}
+
+std::string acceptedExtensions(const Entry& document, std::string_view prefix) {
   std::vector<std::string_view> accepted;
   for (const FormEntry& entry : allForms) {
-    if (canBe(kind, entry.form)) {
+    if (canBe(document, entry.form)) {
       accepted.push_back(entry.extension);
     }
   }

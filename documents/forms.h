@@ -54,9 +54,11 @@ bool isDrawn(Form form);
 
 /// Whether a document of that kind can be written in the form; a label is text alone.
 bool canBe(Kind kind, Form form);
+/// The same of that document, whose values may be had besides its picture.
+bool canBe(const Entry& document, Form form);
 
-/// The extensions of the forms that a document of that kind can have, each behind the prefix:
+/// The extensions of the forms that the document can have, each behind the prefix:
 /// "svg, html, pdf or png".
-std::string acceptedExtensions(Kind kind, std::string_view prefix = "");
+std::string acceptedExtensions(const Entry& document, std::string_view prefix = "");
 
 }  // namespace veyruna::documents

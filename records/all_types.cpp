@@ -21,9 +21,10 @@ const RecordType& locationsType() {
   return type;
 }
 
-constexpr std::array<TypeEntry, 7> allTypes = {{{"conjunctions", conjunctionsType},
+constexpr std::array<TypeEntry, 8> allTypes = {{{"conjunctions", conjunctionsType},
                                                 {"ephemeris", ephemerisType},
                                                 {"events", eventsType},
+                                                {"interpretation", interpretationType},
                                                 {"locations", locationsType},
                                                 {"moment", momentType},
                                                 {"positions", positionsType},

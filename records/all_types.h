@@ -17,6 +17,6 @@ struct TypeEntry {
 };
 
 /// Every type, in the order of their names.
-extern const std::array<TypeEntry, 7> allTypes;
+extern const std::array<TypeEntry, 8> allTypes;
 
 }  // namespace veyruna::records

@@ -66,16 +66,16 @@ std::vector<RowFile> filesOf(const Typed& typed, const std::vector<Form>& forms)
        listedDocuments(typed.documents.empty() ? usualDocuments : typed.documents)) {
     const bool isOnPaper = listed == Document::horoscope && typed.blackAndWhite;
     const Document document = isOnPaper ? Document::horoscopeOnPaper : listed;
-    const Entry& entry = documents::entryOf(listed);
+    const Entry& entry = documents::entryOf(document);
     const std::size_t before = files.size();
     for (const Form form : forms) {
-      if (documents::canBe(entry.kind, form)) {
+      if (documents::canBe(entry, form)) {
         files.push_back({document, form});
       }
     }
     if (files.size() == before) {
       words::refuse("--format", typed.formats,
-                    "also one of " + documents::acceptedExtensions(entry.kind) + " for " +
+                    "also one of " + documents::acceptedExtensions(entry) + " for " +
                         std::string(entry.command));
     }
   }

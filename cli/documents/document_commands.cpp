@@ -98,7 +98,7 @@ void DocumentCommands::writeAll() const {
   for (const Entry& document : documents::allDocuments) {
     std::optional<std::string> text;
     for (const Form form : forms_) {
-      if (document.fileName.empty() || !documents::canBe(document.kind, form)) {
+      if (document.fileName.empty() || !documents::canBe(document, form)) {
         continue;
       }
       const std::string path =

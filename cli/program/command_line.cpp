@@ -84,8 +84,8 @@ void run(const Grammar& grammar, const Typed& typed, const std::vector<std::stri
     return;
   }
   const Entry* const document = documentOf(typed);
-  const std::vector<Form> forms =
-      askedForms(typed, document == nullptr ? documents::Kind::label : document->kind);
+  const std::vector<Form> forms = document == nullptr ? askedForms(typed, documents::Kind::label)
+                                                      : askedForms(typed, *document);
   if (document == nullptr && typed.command != "all" && typed.command != "batch") {
     askedWidth(typed, forms);
     DocumentWriter writer = DocumentWriter::to(typed.file);

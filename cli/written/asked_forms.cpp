@@ -14,6 +14,7 @@ namespace veyruna::cli {
 
 namespace {
 
+using documents::Entry;
 using documents::Form;
 using documents::FormEntry;
 using documents::Kind;
@@ -34,17 +35,17 @@ std::string endingOf(const std::string& file) {
 }
 
 /// The form that the file's ending names; nothing where the document is to be written as it is.
-std::optional<Form> formOfFile(const Typed& typed, Kind kind) {
+std::optional<Form> formOfFile(const Typed& typed, const Entry& document) {
   const std::string ending = endingOf(typed.file);
   if (ending.empty() || isStandardOutput(typed.file)) {
     return std::nullopt;
   }
   const std::optional<Form> form = documents::formOf(ending);
   // A text may stand in a file of any name; a picture under a strange one is opened by nothing.
-  const bool isKnown = form || kind == Kind::chart;
-  if (isKnown && !(form && documents::canBe(kind, *form))) {
+  const bool isKnown = form || document.kind == Kind::chart;
+  if (isKnown && !(form && documents::canBe(document, *form))) {
     words::refuse("-o", typed.file,
-                  "a name that ends in " + documents::acceptedExtensions(kind, ".") + " for " +
+                  "a name that ends in " + documents::acceptedExtensions(document, ".") + " for " +
                       typed.command);
   }
   return form;
@@ -72,15 +73,15 @@ std::vector<Form> listedForms(const std::string& list) {
   return forms;
 }
 
-Form formOfOne(const Typed& typed, Kind kind) {
-  const std::optional<Form> ofFile = formOfFile(typed, kind);
+Form formOfOne(const Typed& typed, const Entry& document) {
+  const std::optional<Form> ofFile = formOfFile(typed, document);
   if (typed.formats.empty()) {
-    return ofFile.value_or(documents::ownForm(kind));
+    return ofFile.value_or(documents::ownForm(document.kind));
   }
   const std::vector<Form> listed = listedForms(typed.formats);
-  if (listed.size() > 1 || !documents::canBe(kind, listed.front())) {
+  if (listed.size() > 1 || !documents::canBe(document, listed.front())) {
     words::refuse("--format", typed.formats,
-                  "one of " + documents::acceptedExtensions(kind) + " for " + typed.command);
+                  "one of " + documents::acceptedExtensions(document) + " for " + typed.command);
   }
   if (ofFile && *ofFile != listed.front()) {
     throw words::UsageError("--format " + words::inQuotes(typed.formats) + " and -o " +
@@ -92,10 +93,14 @@ Form formOfOne(const Typed& typed, Kind kind) {
 }  // namespace
 
 std::vector<Form> askedForms(const Typed& typed, Kind kind) {
+  return askedForms(typed, Entry{.kind = kind});
+}
+
+std::vector<Form> askedForms(const Typed& typed, const Entry& document) {
   if (typed.command == "all" || typed.command == "batch") {
     return typed.formats.empty() ? std::vector{Form::svg, Form::text} : listedForms(typed.formats);
   }
-  const Form form = formOfOne(typed, kind);
+  const Form form = formOfOne(typed, document);
   const FormEntry& entry = documents::formEntry(form);
   if (!entry.isText && isStandardOutput(typed.file) && isatty(STDOUT_FILENO) == 1) {
     throw words::UsageError("a " + std::string(entry.name) +

@@ -8,11 +8,13 @@
 
 namespace veyruna::cli {
 
-/// The forms in which a command is to write, in their order. For one document of that kind a single
+/// The forms in which a command is to write, in their order. For one document a single
 /// one: what --format says, else what the file's ending says, else its own text, which a table or
 /// list is under any other ending, too. For `all` and `batch` those of --format, else every
 /// document's own text. Throws UsageError where a document is given a form it cannot have, and
 /// where a picture's bytes would go to a terminal.
+std::vector<documents::Form> askedForms(const Typed& typed, const documents::Entry& document);
+/// The same for what is no document of the table.
 std::vector<documents::Form> askedForms(const Typed& typed, documents::Kind kind);
 
 /// How many pixels wide a PNG is to be; 0 where that was left open. Throws UsageError, also where

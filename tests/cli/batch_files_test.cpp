@@ -118,7 +118,7 @@ TEST_F(BatchFiles, AreDrawnAsTheSingleCommandsDraw) {
   }
   expectAllWritten(batch(rows, {"--documents", "star-map,horoscope,hourly", "--format",
                                 "pdf,png,html,csv,json", "--size", "300"}));
-  ASSERT_EQ(written().size(), 8U * 10U);
+  ASSERT_EQ(written().size(), 8U * 12U);
   for (const std::string& file : written()) {
     const std::string command = has(file, "Star Map")    ? "star-map"
                                 : has(file, "Horoscope") ? "horoscope"

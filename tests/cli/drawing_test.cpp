@@ -73,7 +73,7 @@ TEST_F(Drawing, EveryDocumentInEveryFormItCanHave) {
       }
       const std::string command(document.command);
       const std::string file = "document." + std::string(form.extension);
-      if (documents::canBe(document.kind, form.form)) {
+      if (documents::canBe(document, form.form)) {
         const std::string content = written(command, file);
         if (form.form == documents::ownForm(document.kind)) {
           EXPECT_TRUE(content == runWith({command}).out) << command << ' ' << file;
@@ -166,7 +166,7 @@ TEST_F(Drawing, AllWritesTheFormsThatWereListed) {
   std::string listed;
   for (const Entry& document : documents::allDocuments) {
     for (const Form form : {Form::text, Form::html, Form::png}) {
-      if (!document.fileName.empty() && documents::canBe(document.kind, form)) {
+      if (!document.fileName.empty() && documents::canBe(document, form)) {
         const std::string stem(document.fileName.substr(0, document.fileName.find('.')));
         expected.push_back(stem + "." + std::string(documents::formEntry(form).extension));
         listed += "some/" + expected.back() + "\n";

@@ -29,11 +29,15 @@ TEST(Forms, AreFoundByTheirExtensionInAnyLetterCase) {
 }
 
 TEST(Forms, AreThoseThatADocumentCanHave) {
-  EXPECT_EQ(documents::acceptedExtensions(Kind::chart, "."), ".svg, .html, .pdf or .png");
-  EXPECT_EQ(documents::acceptedExtensions(Kind::table), "txt, html, pdf, json, jsonl or csv");
-  EXPECT_EQ(documents::acceptedExtensions(Kind::list), "txt, html, pdf, json, jsonl or csv");
-  EXPECT_EQ(documents::acceptedExtensions(Kind::log), "txt, json, jsonl or csv");
-  EXPECT_EQ(documents::acceptedExtensions(Kind::label), "txt");
+  EXPECT_EQ(documents::acceptedExtensions({.kind = Kind::chart}, "."), ".svg, .html, .pdf or .png");
+  EXPECT_EQ(documents::acceptedExtensions({.kind = Kind::table}),
+            "txt, html, pdf, json, jsonl or csv");
+  EXPECT_EQ(documents::acceptedExtensions({.kind = Kind::list}),
+            "txt, html, pdf, json, jsonl or csv");
+  EXPECT_EQ(documents::acceptedExtensions({.kind = Kind::log}), "txt, json, jsonl or csv");
+  EXPECT_EQ(documents::acceptedExtensions(documents::entryOf(documents::Document::horoscope)),
+            "svg, html, pdf, png, json, jsonl or csv");
+  EXPECT_EQ(documents::acceptedExtensions({.kind = Kind::label}), "txt");
   for (const Kind kind : {Kind::chart, Kind::table, Kind::list, Kind::label, Kind::log}) {
     EXPECT_TRUE(canBe(kind, documents::ownForm(kind)));
     EXPECT_TRUE(documents::formEntry(documents::ownForm(kind)).isAsItIs);

@@ -89,7 +89,7 @@ test("at most so many answers of a search", () => {
 test("the values of documents", () => {
   const sky = { moment: "720-06-12T22:30", ...place };
   const options = ["--month", "6", "--day", "12", "--hour", "22:30", ...placeOptions];
-  for (const name of ["positions", "moment", "hourly", "monthly", "daily", "yearly"]) {
+  for (const name of ["positions", "moment", "hourly", "monthly", "daily", "yearly", "horoscope"]) {
     const theirs = JSON.parse(written([...options, name, "--format", "json"]));
     assertSame(valueOf(veyruna.record(name, sky)), theirs);
   }
