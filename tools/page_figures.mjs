@@ -68,7 +68,11 @@ const sideOf = (page, chart) =>
 async function printFrames(browser, tab, chart, view, side) {
   const page = await browser.open(address, view);
   await (await page.select(`#tab-${chart}`)).press();
-  await page.until(`the ${tab} is there`, (chart) => document.querySelector(`#${chart} svg.sheet *`), chart);
+  await page.until(
+    `the ${tab} is there`,
+    (chart) => document.querySelector(`#${chart} svg.sheet *`),
+    chart,
+  );
   if (side) await page.see({ ...view, height: view.height + side - (await sideOf(page, chart)) });
   await page.painted();
   await (await page.find("button", "Play")).press();
@@ -88,11 +92,20 @@ const phone = { width: 390, height: 844, scale: 2, touch: true };
 const desk = { width: 1600, height: 900 };
 const browser = await Chromium.start();
 try {
-  for (const [name, view] of [["phone", phone], ["desk", desk]]) {
+  for (const [name, view] of [
+    ["phone", phone],
+    ["desk", desk],
+  ]) {
     const times = [];
     for (let run = 0; run < Number(runs); ++run) times.push(await start(browser, view));
-    const median = (what) => atPart(times.map((time) => time[what]), 0.5).toFixed(0);
-    console.log(`${name}, first chart in the document after ${median("there")} ms, painted after ${median("painted")} ms`);
+    const median = (what) =>
+      atPart(
+        times.map((time) => time[what]),
+        0.5,
+      ).toFixed(0);
+    console.log(
+      `${name}, first chart in the document after ${median("there")} ms, painted after ${median("painted")} ms`,
+    );
   }
   for (const [view, side] of [[phone], [desk, 800]]) {
     await printFrames(browser, "Star map", "star-map", view, side);

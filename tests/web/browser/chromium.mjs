@@ -69,7 +69,8 @@ export class Chromium {
       });
     });
     process.on("exit", this.#cleanUp);
-    for (const signal of ["SIGINT", "SIGTERM", "SIGHUP"]) process.once(signal, () => process.exit(1));
+    for (const signal of ["SIGINT", "SIGTERM", "SIGHUP"])
+      process.once(signal, () => process.exit(1));
   }
 
   get profile() {

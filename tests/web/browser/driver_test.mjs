@@ -37,7 +37,14 @@ describe("the driver", () => {
 
   for (const [what, fault, words] of [
     ["a message", () => console.warn("so", 1), /console\.warning: so 1/],
-    ["an error", () => void setTimeout(() => { throw new Error("broken"); }), /broken/],
+    [
+      "an error",
+      () =>
+        void setTimeout(() => {
+          throw new Error("broken");
+        }),
+      /broken/,
+    ],
     ["a promise that fails", () => void Promise.reject(new Error("unkept")), /unkept/],
     ["a request", () => void fetch("http://127.0.0.1:9/away").catch(() => {}), /connect-src/],
     ["a picture", () => void (new Image().src = "http://127.0.0.1:9/picture.png"), /img-src/],
@@ -62,7 +69,14 @@ describe("the driver", () => {
       still: matchMedia("(prefers-reduced-motion: reduce)").matches,
       touch: matchMedia("(pointer: coarse)").matches,
     }));
-    assert.deepEqual(seen, { width: 390, height: 844, scale: 2, dark: true, still: true, touch: true });
+    assert.deepEqual(seen, {
+      width: 390,
+      height: 844,
+      scale: 2,
+      dark: true,
+      still: true,
+      touch: true,
+    });
     const png = await page.picture();
     assert.deepEqual([png.readUInt32BE(16), png.readUInt32BE(20)], [780, 1688]);
   });

@@ -89,7 +89,14 @@ export class Hands {
   }
 
   #touch(type, places) {
-    const touchPoints = places.map(({ x, y }, id) => ({ x, y, id, radiusX: 8, radiusY: 8, force: 1 }));
+    const touchPoints = places.map(({ x, y }, id) => ({
+      x,
+      y,
+      id,
+      radiusX: 8,
+      radiusY: 8,
+      force: 1,
+    }));
     return this.#page.send("Input.dispatchTouchEvent", { type, touchPoints });
   }
 
@@ -115,7 +122,9 @@ export class Hands {
   async #fingers(from, to, meanwhile) {
     await this.#touch("touchStart", from);
     for (let step = 1; step <= stepsOfMovement; ++step) {
-      const places = from.map((place, finger) => between(place, to[finger], step / stepsOfMovement));
+      const places = from.map((place, finger) =>
+        between(place, to[finger], step / stepsOfMovement),
+      );
       await this.#touch("touchMove", places);
     }
     await meanwhile();

@@ -12,7 +12,14 @@ import { Watch } from "./watch.mjs";
 
 /** A view is {width, height} in CSS pixels, and where they are not the usual: scale (1), touch (false),
     dark, still (less motion is wished for), forcedColours, paper (as it would be printed): all false. */
-const usualView = { scale: 1, touch: false, dark: false, still: false, forcedColours: false, paper: false };
+const usualView = {
+  scale: 1,
+  touch: false,
+  dark: false,
+  still: false,
+  forcedColours: false,
+  paper: false,
+};
 
 export class Page {
   #connection;
@@ -204,6 +211,8 @@ export class Page {
   async close() {
     this.#stopListening();
     await this.#connection.send("Target.closeTarget", { targetId: this.#target });
-    await this.#connection.send("Target.disposeBrowserContext", { browserContextId: this.#context });
+    await this.#connection.send("Target.disposeBrowserContext", {
+      browserContextId: this.#context,
+    });
   }
 }

@@ -30,7 +30,10 @@ pageTests("the page is accessible", (test) => {
       assert.equal(await faultsOf(page), "");
       await (await page.find("textbox", "Latitude")).write("north");
       await page.hands.key("Enter");
-      await page.until("the error is told", () => !document.querySelector("#latitude-error").hidden);
+      await page.until(
+        "the error is told",
+        () => !document.querySelector("#latitude-error").hidden,
+      );
       assert.equal(await faultsOf(page), "");
     });
 
@@ -42,7 +45,10 @@ pageTests("the page is accessible", (test) => {
       await (await page.select("#star-map")).focus();
       await page.hands.key("+");
       await page.hands.key("ArrowRight");
-      await page.until("a mark answers", () => !document.querySelector("#star-map-read-out").hidden);
+      await page.until(
+        "a mark answers",
+        () => !document.querySelector("#star-map-read-out").hidden,
+      );
       assert.equal(await faultsOf(page), "");
     });
   }

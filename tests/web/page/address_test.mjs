@@ -4,8 +4,11 @@ import assert from "node:assert/strict";
 
 import { addressOf, desk, evening, pageTests, phone, textOf } from "./sky_page.mjs";
 
-const shown = async (page) =>
-  [await textOf(page, "#shown-date"), (await textOf(page, "#shown-clock")).slice(0, 5), await textOf(page, "#shown-place")];
+const shown = async (page) => [
+  await textOf(page, "#shown-date"),
+  (await textOf(page, "#shown-clock")).slice(0, 5),
+  await textOf(page, "#shown-place"),
+];
 
 const notice = (page) =>
   page.until("the page says so", () => {
@@ -38,9 +41,15 @@ pageTests("the address", (test) => {
   test("is followed when it changes, and by going back", async (open) => {
     const page = await open(desk);
     await page.evaluate(() => void (location.hash = "#721-01-02T03:04;10N,20E"));
-    await page.until("it is followed", () => document.querySelector("#shown-clock").textContent.slice(0, 5) === "03:04");
+    await page.until(
+      "it is followed",
+      () => document.querySelector("#shown-clock").textContent.slice(0, 5) === "03:04",
+    );
     await page.evaluate(() => history.back());
-    await page.until("it goes back", () => document.querySelector("#shown-clock").textContent.slice(0, 5) === "22:30");
+    await page.until(
+      "it goes back",
+      () => document.querySelector("#shown-clock").textContent.slice(0, 5) === "22:30",
+    );
     assert.equal(`#${await addressOf(page)}`, evening);
   });
 
@@ -72,7 +81,11 @@ pageTests("the address", (test) => {
       const told = await notice(page);
       assert.match(told, /address/i);
       assert.deepEqual(await shown(page), before);
-      await page.until("the address is that of the sky", (evening) => location.hash === evening, evening);
+      await page.until(
+        "the address is that of the sky",
+        (evening) => location.hash === evening,
+        evening,
+      );
     });
 
     test(`opens all the same at "${nonsense}"`, async (open) => {

@@ -18,7 +18,11 @@ export async function axeFaults(page) {
   const { view } = page;
   const hidden = await page.evaluate(() =>
     [...document.querySelectorAll("*")]
-      .filter((one) => ["auto", "scroll"].includes(getComputedStyle(one).overflowY) || one === document.scrollingElement)
+      .filter(
+        (one) =>
+          ["auto", "scroll"].includes(getComputedStyle(one).overflowY) ||
+          one === document.scrollingElement,
+      )
       .map((one) => one.scrollHeight - one.clientHeight)
       .reduce((sum, one) => sum + one, 0),
   );
@@ -39,14 +43,20 @@ export async function contrastFaults(page) {
 async function faultsIn(page) {
   source ??= readFileSync(path, "utf8");
   // Not a script of the page: its content policy would not let one in.
-  if (!(await page.evaluate(() => "axe" in globalThis))) await page.evaluateText(`${source};undefined`);
+  if (!(await page.evaluate(() => "axe" in globalThis)))
+    await page.evaluateText(`${source};undefined`);
   return page.evaluate(async (excluded) => {
     const rules = {};
     for (const { ruleId } of axe.getRules()) rules[ruleId] = { enabled: !(ruleId in excluded) };
     const { violations, passes } = await axe.run(document, { rules, resultTypes: ["violations"] });
     const faults = violations.flatMap(({ id, help, nodes }) =>
-      nodes.map(({ target, failureSummary }) => `${id} (${help}): ${target} ${failureSummary.replace(/\s+/g, " ")}`),
+      nodes.map(
+        ({ target, failureSummary }) =>
+          `${id} (${help}): ${target} ${failureSummary.replace(/\s+/g, " ")}`,
+      ),
     );
-    return passes.length > 10 ? faults : [...faults, `only ${passes.length} rules had something to judge`];
+    return passes.length > 10
+      ? faults
+      : [...faults, `only ${passes.length} rules had something to judge`];
   }, excluded);
 }

@@ -13,19 +13,26 @@ const sample = new URL("../browser/sample.html", import.meta.url).href;
 const view = { width: 390, height: 844 };
 
 /** Adds elements to the page. */
-const add = (html) => `() => void document.querySelector("main").insertAdjacentHTML("beforeend", ${JSON.stringify(html)})`;
+const add = (html) =>
+  `() => void document.querySelector("main").insertAdjacentHTML("beforeend", ${JSON.stringify(html)})`;
 /** Adds rules to its style. */
 const style = (css) => `() => void document.querySelector("style").append(${JSON.stringify(css)})`;
 
 const layoutBreaks = {
   "the document is": add(`<div style="width: 500px; height: 9px"></div>`),
   "reaches from": add(`<p style="position: fixed; left: -60px; top: 0">aside</p>`),
-  "is cut at its side": add(`<p style="width: 40px; overflow: hidden; white-space: nowrap">much too long</p>`),
+  "is cut at its side": add(
+    `<p style="width: 40px; overflow: hidden; white-space: nowrap">much too long</p>`,
+  ),
   "is cut below": add(`<p style="height: 9px; overflow: hidden">two<br>lines</p>`),
   "does not show all of": add(`<input value="more than fits in it" style="width: 40px">`),
-  'does not show all of "ten minutes"': add(`<select style="width: 60px"><option>ten minutes</option></select>`),
-  'is broken': add(`<p style="width: 40px; overflow-wrap: anywhere">horoscope</p>`),
-  "letters are wider than its box": add(`<button style="width: 20px; white-space: nowrap">wide</button>`),
+  'does not show all of "ten minutes"': add(
+    `<select style="width: 60px"><option>ten minutes</option></select>`,
+  ),
+  "is broken": add(`<p style="width: 40px; overflow-wrap: anywhere">horoscope</p>`),
+  "letters are wider than its box": add(
+    `<button style="width: 20px; white-space: nowrap">wide</button>`,
+  ),
   "lies under": add(`<div style="position: fixed; inset: 0"></div>`),
 };
 
@@ -43,8 +50,10 @@ const walkBreaks = {
       if (event.key === "Tab") event.preventDefault(), document.querySelector("#pressed").focus();
     });
   }`,
-  "<button #save> \"Save\" has the focus where it is not seen": style("#save { position: fixed; left: -900px; }"),
-  "<button #pressed> \"Press\" has the focus where it is not seen": add(
+  '<button #save> "Save" has the focus where it is not seen': style(
+    "#save { position: fixed; left: -900px; }",
+  ),
+  '<button #pressed> "Press" has the focus where it is not seen': add(
     `<div style="position: fixed; inset: 0; background: white"></div>`,
   ),
 };
@@ -77,7 +86,10 @@ describe("what judges the page", () => {
         const page = await browser.open(sample, view);
         await page.evaluate(harm);
         const faults = await judge(page);
-        assert.ok(faults.some((line) => line.includes(fault)), `found: ${faults.join("; ") || "nothing"}`);
+        assert.ok(
+          faults.some((line) => line.includes(fault)),
+          `found: ${faults.join("; ") || "nothing"}`,
+        );
       });
     }
   }
@@ -88,8 +100,15 @@ describe("what judges the page", () => {
     assert.equal(clean.pages, 1);
     assert.match(clean.text, /Sample/);
     assert.ok(!clean.ink[0].atEdge && clean.ink[0].share > 0 && clean.ink[0].share < 0.05);
-    await page.evaluate(style("@page { margin: 0; } body { background: black; print-color-adjust: exact; height: 300vh; }"));
+    await page.evaluate(
+      style(
+        "@page { margin: 0; } body { background: black; print-color-adjust: exact; height: 300vh; }",
+      ),
+    );
     const dark = readPaper(await page.print(papers.Letter));
-    assert.ok(dark.pages > 1 && dark.ink[0].atEdge && dark.ink[0].share > 0.5, JSON.stringify(dark));
+    assert.ok(
+      dark.pages > 1 && dark.ink[0].atEdge && dark.ink[0].share > 0.5,
+      JSON.stringify(dark),
+    );
   });
 });

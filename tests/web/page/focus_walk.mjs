@@ -16,13 +16,20 @@ function atFocus() {
     const x = (Math.max(left, 0) + Math.min(right, innerWidth)) / 2;
     const y = (Math.max(top, 0) + Math.min(bottom, innerHeight)) / 2;
     const met = document.elementFromPoint(x, y);
-    return right > 0 && bottom > 0 && left < innerWidth && top < innerHeight &&
-      met !== null && (element.contains(met) || met.closest("label")?.control === element);
+    return (
+      right > 0 &&
+      bottom > 0 &&
+      left < innerWidth &&
+      top < innerHeight &&
+      met !== null &&
+      (element.contains(met) || met.closest("label")?.control === element)
+    );
   };
   return {
     number: walked.get(element),
     name: `<${element.localName} ${element.id ? `#${element.id}` : element.className}> "${
-      element.getAttribute("aria-label") ?? element.textContent.trim().replace(/\s+/g, " ").slice(0, 30)
+      element.getAttribute("aria-label") ??
+      element.textContent.trim().replace(/\s+/g, " ").slice(0, 30)
     }"`,
     seen: outlined || style.boxShadow !== "none",
     inView: isSeen(box),
@@ -36,7 +43,8 @@ function missedByWalk() {
   const groups = new Set();
   const missed = [];
   for (const element of document.querySelectorAll(controls)) {
-    if (element.matches(":disabled, [tabindex='-1'], [inert] *") || element.type === "hidden") continue;
+    if (element.matches(":disabled, [tabindex='-1'], [inert] *") || element.type === "hidden")
+      continue;
     if (!element.checkVisibility({ visibilityProperty: true })) continue;
     // Of a group of radio buttons Tab meets the chosen one; arrows do the rest.
     const group = element.type === "radio" && element.name;
@@ -52,15 +60,18 @@ function missedByWalk() {
 
 /** Walks until the page is left at its end. `back` with Shift. Gives {steps, faults}. */
 export async function walk(page, { back = false } = {}) {
-  await page.evaluate((where) => {
-    delete globalThis.walked;
-    // A walk begins where the focus was lost.
-    const begin = document.createElement("span");
-    begin.tabIndex = -1;
-    document.body[where](begin);
-    begin.focus();
-    begin.remove();
-  }, back ? "append" : "prepend");
+  await page.evaluate(
+    (where) => {
+      delete globalThis.walked;
+      // A walk begins where the focus was lost.
+      const begin = document.createElement("span");
+      begin.tabIndex = -1;
+      document.body[where](begin);
+      begin.focus();
+      begin.remove();
+    },
+    back ? "append" : "prepend",
+  );
   const steps = [];
   const faults = [];
   const all = await page.evaluate(() => document.querySelectorAll("*").length);
@@ -77,6 +88,7 @@ export async function walk(page, { back = false } = {}) {
     steps.push(at.name);
     if (steps.length > all) throw new Error("Tab does not come to an end");
   }
-  for (const missed of await page.evaluate(missedByWalk)) faults.push(`Tab does not come by ${missed}`);
+  for (const missed of await page.evaluate(missedByWalk))
+    faults.push(`Tab does not come by ${missed}`);
   return { steps, faults };
 }

@@ -50,7 +50,9 @@ pageTests("the keyboard", (test) => {
     await page.until("the sky has the focus", () => document.activeElement.id === "views");
     // The address belongs to the sky, also when a link within the page is followed.
     await page.painted();
-    await page.until("the address is the sky's", () => location.hash.startsWith("#720-06-12T22:30;"));
+    await page.until("the address is the sky's", () =>
+      location.hash.startsWith("#720-06-12T22:30;"),
+    );
     assert.ok(await page.evaluate(() => document.querySelector("#notice").hidden));
   });
 
@@ -58,9 +60,12 @@ pageTests("the keyboard", (test) => {
     const page = await open(phone);
     await (await page.select("#open-inputs")).focus();
     await page.hands.key("Enter");
-    const isOpen = () => document.querySelector("#year").checkVisibility({ visibilityProperty: true });
+    const isOpen = () =>
+      document.querySelector("#year").checkVisibility({ visibilityProperty: true });
     await page.until("the sheet is open", isOpen);
-    await page.until("the focus is in it", () => document.querySelector("#inputs").contains(document.activeElement));
+    await page.until("the focus is in it", () =>
+      document.querySelector("#inputs").contains(document.activeElement),
+    );
     await page.hands.key("Escape");
     await page.until("it is closed", `() => !(${isOpen})()`);
     await page.until("the focus is back", () => document.activeElement.id === "open-inputs");

@@ -5,7 +5,9 @@
 function faultsOfLayout() {
   const faults = [];
   const words = (element) => {
-    const name = element.id ? `#${element.id}` : `${element.className?.baseVal ?? element.className}`;
+    const name = element.id
+      ? `#${element.id}`
+      : `${element.className?.baseVal ?? element.className}`;
     const text = (element.textContent ?? "").trim().replace(/\s+/g, " ").slice(0, 40);
     return `<${element.localName} ${name}> "${text}"`;
   };
@@ -19,7 +21,8 @@ function faultsOfLayout() {
     for (let at = element; at; at = at.parentElement) {
       const { width, height } = at.getBoundingClientRect();
       const style = getComputedStyle(at);
-      const hides = style.clipPath !== "none" || style.clip !== "auto" || style.overflow !== "visible";
+      const hides =
+        style.clipPath !== "none" || style.clip !== "auto" || style.overflow !== "visible";
       if (hides && width <= 1 && height <= 1) return true;
     }
     return false;
@@ -45,7 +48,9 @@ function faultsOfLayout() {
     const style = getComputedStyle(element);
     const sticksOut = box.left < -0.5 || box.right > root.clientWidth + 0.5;
     if (sticksOut && box.width > 0 && !scrolledAside(element)) {
-      faults.push(`${words(element)} reaches from ${box.left} to ${box.right} of ${root.clientWidth}`);
+      faults.push(
+        `${words(element)} reaches from ${box.left} to ${box.right} of ${root.clientWidth}`,
+      );
     }
     if (element.localName === "svg" || element.closest("svg")) continue;
     // A field scrolls what is typed into it.
@@ -53,8 +58,10 @@ function faultsOfLayout() {
     const cut = (axis, inner, outer) =>
       ["hidden", "clip"].includes(style[`overflow${axis}`]) && inner > outer + 1;
     if (!field && element.textContent.trim() !== "") {
-      if (cut("X", element.scrollWidth, element.clientWidth)) faults.push(`${words(element)} is cut at its side`);
-      if (cut("Y", element.scrollHeight, element.clientHeight)) faults.push(`${words(element)} is cut below`);
+      if (cut("X", element.scrollWidth, element.clientWidth))
+        faults.push(`${words(element)} is cut at its side`);
+      if (cut("Y", element.scrollHeight, element.clientHeight))
+        faults.push(`${words(element)} is cut below`);
     }
     if (field && element.value !== "" && element.scrollWidth > element.clientWidth + 1) {
       faults.push(`${words(element)} does not show all of "${element.value}"`);
@@ -62,8 +69,14 @@ function faultsOfLayout() {
     if (element.localName === "select") {
       const measure = document.createElement("canvas").getContext("2d");
       measure.font = `${style.fontWeight} ${style.fontSize} ${style.fontFamily}`;
-      const room = element.clientWidth - parseFloat(style.paddingLeft) - parseFloat(style.paddingRight) - arrow;
-      const tooLong = [...element.options].find(({ text }) => measure.measureText(text).width > room);
+      const room =
+        element.clientWidth -
+        parseFloat(style.paddingLeft) -
+        parseFloat(style.paddingRight) -
+        arrow;
+      const tooLong = [...element.options].find(
+        ({ text }) => measure.measureText(text).width > room,
+      );
       if (tooLong) faults.push(`<select #${element.id}> does not show all of "${tooLong.text}"`);
     }
   }
@@ -86,7 +99,11 @@ function faultsOfLayout() {
 
   // Letters that run out of the box of their own element are over or under something else.
   for (const element of all) {
-    if (element.localName === "svg" || !element.matches("button, a, label, th, td, dt, dd, legend, summary")) continue;
+    if (
+      element.localName === "svg" ||
+      !element.matches("button, a, label, th, td, dt, dd, legend, summary")
+    )
+      continue;
     if (scrolledAside(element)) continue;
     const letters = lettersOf(element);
     const box = element.getBoundingClientRect();
@@ -113,15 +130,22 @@ function faultsOfLayout() {
 
   // Each control must be what a finger meets in its middle, once scrolled to.
   const controls = "a[href], button, input, select, textarea, summary, [role=tab], [role=button]";
-  const scrolled = [...document.querySelectorAll("*")].map((one) => [one, one.scrollLeft, one.scrollTop]);
+  const scrolled = [...document.querySelectorAll("*")].map((one) => [
+    one,
+    one.scrollLeft,
+    one.scrollTop,
+  ]);
   for (const element of all.filter((one) => one.matches(controls) && !one.disabled)) {
     element.scrollIntoView({ block: "center", inline: "center", behavior: "instant" });
     // A way round that comes into view with the focus.
     if (element.getBoundingClientRect().bottom <= 0) element.focus();
     const [box] = element.getClientRects();
     const met = document.elementFromPoint(box.left + box.width / 2, box.top + box.height / 2);
-    const own = met && (element.contains(met) || met.contains(element) || met.closest("label")?.control === element);
-    if (!own) faults.push(`${words(element)} lies under ${met ? words(met) : "nothing that is seen"}`);
+    const own =
+      met &&
+      (element.contains(met) || met.contains(element) || met.closest("label")?.control === element);
+    if (!own)
+      faults.push(`${words(element)} lies under ${met ? words(met) : "nothing that is seen"}`);
     else if (met !== element && met.contains(element) && met.localName !== "label") {
       const reachable = getComputedStyle(element).pointerEvents !== "none";
       if (reachable) faults.push(`${words(element)} lies under ${words(met)}`);
@@ -129,7 +153,8 @@ function faultsOfLayout() {
   }
   document.activeElement?.blur();
   for (const [one, left, top] of scrolled) {
-    if (one.scrollLeft !== left || one.scrollTop !== top) one.scrollTo({ left, top, behavior: "instant" });
+    if (one.scrollLeft !== left || one.scrollTop !== top)
+      one.scrollTo({ left, top, behavior: "instant" });
   }
   return faults;
 }

@@ -40,10 +40,19 @@ const waysOut = {
   stylesheet: (url) =>
     new Promise((done) => {
       const link = document.createElement("link");
-      Object.assign(link, { rel: "stylesheet", href: url, onerror: () => done(), onload: () => done() });
+      Object.assign(link, {
+        rel: "stylesheet",
+        href: url,
+        onerror: () => done(),
+        onload: () => done(),
+      });
       document.head.append(link);
     }),
-  font: (url) => new FontFace("away", `url(${url})`).load().then(() => {}, () => {}),
+  font: (url) =>
+    new FontFace("away", `url(${url})`).load().then(
+      () => {},
+      () => {},
+    ),
   form: (url) => {
     const form = document.createElement("form");
     Object.assign(form, { action: url, method: "post", target: "_self" });
@@ -77,7 +86,10 @@ pageTests("the page in one file", (test) => {
     const addresses = text.match(/\bhttps?:\/\/[^\s"'<>)\\]+/g) ?? [];
     // Names of the two languages it is written in; nothing is there to be fetched.
     const names = ["http://www.w3.org/2000/svg", "http://www.w3.org/1999/xlink"];
-    assert.deepEqual(addresses.filter((address) => !names.includes(address)), []);
+    assert.deepEqual(
+      addresses.filter((address) => !names.includes(address)),
+      [],
+    );
   });
 
   test("may reach out in no way, also if something in it tried", async (open) => {

@@ -7,7 +7,9 @@ import { desk, pageTests } from "./sky_page.mjs";
 /** How bright the page's ground is, from 0 to 1. */
 const brightness = (page) =>
   page.evaluate(() => {
-    const [red, green, blue] = getComputedStyle(document.body).backgroundColor.match(/[\d.]+/g).map(Number);
+    const [red, green, blue] = getComputedStyle(document.body)
+      .backgroundColor.match(/[\d.]+/g)
+      .map(Number);
     return (0.2126 * red + 0.7152 * green + 0.0722 * blue) / 255;
   });
 

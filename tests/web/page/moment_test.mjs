@@ -62,8 +62,15 @@ pageTests("the moment", (test) => {
     const clock = () => page.evaluate(() => document.querySelector("#clock").value);
     assert.equal(await clock(), "22:30");
     await (await page.find("checkbox", /Clock and date of the place/)).press();
-    await page.until("the clock is another", () => document.querySelector("#clock").value !== "22:30");
-    const { local } = (await engine()).moment({ moment: "720-06-12T22:30", lat: "40.5N", long: "20.9W" }).value;
+    await page.until(
+      "the clock is another",
+      () => document.querySelector("#clock").value !== "22:30",
+    );
+    const { local } = (await engine()).moment({
+      moment: "720-06-12T22:30",
+      lat: "40.5N",
+      long: "20.9W",
+    }).value;
     assert.equal(`720-06-12T${await clock()}`, local.date);
     assert.equal(await addressOf(page), "720-06-12T22:30;40.5N,20.9W");
   });
@@ -91,9 +98,15 @@ pageTests("the moment", (test) => {
       assert.match(error, quoted);
       assert.equal(await field.evaluate((input) => input.getAttribute("aria-invalid")), "true");
       assert.equal(await addressOf(page), "720-06-12T22:30;40.5N,20.9W");
-      assert.equal(await page.evaluate(() => document.querySelector("#star-map").innerHTML), before);
+      assert.equal(
+        await page.evaluate(() => document.querySelector("#star-map").innerHTML),
+        before,
+      );
       await enter(page, "textbox", name, name === "Year" ? "721" : "23:30");
-      await page.until("the error is gone", () => !document.querySelector("#moment-error").checkVisibility());
+      await page.until(
+        "the error is gone",
+        () => !document.querySelector("#moment-error").checkVisibility(),
+      );
     });
   }
 });

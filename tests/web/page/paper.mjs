@@ -7,7 +7,8 @@ export const papers = {
   Letter: { width: 8.5, height: 11 },
 };
 
-const read = (pdf, program, ...options) => execFileSync(program, options, { input: pdf, maxBuffer: 2 ** 28 });
+const read = (pdf, program, ...options) =>
+  execFileSync(program, options, { input: pdf, maxBuffer: 2 ** 28 });
 
 /** {pages, text, ink}: ink holds for each page the share of dark and coloured pixels, and whether some of it
     lies within five millimetres of an edge. */

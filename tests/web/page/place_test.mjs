@@ -50,7 +50,9 @@ pageTests("the place", (test) => {
           const [, place] = decodeURIComponent(location.hash).split(";");
           const [north, east] = place.split(",");
           const degrees = (text, minus) => parseFloat(text) * (text.endsWith(minus) ? -1 : 1);
-          return Math.abs(degrees(north, "S") - lat) < 1e-4 && Math.abs(degrees(east, "W") - long) < 1e-4;
+          return (
+            Math.abs(degrees(north, "S") - lat) < 1e-4 && Math.abs(degrees(east, "W") - long) < 1e-4
+          );
         },
         lat,
         long,
@@ -135,14 +137,19 @@ pageTests("the place", (test) => {
       const page = await open(size);
       await openInputs(page);
       const { places } = await engine();
-      await (await page.select("#map")).box();  // scrolled to
+      await (await page.select("#map")).box(); // scrolled to
       const ebb = places.findIndex(({ name }) => name === "Ebb");
       const at = await page.evaluate((ebb) => {
-        const { left, top, width, height } = document.querySelectorAll("#map .spot")[ebb].getBoundingClientRect();
+        const { left, top, width, height } = document
+          .querySelectorAll("#map .spot")
+          [ebb].getBoundingClientRect();
         return { x: left + width / 2 + 3, y: top + height / 2 - 3 };
       }, ebb);
       await (size.touch ? page.hands.tap(at.x, at.y) : page.hands.click(at.x, at.y));
-      await page.until("it is Ebb", () => document.querySelector("#shown-place").textContent === "Ebb");
+      await page.until(
+        "it is Ebb",
+        () => document.querySelector("#shown-place").textContent === "Ebb",
+      );
     });
   }
 
@@ -153,7 +160,11 @@ pageTests("the place", (test) => {
     const move = async (key, ...holding) => {
       const before = await addressOf(page);
       await page.hands.key(key, ...holding);
-      await page.until("it moves", (before) => decodeURIComponent(location.hash.slice(1)) !== before, before);
+      await page.until(
+        "it moves",
+        (before) => decodeURIComponent(location.hash.slice(1)) !== before,
+        before,
+      );
       return placeOf(page);
     };
     const north = await move("ArrowUp");

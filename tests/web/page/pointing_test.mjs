@@ -9,7 +9,9 @@ const reach = 25; // pixels from a mark at which it still answers
 
 async function marksOf(chart) {
   const { value } = (await engine()).marks(chart, sky);
-  return value.marks.filter(({ kind, dots, letters }) => kind !== "panel_line" && dots.length + letters.length > 0);
+  return value.marks.filter(
+    ({ kind, dots, letters }) => kind !== "panel_line" && dots.length + letters.length > 0,
+  );
 }
 
 /** The middle of what stands for a mark, in the chart's units. */
@@ -85,7 +87,10 @@ pageTests("pointing", (test) => {
         else covered.push(mark);
       }
       assert.equal(faults.join("\n"), "");
-      assert.ok(covered.length < marks.length / 2, `${covered.length} of ${marks.length} lie under others`);
+      assert.ok(
+        covered.length < marks.length / 2,
+        `${covered.length} of ${marks.length} lie under others`,
+      );
     });
   }
 
@@ -117,11 +122,16 @@ pageTests("pointing", (test) => {
   test("lets the card go when the pointer does", async (open) => {
     const marks = await marksOf("star-map");
     const page = await open(desk);
-    const [at] = await pixelsOf(page, "star-map", [middle(marks.find(({ kind }) => kind === "body"))]);
+    const [at] = await pixelsOf(page, "star-map", [
+      middle(marks.find(({ kind }) => kind === "body")),
+    ]);
     await page.hands.point(at.x, at.y);
     assert.notDeepEqual(await answer(page, "star-map"), []);
     await page.hands.point(5, 5);
-    await page.until("the card is gone", () => !document.querySelector("#star-map-read-out").checkVisibility());
+    await page.until(
+      "the card is gone",
+      () => !document.querySelector("#star-map-read-out").checkVisibility(),
+    );
   });
 
   for (const [tab, chart] of [

@@ -16,7 +16,9 @@ pageTests("Save SVG", (test) => {
         const { value } = (await engine()).document(document, sky);
         const page = await open({ ...size, dark: true });
         await show(page, tab);
-        const saved = await page.download(async () => (await page.find("button", "Save SVG")).press());
+        const saved = await page.download(async () =>
+          (await page.find("button", "Save SVG")).press(),
+        );
         assert.match(saved.name, /^[^/]+\.svg$/);
         assert.equal(saved.bytes.toString("utf8"), value);
       });

@@ -23,7 +23,8 @@ async function session(more) {
   };
 }
 
-const momentOf = (page) => page.evaluate(() => decodeURIComponent(location.hash).slice(1).split(";")[0]);
+const momentOf = (page) =>
+  page.evaluate(() => decodeURIComponent(location.hash).slice(1).split(";")[0]);
 
 const becomes = (page, moment) =>
   page.until(
@@ -67,7 +68,10 @@ pageTests("a session", (test) => {
     });
 
     test(`is not left by changing the address to one that is ${what}`, async (open) => {
-      const page = await open(desk, { hash: "#720-06-12T20:00;13.4N,8.8E", session: await session() });
+      const page = await open(desk, {
+        hash: "#720-06-12T20:00;13.4N,8.8E",
+        session: await session(),
+      });
       await becomes(page, "720-06-12T20:00");
       await page.evaluate((hash) => void (location.hash = hash), hash);
       await becomes(page, moment);
@@ -76,7 +80,10 @@ pageTests("a session", (test) => {
   }
 
   test("is not left by typing", async (open) => {
-    const page = await open(phone, { hash: "#720-06-12T20:00;13.4N,8.8E", session: await session() });
+    const page = await open(phone, {
+      hash: "#720-06-12T20:00;13.4N,8.8E",
+      session: await session(),
+    });
     await openInputs(page);
     await (await page.find("textbox", "Year")).write("721");
     await page.hands.key("Enter");
@@ -91,7 +98,10 @@ pageTests("a session", (test) => {
   });
 
   test("is not left by steps", async (open) => {
-    const page = await open(desk, { hash: "#720-06-13T01:30;13.4N,8.8E", session: await session() });
+    const page = await open(desk, {
+      hash: "#720-06-13T01:30;13.4N,8.8E",
+      session: await session(),
+    });
     for (const button of ["An hour later", "A day later", "A month later", "A year later"]) {
       await (await page.find("button", button)).press();
       await becomes(page, to);
@@ -109,12 +119,18 @@ pageTests("a session", (test) => {
     ["Play backwards", "#play-back", from],
   ]) {
     test(`is not left by "${button}", which ends at its bound`, async (open) => {
-      const page = await open(desk, { hash: "#720-06-12T22:00;13.4N,8.8E", session: await session() });
+      const page = await open(desk, {
+        hash: "#720-06-12T22:00;13.4N,8.8E",
+        session: await session(),
+      });
       await (await page.select("#pace")).focus();
       await page.hands.key("End");
       await (await page.find("button", button)).press();
       await until("it stops", () =>
-        page.evaluate((id) => document.querySelector(id).getAttribute("aria-pressed") === "false", pressed),
+        page.evaluate(
+          (id) => document.querySelector(id).getAttribute("aria-pressed") === "false",
+          pressed,
+        ),
       );
       await becomes(page, moment);
       await bounded(page, "This session");
@@ -132,7 +148,10 @@ pageTests("a session", (test) => {
 
   test("with one bound is open at its other end", async (open) => {
     const { from_base_time, title } = await session();
-    const page = await open(desk, { hash: "#1000-01-01T00:00;13.4N,8.8E", session: { title, from, from_base_time } });
+    const page = await open(desk, {
+      hash: "#1000-01-01T00:00;13.4N,8.8E",
+      session: { title, from, from_base_time },
+    });
     await becomes(page, "1000-01-01T00:00");
     await page.evaluate(() => void (location.hash = "#5-01-01T00:00"));
     await becomes(page, from);
@@ -143,8 +162,21 @@ pageTests("players", (test) => {
   test("have no horoscope, no tables, no events to come and no moons to come", async (open) => {
     const page = await open(phone, { hash: "", session: await session({ player: true }) });
     await openInputs(page);
-    const text = await page.evaluate(() => document.body.textContent.replace(document.querySelector("script[type=module]").textContent, ""));
-    for (const word of ["Horoscope", "Interpretation", "Tonight", "Next moons", "Full moon", "Hourly", "Yearly"]) {
+    const text = await page.evaluate(() =>
+      document.body.textContent.replace(
+        document.querySelector("script[type=module]").textContent,
+        "",
+      ),
+    );
+    for (const word of [
+      "Horoscope",
+      "Interpretation",
+      "Tonight",
+      "Next moons",
+      "Full moon",
+      "Hourly",
+      "Yearly",
+    ]) {
       assert.ok(!text.includes(word), word);
     }
     const told = (await page.elements()).map(({ name }) => name).join("\n");
@@ -152,14 +184,23 @@ pageTests("players", (test) => {
   });
 
   test("cannot go to another place", async (open) => {
-    const page = await open(desk, { hash: "#720-06-12T20:00;40.5N,20.9W", session: await session({ player: true }) });
-    await page.until("the place is theirs", () => /;13\.4N,8\.8E$/.test(decodeURIComponent(location.hash)));
+    const page = await open(desk, {
+      hash: "#720-06-12T20:00;40.5N,20.9W",
+      session: await session({ player: true }),
+    });
+    await page.until("the place is theirs", () =>
+      /;13\.4N,8\.8E$/.test(decodeURIComponent(location.hash)),
+    );
     await bounded(page, "place");
     await page.evaluate(() => void (location.hash = "#720-06-12T21:00;1N,2E"));
     await becomes(page, "720-06-12T21:00");
-    await page.until("the place is theirs still", () => /;13\.4N,8\.8E$/.test(decodeURIComponent(location.hash)));
+    await page.until("the place is theirs still", () =>
+      /;13\.4N,8\.8E$/.test(decodeURIComponent(location.hash)),
+    );
     assert.match(await textOf(page, "#shown-place"), /Ebb/);
-    const controls = (await page.elements()).filter(({ focusable }) => focusable).map(({ name }) => name);
+    const controls = (await page.elements())
+      .filter(({ focusable }) => focusable)
+      .map(({ name }) => name);
     assert.ok(!controls.some((name) => /Latitude|Longitude|Map of/.test(name)), `${controls}`);
   });
 
@@ -174,7 +215,9 @@ pageTests("players", (test) => {
       await restsAt(page, moment.slice(-5));
       const { positions } = sky.record("positions", { moment, ...ebb }).value;
       const rows = await page.evaluate(() =>
-        [...document.querySelectorAll("#positions tbody tr")].map((row) => row.cells[0].textContent.trim().toLowerCase()),
+        [...document.querySelectorAll("#positions tbody tr")].map((row) =>
+          row.cells[0].textContent.trim().toLowerCase(),
+        ),
       );
       for (const { body, altitude_degrees: altitude } of positions) {
         if (altitude < 0) {

@@ -33,7 +33,10 @@ pageTests("a screen reader", (test) => {
         );
         assert.equal(levels.filter((level) => level === 1).length, 1);
         assert.equal(levels[0], 1);
-        assert.ok(levels.every((level, at) => at === 0 || level <= levels[at - 1] + 1), `${levels}`);
+        assert.ok(
+          levels.every((level, at) => at === 0 || level <= levels[at - 1] + 1),
+          `${levels}`,
+        );
         assert.ok(levels.length >= 2, tab);
       }
     });
@@ -95,14 +98,19 @@ pageTests("a screen reader", (test) => {
     const page = await open(desk);
     const positions = (await engine()).record("positions", sky).value.positions;
     const table = await page.evaluate(() =>
-      [...document.querySelectorAll("#positions tr")].map((row) => [...row.cells].map((cell) => cell.textContent.trim())),
+      [...document.querySelectorAll("#positions tr")].map((row) =>
+        [...row.cells].map((cell) => cell.textContent.trim()),
+      ),
     );
     const headings = await page.evaluate(() =>
       [...document.querySelectorAll("#positions thead th")].map((cell) => cell.scope),
     );
     assert.ok(headings.length >= 3 && headings.every((scope) => scope === "col"));
     for (const { body } of positions) {
-      assert.ok(table.some(([name]) => name.toLowerCase() === body), body);
+      assert.ok(
+        table.some(([name]) => name.toLowerCase() === body),
+        body,
+      );
     }
   });
 

@@ -56,10 +56,14 @@ pageTests("time", (test) => {
       const value = () => page.evaluate(() => Number(document.querySelector("#hour-bar").value));
       const charts = await page.evaluate(() => {
         globalThis.charts = new Set();
-        new MutationObserver(() => charts.add(document.querySelector("#star-map").innerHTML)).observe(
-          document.querySelector("#star-map"),
-          { subtree: true, childList: true, characterData: true, attributes: true },
-        );
+        new MutationObserver(() =>
+          charts.add(document.querySelector("#star-map").innerHTML),
+        ).observe(document.querySelector("#star-map"), {
+          subtree: true,
+          childList: true,
+          characterData: true,
+          attributes: true,
+        });
         return charts.size;
       });
       assert.equal(charts, 0);
@@ -69,7 +73,9 @@ pageTests("time", (test) => {
         assert.ok(Math.abs(shown - set) <= 1, `the clock tells ${shown}, the bar ${set}`);
       };
       const from = at((await value()) / 1440);
-      await (size.touch ? page.hands.swipe(from, at(0.25), held) : page.hands.drag(from, at(0.25), held));
+      await (size.touch
+        ? page.hands.swipe(from, at(0.25), held)
+        : page.hands.drag(from, at(0.25), held));
       await page.painted();
       const set = await value();
       assert.ok(Math.abs(set - 360) < 60, `${set}`);
@@ -83,9 +89,15 @@ pageTests("time", (test) => {
     const page = await open(desk);
     await (await page.select("#hour-bar")).focus();
     await page.hands.key("ArrowLeft");
-    await page.until("the clock follows", () => document.querySelector("#shown-clock").textContent.slice(0, 5) < "22:30");
+    await page.until(
+      "the clock follows",
+      () => document.querySelector("#shown-clock").textContent.slice(0, 5) < "22:30",
+    );
     await page.hands.key("Home");
-    await page.until("it goes to midnight", () => document.querySelector("#shown-clock").textContent.slice(0, 5) === "00:00");
+    await page.until(
+      "it goes to midnight",
+      () => document.querySelector("#shown-clock").textContent.slice(0, 5) === "00:00",
+    );
     assert.match(await textOf(page, "#shown-date"), /^12 /);
   });
 
@@ -115,16 +127,27 @@ pageTests("time", (test) => {
     await until("it plays", () => isPressed(page, "#play-back"));
     const { moments } = await watchFrames(page, 60);
     const told = await momentsOf(page, moments);
-    assert.ok(isSorted([...told].reverse()) && told.at(-1) < told[0], `${moments[0]} to ${moments.at(-1)}`);
+    assert.ok(
+      isSorted([...told].reverse()) && told.at(-1) < told[0],
+      `${moments[0]} to ${moments.at(-1)}`,
+    );
   });
 
   test("plays and pauses by the space bar, and steps by comma and full stop", async (open) => {
     const page = await open(desk);
     const before = await clock(page);
     await page.hands.key(".");
-    await page.until("a step later", (before) => document.querySelector("#shown-clock").textContent.slice(0, 5) !== before, before);
+    await page.until(
+      "a step later",
+      (before) => document.querySelector("#shown-clock").textContent.slice(0, 5) !== before,
+      before,
+    );
     await page.hands.key(",");
-    await page.until("and back", (before) => document.querySelector("#shown-clock").textContent.slice(0, 5) === before, before);
+    await page.until(
+      "and back",
+      (before) => document.querySelector("#shown-clock").textContent.slice(0, 5) === before,
+      before,
+    );
     await page.hands.key(" ");
     await until("it plays", () => isPressed(page, "#play"));
     await page.hands.key(" ");
@@ -144,7 +167,11 @@ pageTests("time", (test) => {
     for (const pace of paces.keys()) {
       await (await page.select("#pace")).focus();
       await page.hands.key(pace === 0 ? "Home" : "ArrowDown");
-      await page.until("it is chosen", (pace) => document.querySelector("#pace").selectedIndex === pace, pace);
+      await page.until(
+        "it is chosen",
+        (pace) => document.querySelector("#pace").selectedIndex === pace,
+        pace,
+      );
       const before = await page.evaluate(chart);
       await (await page.find("button", "A step later")).press();
       await page.until("it is later", `(before) => (${chart})() !== before`, before);

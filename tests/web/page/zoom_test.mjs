@@ -11,7 +11,16 @@ const seen = async (page, chart) => {
     const sheet = document.querySelector(`#${chart} svg.sheet`);
     const { x, y, width, height } = sheet.viewBox.baseVal;
     const box = sheet.getBoundingClientRect();
-    return { x, y, width, height, left: box.left, top: box.top, right: box.right, bottom: box.bottom };
+    return {
+      x,
+      y,
+      width,
+      height,
+      left: box.left,
+      top: box.top,
+      right: box.right,
+      bottom: box.bottom,
+    };
   }, chart);
 };
 
@@ -48,8 +57,14 @@ pageTests("charts", (test) => {
       const at = { x: x + 30, y: y - 20 };
       await page.hands.pinch(at.x, at.y, { from: 60, to: 180 }, async () => {
         const during = await seen(page, chart);
-        assert.ok(Math.abs(before.width / during.width - 3) < 0.1, `${before.width / during.width}`);
-        assert.ok(isNear(unitAt(before, at), unitAt(during, at), 2), "what was between the fingers is there still");
+        assert.ok(
+          Math.abs(before.width / during.width - 3) < 0.1,
+          `${before.width / during.width}`,
+        );
+        assert.ok(
+          isNear(unitAt(before, at), unitAt(during, at), 2),
+          "what was between the fingers is there still",
+        );
       });
       await onlyTheChart(page);
       const enlarged = await seen(page, chart);
@@ -68,7 +83,8 @@ pageTests("charts", (test) => {
       for (let turn = 0; turn < 3; ++turn) await page.hands.wheel(at.x, at.y, { down: -120 });
       await page.until(
         "it is enlarged",
-        (chart, width) => document.querySelector(`#${chart} svg.sheet`).viewBox.baseVal.width < width / 2,
+        (chart, width) =>
+          document.querySelector(`#${chart} svg.sheet`).viewBox.baseVal.width < width / 2,
         chart,
         before.width,
       );
@@ -106,7 +122,9 @@ pageTests("charts", (test) => {
         const middle = middleOf(await seen(page, chart));
         const twice = { x: middle.x, y: middle.y };
         if (size.touch) await page.hands.pinch(twice.x, twice.y, { from: 50, to: 200 });
-        else for (let turn = 0; turn < 4; ++turn) await page.hands.wheel(twice.x, twice.y, { down: -120 });
+        else
+          for (let turn = 0; turn < 4; ++turn)
+            await page.hands.wheel(twice.x, twice.y, { down: -120 });
         const before = await seen(page, chart);
         const to = { x: middle.x - 60, y: middle.y + 45 };
         const drag = (from, to, meanwhile) =>
@@ -114,14 +132,20 @@ pageTests("charts", (test) => {
         await drag(middle, to, async () => {
           const during = await seen(page, chart);
           const pixel = during.width / (during.right - during.left);
-          const slack = 16 * pixel;  // what a finger may tremble before it drags
-          assert.ok(isNear(unitAt(before, middle), unitAt(during, to), slack), "the sky is under the finger");
+          const slack = 16 * pixel; // what a finger may tremble before it drags
+          assert.ok(
+            isNear(unitAt(before, middle), unitAt(during, to), slack),
+            "the sky is under the finger",
+          );
           assert.ok(!isNear(during, before, 20 * pixel));
         });
         await onlyTheChart(page);
         // Far beyond the corner the chart's own corner is the end.
         for (let time = 0; time < 6; ++time) {
-          await drag({ x: middle.x - 100, y: middle.y - 100 }, { x: middle.x + 100, y: middle.y + 100 });
+          await drag(
+            { x: middle.x - 100, y: middle.y - 100 },
+            { x: middle.x + 100, y: middle.y + 100 },
+          );
         }
         const end = await seen(page, chart);
         assert.ok(end.x >= -11 && end.y >= -11, `${end.x} ${end.y}`);
@@ -145,7 +169,9 @@ pageTests("charts", (test) => {
     const { x, y } = middleOf(await seen(page, "star-map"));
     await page.hands.swipe({ x, y: y + 60 }, { x, y: y - 140 });
     await page.until("the page has moved", () =>
-      [document.scrollingElement, ...document.querySelectorAll("*")].some((one) => one.scrollTop > 20),
+      [document.scrollingElement, ...document.querySelectorAll("*")].some(
+        (one) => one.scrollTop > 20,
+      ),
     );
   });
 });
