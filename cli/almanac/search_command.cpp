@@ -7,8 +7,8 @@
 
 #include "almanac/search/search.h"
 #include "cli/almanac/asked_conditions.h"
-#include "cli/typed/range.h"
 #include "cli/almanac/span_output.h"
+#include "cli/typed/range.h"
 #include "cli/written/asked_forms.h"
 #include "cli/written/document_writer.h"
 #include "cli/written/progress.h"

@@ -4,6 +4,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScrollArea>
+#include <QtMath>
 #include <algorithm>
 #include <array>
 
@@ -156,9 +157,10 @@ TEST_P(Looks, EveryChosenTabAndSegmentCanBeRead) {
     }
     ++chosen;
     const QImage picture = tests::pictureOf(*button);
-    // Every row's ground, since styles shade a button from top to bottom.
-    for (int y = 3; y < picture.height() - 3; ++y) {
-      const QColor ground = picture.pixelColor(picture.width() - 4, y);
+    // Every row's ground within the frame, since styles shade a button from top to bottom.
+    const int frame = qCeil(4.0 * picture.devicePixelRatio());
+    for (int y = frame; y < picture.height() - frame; ++y) {
+      const QColor ground = picture.pixelColor(picture.width() - frame, y);
       EXPECT_GE(tests::contrast(ground, text), 4.5)
           << button->text().toStdString() << ' ' << y << ' ' << ground.name().toStdString();
     }
