@@ -52,6 +52,47 @@ test("fifty years of events, and years of risings", () => {
   }
 });
 
+/** The command's table of events, written of the module's data. */
+function tableOf(events, isFromPlace) {
+  const kindWidth = Math.max(...veyruna.eventKinds.map(({ kind }) => kind.length));
+  const degrees = (angle, width) =>
+    `${angle.toFixed(1).replace(/^-0\.0$/, "0.0")}°`.padStart(width);
+  const line = ({ moment, sight, kind, what }) =>
+    [moment.padEnd(19), ...(isFromPlace ? sight : []), kind.padEnd(kindWidth), what].join("  ");
+  const lines = events.map((event) =>
+    line({
+      moment: `${event.date.replace("T", " ")} OST`,
+      sight: isFromPlace && [
+        event.local_clock.padEnd(5),
+        degrees(event.altitude_degrees, 8),
+        degrees(event.azimuth_degrees, 7),
+        (event.seen ? "yes" : "no").padEnd(4),
+      ],
+      kind: event.kind,
+      what: event.description,
+    }),
+  );
+  const sight = ["Local", "Altitude", "Azimuth", "Seen"];
+  return [line({ moment: "Moment", sight, kind: "Kind", what: "What" }), ...lines, ""].join("\n");
+}
+
+test("fifty years of events as the command writes them, to the byte", () => {
+  for (const [length, kinds, asked, options] of [
+    ["50 years", [], {}, []],
+    ["50 years", kindsThat(false), { place }, placeOptions],
+    ["3 years", kindsThat(true), { place }, placeOptions],
+  ]) {
+    const list = kinds.length > 0 ? ["--kind", kinds.join(",")] : [];
+    const range = ["--from", "700-01-01", "--for", length, ...list];
+    const theirs = written(["events", ...range, ...options]).split("\n");
+    const { events } = valueOf(veyruna.events({ from: "700-01-01", for: length, kinds, ...asked }));
+    const ours = tableOf(events, options.length > 0).split("\n");
+    assert.ok(theirs.length > 5000);
+    assert.equal(ours.length, theirs.length);
+    theirs.forEach((line, i) => assert.equal(ours[i], line));
+  }
+});
+
 test("searches", () => {
   for (const conditions of [["moon full"], ["keep twisted", "night"], ["dunmor conjunct galvi"]]) {
     const theirs = JSON.parse(
