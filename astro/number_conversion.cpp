@@ -116,6 +116,22 @@ std::optional<double> readWord(std::string_view text) {
 
 }  // namespace
 
+std::string withPlainSign(std::string_view text) {
+  constexpr std::string_view minusSign = "−";
+  std::string plain(text);
+  if (text.starts_with(minusSign)) {
+    plain.replace(0, minusSign.size(), "-");
+  } else if (text.size() > 1 && text.front() == '+' && text[1] != '-') {
+    plain.erase(0, 1);
+  }
+  return plain;
+}
+
+std::optional<double> readTypedNumber(std::string_view text) {
+  const std::optional<double> number = readDouble(withPlainSign(text));
+  return number && std::isfinite(*number) ? number : std::nullopt;
+}
+
 namespace by_c_library {
 
 char* writeFixed(char* begin, double value, int decimals) {

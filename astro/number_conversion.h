@@ -1,6 +1,7 @@
 #pragma once
 
 #include <optional>
+#include <string>
 #include <string_view>
 
 /// Doubles to digits and back, exactly and in no locale's way. The C++ library's own conversions do
@@ -24,6 +25,13 @@ char* writeShortest(char* begin, double value);
 /// All of `text` as a number: digits with or without a point and an exponent, a minus in front or
 /// none, "inf" and "nan". Nothing where it is none, or one that no double is near to.
 std::optional<double> readDouble(std::string_view text);
+
+/// A number as a person types it, its sign as readDouble takes it: a typographic minus as "-", and
+/// no plus in front. Other notations stay as they are.
+std::string withPlainSign(std::string_view text);
+
+/// All of such a text as a finite number, or nothing.
+std::optional<double> readTypedNumber(std::string_view text);
 
 /// The same by means of the C library, which must be in the "C" locale.
 namespace by_c_library {

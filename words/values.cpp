@@ -17,22 +17,9 @@ namespace veyruna::words {
 
 namespace {
 
-/// The text with a minus as the readers of numbers take it, and without a plus in front. Other
-/// notations are not understood.
-std::string withPlainSign(std::string_view text) {
-  constexpr std::string_view minusSign = "−";
-  std::string plain(text);
-  if (text.starts_with(minusSign)) {
-    plain.replace(0, minusSign.size(), "-");
-  } else if (text.size() > 1 && text.front() == '+' && text[1] != '-') {
-    plain.erase(0, 1);
-  }
-  return plain;
-}
-
 /// All of `text` as a whole number, or nothing.
 std::optional<std::int64_t> wholeNumberOf(std::string_view text) {
-  const std::string plain = withPlainSign(text);
+  const std::string plain = astro::withPlainSign(text);
   std::int64_t number = 0;
   const char* const end = plain.data() + plain.size();
   const auto read = std::from_chars(plain.data(), end, number);
@@ -90,8 +77,7 @@ bool equalIgnoringCase(std::string_view a, std::string_view b) {
 }
 
 std::optional<double> numberOf(std::string_view text) {
-  const std::optional<double> number = astro::readDouble(withPlainSign(text));
-  return number && std::isfinite(*number) ? number : std::nullopt;
+  return astro::readTypedNumber(text);
 }
 
 std::optional<std::int64_t> monthIndexOf(std::string_view text) {

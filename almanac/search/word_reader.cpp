@@ -1,7 +1,6 @@
 #include "almanac/search/word_reader.h"
 
 #include <charconv>
-#include <cmath>
 
 #include "almanac/search/condition_reader.h"
 #include "astro/clock.h"
@@ -14,18 +13,6 @@ namespace {
 constexpr std::string_view blanks = " \t\r\v\f";
 constexpr std::string_view signsOfTheirOwn = "();";
 constexpr std::string_view endsOfAWord = " \t\r\v\f();";
-
-/// All of a text as a finite number, its minus in either form; nothing where it is none.
-std::optional<double> numberFrom(std::string text) {
-  constexpr std::string_view minusSign = "−";
-  if (text.starts_with(minusSign)) {
-    text.replace(0, minusSign.size(), "-");
-  } else if (text.size() > 1 && text.front() == '+' && text[1] != '-') {
-    text.erase(0, 1);
-  }
-  const std::optional<double> number = astro::readDouble(text);
-  return number && std::isfinite(*number) ? number : std::nullopt;
-}
 
 }  // namespace
 
@@ -86,7 +73,7 @@ double WordReader::degrees(double least, bool isLeastAllowed, double most,
   if (text.ends_with(degreeSign)) {
     text.resize(text.size() - degreeSign.size());
   }
-  const std::optional<double> number = numberFrom(text);
+  const std::optional<double> number = astro::readTypedNumber(text);
   if (!number || *number < least || *number > most || (*number == least && !isLeastAllowed)) {
     refuse(accepted, {"horizon"});
   }
