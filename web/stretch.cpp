@@ -4,7 +4,6 @@
 
 #include "words/angles.h"
 #include "words/dates.h"
-#include "words/quoting.h"
 #include "words/usage_error.h"
 
 namespace veyruna::web {
@@ -31,19 +30,13 @@ Range askedRange(const Question& question, const std::optional<Lookout>& lookout
   const std::optional<double> longitude =
       isLocal ? std::optional(lookout->place.longitude) : std::nullopt;
   const double from = question.moment("from", longitude);
-  const std::optional<std::string> length = question.text("for");
-  const std::optional<std::string> end = question.text("to");
-  if (length.has_value() == end.has_value()) {
+  const words::TypedStretch typed{.from = question.text("from").value_or(""),
+                                  .to = question.text("to"),
+                                  .length = question.text("for")};
+  if (typed.length.has_value() == typed.to.has_value()) {
     throw words::UsageError("give either to, a moment, or for, a length such as \"3 months\"");
   }
-  const double to = end ? question.moment("to", longitude)
-                        : words::checkedBaseTime(from + words::readLength("for", *length),
-                                                 "for: " + words::inQuotes(*length));
-  if (to < from) {
-    throw words::UsageError("to: " + words::inQuotes(end.value_or("")) + " is before from " +
-                            words::inQuotes(question.text("from").value_or("")));
-  }
-  return {from, to};
+  return {from, words::readEnd("", typed, from, longitude)};
 }
 
 Rows::Rows(const records::RecordType& type)
@@ -51,10 +44,11 @@ Rows::Rows(const records::RecordType& type)
               [this](std::string_view piece) { text_.append(piece); }) {}
 
 bool Rows::write(const records::Row& row) {
-  if (++count_ <= most) {
+  const bool hasRoom = ++count_ <= most;
+  if (hasRoom) {
     writer_.write(row);
   }
-  return count_ < most + 1;
+  return hasRoom;
 }
 
 std::string Rows::finish() {

@@ -120,4 +120,19 @@ double readLength(std::string_view what, std::string_view text) {
   return *count * *unit;
 }
 
+double readEnd(std::string_view prefix, const TypedStretch& typed, double from,
+               std::optional<double> longitude) {
+  const std::string before(prefix);
+  if (typed.length) {
+    return checkedBaseTime(from + readLength(before + "for", *typed.length),
+                           before + "for: " + inQuotes(*typed.length));
+  }
+  const double to = readMoment(before + "to", *typed.to, longitude);
+  if (to < from) {
+    throw UsageError(before + "to: " + inQuotes(*typed.to) + " is before " + before + "from " +
+                     inQuotes(typed.from));
+  }
+  return to;
+}
+
 }  // namespace veyruna::words

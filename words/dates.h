@@ -35,4 +35,16 @@ bool isUnitOfTime(std::string_view word);
 /// UsageError.
 double readLength(std::string_view what, std::string_view text);
 
+/// A stretch of time as it was typed: to a moment, or for a length.
+struct TypedStretch {
+  std::string from;
+  std::optional<std::string> to;  ///< one of these two is there
+  std::optional<std::string> length;
+};
+
+/// The base time of its end, where it begins at `from` (days); a clock is that of `longitude`, as
+/// above. Throws UsageError, in which `prefix` stands before "from", "to" and "for".
+double readEnd(std::string_view prefix, const TypedStretch& typed, double from,
+               std::optional<double> longitude);
+
 }  // namespace veyruna::words

@@ -4,7 +4,6 @@
 #include "words/dates.h"
 #include "words/quoting.h"
 #include "words/usage_error.h"
-#include "words/values.h"
 
 namespace veyruna::cli {
 
@@ -32,9 +31,11 @@ double endOf(const Typed& typed, double from, std::optional<double> longitude) {
                          : "--to " + words::inQuotes(typed.to) + " and --for " +
                                words::inQuotes(typed.length) + " name two ends; give one");
   }
-  return typed.to.empty() ? words::checkedBaseTime(from + words::readLength("--for", typed.length),
-                                                   "--for: " + words::inQuotes(typed.length))
-                          : words::readMoment("--to", typed.to, longitude);
+  const auto ifTyped = [](const std::string& text) {
+    return text.empty() ? std::nullopt : std::optional(text);
+  };
+  return words::readEnd("--", {typed.from, ifTyped(typed.to), ifTyped(typed.length)}, from,
+                        longitude);
 }
 
 }  // namespace
@@ -52,12 +53,7 @@ almanac::Range rangeOf(const Typed& typed, const std::vector<Place>& places) {
   }
   const std::optional<double> longitude = clocksLongitude(typed, places);
   const double from = words::readMoment("--from", typed.from, longitude);
-  const double to = endOf(typed, from, longitude);
-  if (to < from) {
-    throw words::UsageError("--to: " + words::inQuotes(typed.to) + " is before --from " +
-                            words::inQuotes(typed.from));
-  }
-  return {from, to};
+  return {from, endOf(typed, from, longitude)};
 }
 
 }  // namespace veyruna::cli
