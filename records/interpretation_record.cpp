@@ -51,7 +51,8 @@ Row aboutInterpretation(const astro::Observer& observer) {
 void forEachInterpretationRow(const astro::Observer& observer, const reports::TableSize& /*size*/,
                               const TakeRow& take) {
   for (const charts::ReadingLine& line : charts::readingOf(charts::nativityOf(observer))) {
-    take({headings()[static_cast<std::size_t>(line.block)], line.subject, textOrNothing(line.code),
+    const auto& block = charts::readingBlocks[static_cast<std::size_t>(line.block)];
+    take({std::string(block.heading), line.subject, textOrNothing(line.code),
           textOrNothing(line.bodyPart), textOrNothing(line.sign), textOrNothing(line.verdict),
           textOrNothing(line.color)});
   }

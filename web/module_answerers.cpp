@@ -1,4 +1,4 @@
-#include <array>
+#include <vector>
 
 #include "web/answers.h"
 #include "web/facade.h"
@@ -6,13 +6,12 @@
 namespace veyruna::web {
 
 std::span<const Answerer> moduleAnswerers() {
-  static constexpr std::array all = {Answerer{"about", answerIsJson, aboutAnswer},
-                                     Answerer{"moment", answerIsJson, momentAnswer},
-                                     Answerer{"document", answerIsText, documentAnswer},
-                                     Answerer{"record", answerIsJson, recordAnswer},
-                                     Answerer{"marks", answerIsJson, marksAnswer},
-                                     Answerer{"events", answerIsJson, eventsAnswer},
-                                     Answerer{"search", answerIsJson, searchAnswer}};
+  static const std::vector<Answerer> all = [] {
+    const std::span<const Answerer> ofPage = pageAnswerers();
+    std::vector<Answerer> answerers(ofPage.begin(), ofPage.end());
+    answerers.push_back({"search", answerIsJson, searchAnswer});
+    return answerers;
+  }();
   return all;
 }
 
