@@ -9,21 +9,20 @@ namespace veyruna::exports {
 
 namespace {
 
-/// Qt writes the fonts of a PDF in the order of a hash, which differs from process to process. In
-/// the life of this it is always the same.
-class SameOrder {
- public:
-  SameOrder() { QHashSeed::setDeterministicGlobalSeed(); }
-  SameOrder(const SameOrder&) = delete;
-  SameOrder& operator=(const SameOrder&) = delete;
-  ~SameOrder() { QHashSeed::resetRandomGlobalSeed(); }
-};
+/// Qt writes the fonts of a PDF in the order of a hash, which differs from process to process. From
+/// the first PDF on it is always the same: several are made side by side, so none may end it.
+void keepFontsInOneOrder() {
+  [[maybe_unused]] static const bool isKept = [] {
+    QHashSeed::setDeterministicGlobalSeed();
+    return true;
+  }();
+}
 
 }  // namespace
 
 QByteArray pdfDocument(const PdfInformation& information, const QSizeF& pageSizePoints,
                        const std::function<void(QPainter& painter, QPdfWriter& writer)>& paint) {
-  const SameOrder sameOrder;
+  keepFontsInOneOrder();
   constexpr int pointsPerInch = 72;
   constexpr int dotsPerPoint = 10;  // as fine as a printer draws
   QByteArray bytes;

@@ -3,7 +3,10 @@
 #include "export/report_pages.h"
 
 #include <algorithm>
+#include <atomic>
 #include <gtest/gtest.h>
+#include <thread>
+#include <vector>
 
 #include "tests/export/pdf_reader.h"
 #include "tests/support/reference_case.h"
@@ -221,6 +224,24 @@ TEST(ReportFile, IsTheSameForTheSameContent) {
   const Report report{u"T"_s, u"M"_s, {{u"One"_s, wideTable(100, 60)}}};
   EXPECT_EQ(tests::withoutDates(exports::reportPdf(report, information)),
             tests::withoutDates(exports::reportPdf(report, information)));
+}
+
+TEST(ReportFile, IsTheSameBesideOthersInTheMaking) {
+  const Report report{u"T"_s, u"M"_s, {{u"One"_s, wideTable(3, 60)}}};
+  const QByteArray alone = tests::withoutDates(exports::reportPdf(report, information));
+  std::atomic<int> others = 0;
+  std::vector<std::thread> threads;
+  for (int thread = 0; thread < 8; ++thread) {
+    threads.emplace_back([&] {
+      for (int i = 0; i < 60; ++i) {
+        others += tests::withoutDates(exports::reportPdf(report, information)) == alone ? 0 : 1;
+      }
+    });
+  }
+  for (std::thread& thread : threads) {
+    thread.join();
+  }
+  EXPECT_EQ(others, 0);
 }
 
 }  // namespace
