@@ -50,6 +50,19 @@ bool isFolderRefusing(const std::error_code& error) {
          reason == EXDEV;
 }
 
+/// Puts on disk which files a folder holds. A folder that may not be read, or a file system that
+/// cannot do so, is left to the system's own time: what is found there is whole in any case.
+void syncFolder(const std::string& folder) {
+  const int number = open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+  if (number < 0) {
+    return;
+  }
+  const Descriptor opened(number);
+  if (fsync(opened.number()) != 0 && errno != EINVAL) {
+    throwErrno();
+  }
+}
+
 }  // namespace
 
 FileWriter::FileWriter(const std::string& path) {
@@ -116,7 +129,9 @@ void FileWriter::finish() {
     }
     isInPlace = !error;
   }
-  if (!isInPlace) {
+  if (isInPlace) {
+    syncFolder(folderOf(target_));
+  } else {
     overwrite(target_, out());
   }
   temporary_.reset();

@@ -26,7 +26,8 @@ class FileWriter {
 
   void write(std::string_view bytes);
 
-  /// Hands over all that was written; a file is on disk before it takes its place.
+  /// Hands over all that was written; a file is on disk before it takes its place, and its place is
+  /// on disk before this returns.
   void finish();
 
  private:

@@ -6,6 +6,7 @@
 #include <QTemporaryFile>
 #include <algorithm>
 
+#include "files/file_writer.h"
 #include "model/ownerless_lock.h"
 #include "model/stored_value.h"
 #include "model/unreadable_name.h"
@@ -70,7 +71,9 @@ bool QtSettingsStore::keepsAsideWhatIsUnreadable() {
   if (isPreferences(content) || content == keptAside_) {
     return true;
   }
-  if (!QFile::copy(file.fileName(), unreadableName(file.fileName()))) {
+  // On disk before anything is written over the original, even if the power goes.
+  if (files::writeWholeFile(QFile::encodeName(unreadableName(file.fileName())).toStdString(),
+                            {content.constData(), static_cast<std::size_t>(content.size())})) {
     return false;
   }
   keptAside_ = content;
