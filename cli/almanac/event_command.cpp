@@ -12,6 +12,7 @@
 #include "cli/written/asked_forms.h"
 #include "cli/written/document_writer.h"
 #include "cli/written/progress.h"
+#include "notes/note_tools.h"
 #include "words/quoting.h"
 #include "words/usage_error.h"
 #include "words/values.h"
@@ -26,13 +27,13 @@ documents::Form formOfEvents(const Typed& typed) {
   const auto form = documents::formOf(typed.formats);
   if (!typed.formats.empty() && !(form && documents::canBe(kind, *form))) {
     words::refuse("--format", typed.formats,
-                  "one of txt, json, jsonl, csv, " + noteToolWords() + " for events");
+                  "one of txt, json, jsonl, csv, " + notes::noteToolWords() + " for events");
   }
   for (const auto& [option, value] :
        {std::pair("--out", typed.folder), std::pair("--visibility", typed.visibility)}) {
     if (!value.empty()) {
       throw words::UsageError(std::string(option) + " " + words::inQuotes(value) +
-                              " belongs to --format " + noteToolWords(" and "));
+                              " belongs to --format " + notes::noteToolWords(" and "));
     }
   }
   const std::vector<documents::Form> forms = askedForms(typed, kind);
@@ -43,7 +44,7 @@ documents::Form formOfEvents(const Typed& typed) {
 }  // namespace
 
 void writeEvents(const Typed& typed) {
-  const std::optional<NoteTool> tool = noteToolOf(typed.formats);
+  const std::optional<notes::NoteTool> tool = notes::noteToolOf(typed.formats);
   const documents::Form form = tool ? documents::Form::count : formOfEvents(typed);
   if (tool) {
     askedWidth(typed, {});

@@ -125,7 +125,7 @@ class SeasonsStarsOutput final : public NoteOutput {
 
 }  // namespace
 
-std::unique_ptr<EventOutput> noteOutput(NoteTool tool, const Typed& typed,
+std::unique_ptr<EventOutput> noteOutput(notes::NoteTool tool, const Typed& typed,
                                         const almanac::Range& range,
                                         const std::vector<Place>& places) {
   const Visibility visibility = visibilityOf(typed, places);
@@ -135,7 +135,7 @@ std::unique_ptr<EventOutput> noteOutput(NoteTool tool, const Typed& typed,
                             " is before the first midnight, where the calendar has no dates; give "
                             "1-01-01 or later");
   }
-  if (tool == NoteTool::seasonsStars) {
+  if (tool == notes::NoteTool::seasonsStars) {
     if (!typed.folder.empty()) {
       throw words::UsageError(
           "--format seasons-stars writes one file; give -o FILE instead of --out");

@@ -6,8 +6,8 @@
 #include <exception>
 
 #include "astro/number_text.h"
+#include "cli/almanac/calendar_command.h"
 #include "cli/almanac/event_command.h"
-#include "cli/almanac/note_tools.h"
 #include "cli/almanac/search_command.h"
 #include "cli/batch/batch_command.h"
 #include "cli/documents/document_commands.h"

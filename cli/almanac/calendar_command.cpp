@@ -1,12 +1,12 @@
-#include "cli/almanac/note_tools.h"
+#include "cli/almanac/calendar_command.h"
 
-#include <algorithm>
-#include <array>
-#include <string_view>
+#include <optional>
+#include <string>
 
 #include "cli/written/asked_forms.h"
 #include "cli/written/document_writer.h"
 #include "notes/calendarium.h"
+#include "notes/note_tools.h"
 #include "notes/seasons_stars.h"
 #include "words/dates.h"
 #include "words/usage_error.h"
@@ -14,33 +14,12 @@
 
 namespace veyruna::cli {
 
-namespace {
-
-struct ToolEntry {
-  NoteTool tool;
-  std::string_view word;
-};
-constexpr std::array<ToolEntry, 2> tools = {
-    {{NoteTool::calendarium, "calendarium"}, {NoteTool::seasonsStars, "seasons-stars"}}};
-
-}  // namespace
-
-std::optional<NoteTool> noteToolOf(const std::string& form) {
-  const auto* const found = std::ranges::find(tools, form, &ToolEntry::word);
-  return found == tools.end() ? std::nullopt : std::optional(found->tool);
-}
-
-std::string noteToolWords(const std::string& between) {
-  std::string words;
-  for (const ToolEntry& entry : tools) {
-    words.append(words.empty() ? "" : between).append(entry.word);
-  }
-  return words;
-}
+using notes::NoteTool;
+using notes::noteToolWords;
 
 void writeCalendar(const Typed& typed) {
   askedWidth(typed, {});
-  const std::optional<NoteTool> tool = noteToolOf(typed.formats);
+  const std::optional<NoteTool> tool = notes::noteToolOf(typed.formats);
   if (!tool) {
     if (typed.formats.empty()) {
       throw words::UsageError("calendar needs --format " + noteToolWords() +
