@@ -49,6 +49,17 @@ if(VEYRUNA_SANITIZERS)
   target_link_options(veyruna_options INTERFACE -fsanitize=${VEYRUNA_SANITIZERS})
 endif()
 
+# veyruna_in_tree(<variable> <path>)
+# Where a program that was not installed finds what belongs to it: that path of this tree, or nothing
+# in programs that are built to be handed on, which hold no path of the machine that built them.
+function(veyruna_in_tree variable path)
+  if(VEYRUNA_FOR_PACKAGES)
+    set(${variable} "" PARENT_SCOPE)
+  else()
+    set(${variable} ${PROJECT_SOURCE_DIR}/${path} PARENT_SCOPE)
+  endif()
+endfunction()
+
 # veyruna_room(<name> SOURCES <file>... [USES <room>...])
 # One static library for one room: veyruna_<name>, its headers included as "<name>/file.h".
 function(veyruna_room name)

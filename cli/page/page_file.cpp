@@ -23,8 +23,9 @@ std::filesystem::path pageFile() {
   const std::filesystem::path program = std::filesystem::read_symlink("/proc/self/exe");
   std::filesystem::path installed =
       program.parent_path().parent_path() / "share/veyruna/veyruna.html";
+  const std::filesystem::path built = VEYRUNA_BUILT_PAGE;
   std::error_code problem;
-  return std::filesystem::exists(installed, problem) ? installed : VEYRUNA_BUILT_PAGE;
+  return built.empty() || std::filesystem::exists(installed, problem) ? installed : built;
 }
 
 std::string contentOf(const std::filesystem::path& file) {

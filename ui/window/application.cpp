@@ -26,7 +26,7 @@ VeyrunaAstroApp::VeyrunaAstroApp(model::AstronomyModel::Surroundings surrounding
       time_(model_, store_),
       state_(statePath) {
   QApplication::setApplicationName(product().name);
-  QApplication::setDesktopFileName(QStringLiteral("veyruna-astro"));
+  QApplication::setDesktopFileName(QStringLiteral("org.veyruna.astro"));
   QApplication::setWindowIcon(programIcon());
   rememberTime();
 }

@@ -11,10 +11,10 @@ namespace {
 
 QUrl page(const char* name) {
   for (const QString& folder :
-       {QCoreApplication::applicationDirPath() + QStringLiteral("/../share/doc/veyruna/manual"),
+       {QCoreApplication::applicationDirPath() + QStringLiteral("/../share/veyruna/manual"),
         QStringLiteral(VEYRUNA_MANUAL_DIR)}) {
     const QFileInfo file(folder + QLatin1Char('/') + QLatin1String(name));
-    if (file.exists()) {
+    if (!folder.isEmpty() && file.exists()) {
       return QUrl::fromLocalFile(file.canonicalFilePath());
     }
   }

@@ -169,7 +169,7 @@ TEST_F(About, EveryWindowAndMenuIsCalledByTheProductsNames) {
 }
 
 TEST_F(About, TheDesktopListsTheProgramByItsName) {
-  QFile file(QString::fromStdString(tests::sourcePath("packaging/veyruna-astro.desktop")));
+  QFile file(QString::fromStdString(tests::sourcePath("packaging/org.veyruna.astro.desktop")));
   ASSERT_TRUE(file.open(QIODevice::ReadOnly));
   const QStringList lines = QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'));
   EXPECT_TRUE(lines.contains(QStringLiteral("Name=") + product().name));
