@@ -1,5 +1,6 @@
 #include "ui/window/print_command.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QProcess>
 #include <QStandardPaths>
@@ -76,18 +77,28 @@ void PrintCommand::hand(const QByteArray& pdf, const Order& order, const QString
 
 void PrintCommand::run(const QString& program, const QStringList& arguments,
                        const QByteArray& input, const Answered& answered) {
-  auto* const process = new QProcess(this);
+  // Of the program, not of the window: what was sent is printed though the window is closed, and
+  // the program does not end before that.
+  auto* const process = new QProcess(QCoreApplication::instance());
+  connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, process, [process] {
+    constexpr int patienceMilliseconds = 30'000;
+    process->waitForFinished(patienceMilliseconds);
+  });
+  connect(process, &QProcess::finished, process, &QObject::deleteLater);
   QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
   environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C"));  // its answers are read
   process->setProcessEnvironment(environment);
-  connect(process, &QProcess::errorOccurred, this, [=](QProcess::ProcessError error) {
+  connect(process, &QProcess::errorOccurred, process, [=](QProcess::ProcessError error) {
     if (error == QProcess::FailedToStart) {
       process->deleteLater();
+    }
+  });
+  connect(process, &QProcess::errorOccurred, this, [=](QProcess::ProcessError error) {
+    if (error == QProcess::FailedToStart) {
       answered({}, tr("%1 cannot be started").arg(program));
     }
   });
   connect(process, &QProcess::finished, this, [=](int status, QProcess::ExitStatus ending) {
-    process->deleteLater();
     const QString said = QString::fromLocal8Bit(process->readAllStandardError()).simplified();
     const bool isDone = status == 0 && ending == QProcess::NormalExit;
     const QString failure = said.isEmpty() ? tr("%1 failed").arg(program) : said;

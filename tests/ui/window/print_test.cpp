@@ -140,6 +140,31 @@ TEST_F(Printing, AFailureIsSaid) {
   EXPECT_TRUE(comesToSay(QStringLiteral("Not printed: lp: The printer is on fire.")));
 }
 
+TEST_F(Printing, WhatWasSentIsPrintedThoughItsWindowIsClosed) {
+  installPrinters();
+  // A slow print command, which takes the pages when it may.
+  install("lp",
+          "echo > begun; until [ -e mayGoOn ]; do sleep 0.05; done; cat > pages; mv pages all\n");
+  auto* const other = new MainView(model, time, state);
+  other->show();
+  other->activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(other, tests::patienceMilliseconds));
+  QTest::keyClick(other, Qt::Key_P, Qt::ControlModifier);
+  PrintSheet* question = nullptr;
+  ASSERT_TRUE(
+      QTest::qWaitFor([&] { return (question = other->findChild<PrintSheet*>()) != nullptr; },
+                      tests::patienceMilliseconds));
+  question->accept();
+  ASSERT_TRUE(QTest::qWaitFor([&] { return programs.exists(QStringLiteral("begun")); },
+                              tests::patienceMilliseconds));
+  delete other;
+  install("mayGoOn", "");
+  ASSERT_TRUE(QTest::qWaitFor([&] { return programs.exists(QStringLiteral("all")); },
+                              tests::patienceMilliseconds));
+  EXPECT_TRUE(contentOf("all").startsWith("%PDF-"));
+  EXPECT_TRUE(contentOf("all").endsWith("%%EOF\n"));
+}
+
 TEST_F(Printing, TheResultSaysWhereTheInputsHaveChanged) {
   installPrinters();
   model.setYear(900);
