@@ -137,11 +137,20 @@ def check_colours(manual):
                     )
 
 
-class Program:
-    """The command, run in an empty home of its own."""
+# What a page for browsers needs to have a session put into it; the real one is tried in tests/web.
+PAGE = '<script type="application/json" id="session">{}</script>'
 
-    def __init__(self, path, home):
+
+class Program:
+    """The command, run in a home of its own, beside the tables that the manual speaks of."""
+
+    def __init__(self, path, home, tables=()):
         self._path, self._home = os.path.abspath(path), home
+        self._known = {}
+        for table in tables:
+            shutil.copy(table, home)
+        self._page = os.path.join(home, "page-of-the-check.html")
+        Path(self._page).write_text(PAGE, encoding="utf-8")
 
     def lines(self, *arguments):
         result = subprocess.run(
@@ -150,17 +159,25 @@ class Program:
             text=True,
             check=False,
             cwd=self._home,
-            env={"HOME": self._home, "PATH": os.defpath},
+            env={"HOME": self._home, "PATH": os.defpath, "VEYRUNA_PAGE": self._page},
         )
         return [line.rstrip() for line in (result.stdout + result.stderr).splitlines()]
+
+    def known_lines(self, command):
+        """What the command of an example wrote, which is run once."""
+        if command not in self._known:
+            self._known[command] = self.lines(*shlex.split(command)[1:])
+        return self._known[command]
 
     def has(self, file):
         return os.path.exists(os.path.join(self._home, file))
 
     def clear(self, files):
-        for file in files:
-            if self.has(file):
-                os.remove(os.path.join(self._home, file))
+        for path in (os.path.join(self._home, file) for file in files):
+            if os.path.isdir(path):
+                shutil.rmtree(path)
+            elif os.path.exists(path):
+                os.remove(path)
 
     def commands(self):
         text = "\n".join(self.lines("--help"))
@@ -180,7 +197,7 @@ def check_examples(pages, program):
     """Faults of examples: each line is to come in the program's output, in that order."""
     for name, page in pages.items():
         for command, text in page.examples:
-            output = iter(program.lines(*shlex.split(command)[1:]))
+            output = iter(program.known_lines(command))
             for line in text.split("\n"):
                 if line != "…" and line.rstrip() not in output:
                     yield f"{name}: `{command}` does not write: {line}"
@@ -210,21 +227,19 @@ def check_command_line(page, program):
     yield from (f"command-line.html invents {word}" for word in sorted(described - offered))
 
 
-def faults_of(manual, veyruna):
+def faults_of(manual, program):
     pages = {path.name: Page(path) for path in sorted(manual.glob("*.html"))}
     yield from (f"{name} {fault}" for name, page in pages.items() for fault in page.faults)
     yield from check_links(manual, pages)
     yield from check_colours(manual)
-    with tempfile.TemporaryDirectory() as home:
-        for table in manual.glob("*.csv"):
-            shutil.copy(table, home)
-        program = Program(veyruna, home)
-        yield from check_examples(pages, program)
-        yield from check_writings(pages, program)
-        yield from check_command_line(pages["command-line.html"], program)
+    yield from check_examples(pages, program)
+    yield from check_writings(pages, program)
+    yield from check_command_line(pages["command-line.html"], program)
 
 
 if __name__ == "__main__":
-    found = list(faults_of(Path(sys.argv[1]), sys.argv[2]))
+    folder = Path(sys.argv[1])
+    with tempfile.TemporaryDirectory() as own:
+        found = list(faults_of(folder, Program(sys.argv[2], own, folder.glob("*.csv"))))
     print("\n".join(found) or "The manual leads where it says.")
     sys.exit(1 if found else 0)
