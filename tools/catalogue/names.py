@@ -22,7 +22,7 @@ from .wheel import (
     on_rim,
     rim_interval,
 )
-from .world import FIRST_MOMENT, SIGNS, TAU, WHITE, YELLOW, sign_range
+from .world import FIRST_MOMENT, SHOWN_MOMENT, SIGNS, TAU, WHITE, YELLOW, sign_range
 
 POLE_STAR = "Hathel"
 POLE_STAR_AT = to_ecliptic(vec(math.radians(40.0), math.radians(89.6)))
@@ -101,12 +101,14 @@ def rim_cost(name, lon, figure, crossings, labels):
     """What it costs a name to run along the rim from a longitude on.
 
     It keeps clear of the path's ends, of the other names there (all on one path, as in
-    black and white), of the planets where they stand when the program is first opened,
-    and of the lines, and wants its middle beside the figure.
+    black and white), of the planets where they stand when the program is first opened and
+    on the wheel that the manual shows, and of the lines, and wants its middle beside the figure.
     """
     start, end = rim_interval(name, lon, INNER_PATH)
     gap = min(start, TAU * INNER_PATH - end) - 2
-    there = [(t.name, t.at) for t in labels if on_rim(t.at)] + list(planets(FIRST_MOMENT))
+    there = [(t.name, t.at) for t in labels if on_rim(t.at)]
+    for moment in (FIRST_MOMENT, SHOWN_MOMENT):
+        there += planets(moment)
     for other, at in there:
         start2, end2 = rim_interval(other, angles(at)[0], INNER_PATH)
         gap = min(gap, max(start2 - end, start - end2))

@@ -62,7 +62,8 @@ and a name in one. `constellation_lines.csv` has `from,to`.
 - A name stays clear of its own figure, of the others and of the other names
   however the sky is turned on the star map. On the wheel with which the program
   first opens, no upright name is cut by the circle of the latitude or a chord, and
-  no southern name lies under the label of a planet.
+  no southern name lies under the label of a planet; nor does one on the wheel that
+  the manual shows.
 - Of every magnitude there are about three times as many stars as of the one before.
   Pemi blazes, Felum and Vellio are faint throughout. One star is yellow: %(flame)s,
   the flame in the lantern %(lantern)s.

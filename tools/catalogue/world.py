@@ -11,6 +11,10 @@ TURN = -math.radians(18)  # how far the charts turn numbered stars in ecliptic l
 FIRST_MOMENT = 258840.0  # days since noon of the first day
 FIRST_LATITUDE = math.radians(40.5)
 
+# Of the wheel that the manual shows: an evening at Wendmark on which the planets stand so close
+# together that no chord of theirs cuts a name.
+SHOWN_MOMENT = 278257.373
+
 WHITE, YELLOW, GREY = "#f4f4f3", "#fef651", "#adadad"
 
 SIGNS = [  # name, start in radians of ecliptic longitude as it is written in the catalogue
