@@ -16,4 +16,5 @@ generator with a fixed seed, so the same sky is drawn every time.
     background  the stars between the figures  wanderers  sun, moon and planets
     note        the note that explains the files  files    the texts of all files
     checks      measures the tables of a catalogue
+    covered     what is cut or covered on a chart the program has drawn
 """

@@ -55,6 +55,20 @@ bool save(const QWidget& widget, const QString& path) {
   return screen.copy(part).save(path);
 }
 
+/// By local time at Wendmark, as tools/pictures/moments has them.
+struct Evening {
+  int year;
+  int monthIndex;
+  int dayIndex;
+  double hour;
+};
+
+/// A full moon's evening in late autumn.
+constexpr Evening firstTour{720, 5, 11, 22.5};
+
+/// All planets stand together: their chords leave the names on the wheel alone.
+constexpr Evening closePlanets{773, 11, 7, 19.5};
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -76,17 +90,21 @@ int main(int argc, char** argv) {
       QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
           QStringLiteral("/window.ini"));
   auto& model = program.model();
-  // A full moon's evening in late autumn.
-  model.setMonthIndex(5);
-  model.setDayIndex(11);
-  model.setHour(22.5);
+  const auto show = [&model](const Evening& evening) {
+    model.setYear(evening.year);
+    model.setMonthIndex(evening.monthIndex);
+    model.setDayIndex(evening.dayIndex);
+    model.setHour(evening.hour);
+  };
   model.setUseLocalTime(true);
+  show(firstTour);
   veyruna::ui::MainView* const window = program.openWindow();
   window->setGeometry(QRect(QPoint(), size));
   constexpr int untilDrawn = 1000;
   wait(untilDrawn);
   bool isSaved = true;
   for (const veyruna::ui::TabView& view : veyruna::ui::tabViews) {
+    show(view.tab == veyruna::exports::OutputTab::horoscope ? closePlanets : firstTour);
     window->selectTab(view.tab);
     // On a chart the pointer would have something told; on the map it has a place read out.
     const bool isMap = view.tab == veyruna::exports::OutputTab::location;
