@@ -105,6 +105,7 @@ int main(int argc, char** argv) {
   bool isSaved = true;
   for (const veyruna::ui::TabView& view : veyruna::ui::tabViews) {
     show(view.tab == veyruna::exports::OutputTab::horoscope ? closePlanets : firstTour);
+    model.recalculate();
     window->selectTab(view.tab);
     // On a chart the pointer would have something told; on the map it has a place read out.
     const bool isMap = view.tab == veyruna::exports::OutputTab::location;
