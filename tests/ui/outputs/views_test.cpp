@@ -1,6 +1,7 @@
 // The outputs as the window shows them.
 #include <QClipboard>
 #include <QDialog>
+#include <QFile>
 #include <QHeaderView>
 #include <QLabel>
 #include <QPlainTextEdit>
@@ -8,6 +9,7 @@
 #include <QTableWidget>
 #include <set>
 
+#include "tests/support/source_path.h"
 #include "tests/ui/alerts.h"
 #include "tests/ui/shown_window.h"
 
@@ -47,6 +49,19 @@ struct Views : testing::Test, tests::ShownWindow {
     return texts;
   }
 };
+
+/// All that a file holds; none where there is no such file.
+QByteArray bytesOf(const QString& path) {
+  QFile file(path);
+  return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+TEST_F(Views, ProgramCarriesTheMapWithIt) {
+  const QByteArray map =
+      bytesOf(QString::fromStdString(tests::sourcePath("resources/tamsorel.jpg")));
+  ASSERT_FALSE(map.isEmpty());
+  EXPECT_EQ(bytesOf(QStringLiteral(":/tamsorel.jpg")), map);
+}
 
 TEST_F(Views, WithoutACalculationTheViewsSayThatThereIsNothing) {
   press("tab3");
