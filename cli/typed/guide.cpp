@@ -35,6 +35,7 @@ OptionGuide Language::guideOf(const CLI::Option& option) const {
     guide.value = option.get_type_name();
   }
   guide.description = option.get_description();
+  std::ranges::replace(guide.description, '\n', ' ');
   guide.group = option.get_group();
   if (const auto offered = offered_.find(&option); offered != offered_.end()) {
     guide.offered = offered->second;

@@ -32,6 +32,25 @@ std::vector<std::string> column(const Rows& rows, Member member) {
   return texts;
 }
 
+/// In lines that fit beside the names of options on a terminal of 80 columns.
+std::string wrapped(const std::string& text) {
+  constexpr std::size_t columns = 50;
+  std::string lines;
+  std::size_t lineStart = 0;
+  for (std::size_t at = 0; at < text.size();) {
+    const std::size_t end = std::min(text.find(' ', at), text.size());
+    const std::size_t length = end - at;
+    if (at > 0) {
+      const bool fits = lines.size() - lineStart + 1 + length <= columns;
+      lines += fits ? ' ' : '\n';
+      lineStart = fits ? lineStart : lines.size();
+    }
+    lines.append(text, at, length);
+    at = end + 1;
+  }
+  return lines;
+}
+
 std::vector<std::string> documentCommands() {
   std::vector<std::string> commands = column(documents::allDocuments, &documents::Entry::command);
   std::erase(commands, "");
@@ -65,7 +84,8 @@ Language::Language()
       addDocument(document.command, document.summary);
     }
   }
-  app_->get_subcommand("horoscope")->add_flag("--bw", typed_.blackAndWhite, "Black on white");
+  app_->get_subcommand("horoscope")
+      ->add_flag("--bw", typed_.blackAndWhite, wrapped("Black on white"));
   addTable("ephemeris", "Moon and sun at moments of your own", "--rows 24 --step 1/24");
   addTable("conjunctions", "All bodies at moments of your own", "--rows 720 --step 10");
   addEvents();
@@ -90,7 +110,8 @@ Language::Language()
 Language::~Language() = default;
 
 CLI::Option* Language::add(CLI::App& command, Value value) {
-  CLI::Option* const option = command.add_option(value.name, value.typed, value.description);
+  CLI::Option* const option =
+      command.add_option(value.name, value.typed, wrapped(value.description));
   offered_[option] = std::move(value.offered);
   return option->type_name(value.type);
 }
@@ -106,8 +127,10 @@ void Language::addMoment() {
   addOne("--month", "M", typed_.month, "Month, 1 to 12 or its name (1)",
          words({astro::monthNames.begin(), astro::monthNames.end()}));
   addOne("--day", "D", typed_.day, "Day, 1 to 30 (1)");
-  addOne("--hour", "H", typed_.hour, "Hour, 18.25 or 18:15 (12)");
-  app_->add_flag("--local", typed_.isLocal, "The hour is local solar time")->group("Moment");
+  addOne("--hour", "H", typed_.hour, "Hour, 18.25 or 18:15, up to 24 (12)");
+  app_->add_flag("--local", typed_.isLocal,
+                 wrapped("The hour is local solar time; of events and search, all hours are"))
+      ->group("Moment");
 }
 
 void Language::addPlace() {
@@ -117,7 +140,9 @@ void Language::addPlace() {
   };
   addOne("--lat", "DEG", typed_.latitude, "Latitude, 40.5N or 40.5, south negative (40.5)");
   addOne("--long", "DEG", typed_.longitude, "Longitude, 20.9W or -20.9, west negative (-20.9)");
-  addOne("--location", "NAME", typed_.location, "Instead of both: the name of a saved place",
+  addOne("--location", "NAME", typed_.location,
+         "Instead of both: a saved place, or Manual for what is typed in the window; of events, "
+         "all for every place",
          {.kind = Offer::places});
 }
 
@@ -153,7 +178,9 @@ CLI::App* Language::addDocument(std::string_view name, std::string_view summary,
 CLI::App* Language::addStretchCommand(std::string_view name, std::string_view summary,
                                       const std::string& exampleEnd) {
   CLI::App* const command = addCommand(name, summary);
-  add(*command, {"--from", "DATE", typed_.from, "The beginning, 720-06-12 or 720-06-12T22:30"});
+  add(*command, {"--from", "DATE", typed_.from,
+                 "The beginning: 720-06-12, 720-Cendo-12T22:30 or, as days since noon of the first "
+                 "day, @258900.5"});
   add(*command, {"--to", "DATE", typed_.to, "The end, which is no part of it"});
   add(*command, {"--for", "N UNIT", typed_.length, "Instead of the end: 10 days, months, years"});
   say(*command, "`veyruna --help` says how a place and a file (-o) are given.",
@@ -191,13 +218,12 @@ void Language::addEvents() {
        .typed = typed_.folder,
        .description = "The folder of --format calendarium, a note each; made where it is missing",
        .offered = {.kind = Offer::folders}});
-  add(*events,
-      {.name = "--visibility",
-       .type = "WHO",
-       .typed = typed_.visibility,
-       .description =
-           "Of --format calendarium and seasons-stars: gm for all (gm), player for what is seen",
-       .offered = words({"gm", "player"})});
+  add(*events, {.name = "--visibility",
+                .type = "WHO",
+                .typed = typed_.visibility,
+                .description = "Of --format calendarium and seasons-stars: gm for all (gm), player "
+                               "for what is seen from the place",
+                .offered = words({"gm", "player"})});
 }
 
 void Language::addSearch() {
@@ -211,9 +237,10 @@ void Language::addSearch() {
   add(*search, {.name = "-f",
                 .type = "FILE",
                 .typed = typed_.conditionFile,
-                .description = "Further conditions, one a line",
+                .description = "Further conditions, one a line; - for standard input",
                 .offered = {.kind = Offer::files}});
-  search->add_flag("--explain", typed_.isExplained, "First say what is asked, and what is not");
+  search->add_flag("--explain", typed_.isExplained,
+                   wrapped("First say what is asked, and what is not"));
   add(*search, {"--first", "N", typed_.first, "No more than the first N answers"});
 }
 
@@ -235,7 +262,7 @@ void Language::addBatch() {
                .typed = typed_.documents,
                .description = "What is written of each row (horoscope,star-map)",
                .offered = listOf(documentCommands())});
-  batch->add_flag("--bw", typed_.blackAndWhite, "Horoscopes black on white");
+  batch->add_flag("--bw", typed_.blackAndWhite, wrapped("Horoscopes black on white"));
   say(*batch, "",
       {.note =
            "The table's first line names its columns: name, date, hour, local and place, in any "
@@ -247,13 +274,15 @@ void Language::addPage() {
   CLI::App* const page = addStretchCommand(
       "page", "The sky in one page for any browser, made for a session",
       " --from 720-06-12T18:00 --to 720-06-13T02:00 --location Ebb --player -o evening.html");
-  page->add_flag("--player", typed_.isForPlayers, "Shows what eyes can see from there, no more");
+  page->add_flag("--player", typed_.isForPlayers,
+                 wrapped("Shows what eyes can see from there, no more"));
   add(*page, {"--title", "TEXT", typed_.title, "What stands over it"});
 }
 
 void Language::addCalendar() {
   say(*addCommand("calendar", "The calendar for tools that keep events"), "",
-      {.note = "--format says for which: calendarium or seasons-stars; --year is the present one.",
+      {.note =
+           "Of those that --format names: calendarium or seasons-stars; --year is the present one.",
        .example = "calendar --year 720 --format seasons-stars -o veyruna.json"});
 }
 
@@ -265,7 +294,7 @@ void Language::addSchema() {
                 .description = "Of what; without it the names are listed",
                 .offered = words(column(records::allTypes, &records::TypeEntry::name))});
   say(*schema, "",
-      {.note = "--format jsonl asks for the schema of a line.",
+      {.note = "With --format jsonl it is the schema of a line.",
        .example = "schema events -o events.schema.json"});
 }
 
