@@ -24,7 +24,7 @@ std::string callOf(const Offered& offered) {
   return "";
 }
 
-constexpr std::string_view functions = R"(
+constexpr std::string_view bashFunctions = R"(
 _veyruna_words() {
   mapfile -t COMPREPLY < <(compgen -W "${*:2}" -- "$1")
 }
@@ -48,7 +48,7 @@ _veyruna_places() {
     fi
   done < <("$1" locations --format csv 2>/dev/null | )";
 
-constexpr std::string_view beginning = R"()
+constexpr std::string_view bashBeginning = R"()
 }
 
 _veyruna() {
@@ -68,7 +68,7 @@ _veyruna() {
 
 std::string bashCompletion(const Guide& guide) {
   std::string text = "# Completes what is typed behind veyruna.\n";
-  text.append(functions).append(placeNamesOfTable).append(beginning);
+  text.append(bashFunctions).append(placeNamesOfTable).append(bashBeginning);
   text += joined(namesWithValues(guide), " | ") +
           ") [[ ${COMP_WORDS[i + 1]} == = ]] || ((++i)) ;;\n"
           "      -*) ;;\n"

@@ -45,7 +45,7 @@ std::string lineOf(const OptionGuide& option, const std::string& condition) {
   return line + " -d " + quotedForFish(option.description) + "\n";
 }
 
-constexpr std::string_view command = R"(
+constexpr std::string_view fishCommand = R"(
 # The command that was typed; fails where none was.
 function __veyruna_command
     set -l isValue 0
@@ -57,7 +57,7 @@ function __veyruna_command
         switch $word
             case )";
 
-constexpr std::string_view rest = R"(
+constexpr std::string_view fishRest = R"(
                 set isValue 1
             case '-*'
             case '*'
@@ -81,8 +81,8 @@ std::string fishCompletion(const Guide& guide) {
   std::string text =
       "# Completes what is typed behind veyruna.\n\nfunction __veyruna_places\n"
       "    veyruna locations --format csv 2>/dev/null | ";
-  text.append(placeNamesOfTable).append("\nend\n").append(command);
-  text.append(joined(namesWithValues(guide), " ")).append(rest);
+  text.append(placeNamesOfTable).append("\nend\n").append(fishCommand);
+  text.append(joined(namesWithValues(guide), " ")).append(fishRest);
   for (const CommandGuide& entry : guide.commands) {
     text += "complete -c veyruna -n 'not __veyruna_command >/dev/null' -a " + entry.name + " -d " +
             quotedForFish(entry.summary) + "\n";

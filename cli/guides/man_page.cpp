@@ -10,7 +10,7 @@ namespace veyruna::cli {
 namespace {
 
 /// As roff reads it: every character for itself, a hyphen as one that can be typed.
-std::string escaped(std::string_view text) {
+std::string escapedForRoff(std::string_view text) {
   std::string result;
   bool isAtStart = true;
   for (const char character : text) {
@@ -41,27 +41,27 @@ std::string escaped(std::string_view text) {
 std::string entryOf(const OptionGuide& option) {
   std::vector<std::string> names;
   for (const std::string& name : option.names) {
-    names.push_back("\\fB" + escaped(name) + "\\fR" +
-                    (option.value.empty() ? "" : " \\fI" + escaped(option.value) + "\\fR"));
+    names.push_back("\\fB" + escapedForRoff(name) + "\\fR" +
+                    (option.value.empty() ? "" : " \\fI" + escapedForRoff(option.value) + "\\fR"));
   }
   const std::string head =
-      names.empty() ? "\\fI" + escaped(option.value) + "\\fR" : joined(names, ", ");
-  return ".TP\n" + head + "\n" + escaped(option.description) + ".\n";
+      names.empty() ? "\\fI" + escapedForRoff(option.value) + "\\fR" : joined(names, ", ");
+  return ".TP\n" + head + "\n" + escapedForRoff(option.description) + ".\n";
 }
 
 std::string exampleOf(const std::string& command) {
-  return ".PP\n.nf\n.RS\n" + escaped(command) + "\n.RE\n.fi\n";
+  return ".PP\n.nf\n.RS\n" + escapedForRoff(command) + "\n.RE\n.fi\n";
 }
 
 std::string commandText(const CommandGuide& command) {
   std::string words;
   for (const OptionGuide& word : command.words) {
-    words += " [\\fI" + escaped(word.value) + "\\fR]";
+    words += " [\\fI" + escapedForRoff(word.value) + "\\fR]";
   }
-  std::string text =
-      ".SS \"" + escaped(command.name) + words + "\"\n" + escaped(command.summary) + ".\n";
+  std::string text = ".SS \"" + escapedForRoff(command.name) + words + "\"\n" +
+                     escapedForRoff(command.summary) + ".\n";
   if (!command.note.empty()) {
-    text += ".PP\n" + escaped(command.note) + "\n";
+    text += ".PP\n" + escapedForRoff(command.note) + "\n";
   }
   for (const std::vector<OptionGuide>& options : {command.words, command.options}) {
     for (const OptionGuide& option : options) {
@@ -71,7 +71,7 @@ std::string commandText(const CommandGuide& command) {
   return text + (command.example.empty() ? "" : exampleOf(command.example));
 }
 
-constexpr std::string_view beginning = R"(.SH NAME
+constexpr std::string_view pageBeginning = R"(.SH NAME
 veyruna \- star maps, horoscopes and tables of the sky of Veyruna
 .SH SYNOPSIS
 .B veyruna
@@ -89,7 +89,7 @@ A chart is written as SVG and a table as text where nothing else is asked for. T
 its form: .svg, .txt, .html, .pdf, .png, .json, .jsonl or .csv. No display is needed.
 )";
 
-constexpr std::string_view end = R"(.SH EXIT STATUS
+constexpr std::string_view pageEnd = R"(.SH EXIT STATUS
 .TP
 0
 All went well.
@@ -123,7 +123,7 @@ The manual, a page of which lists the conditions of a search, opens in the windo
 
 std::string manPage(const Guide& guide, const std::string& version) {
   std::string text = ".TH VEYRUNA 1 \"\" \"Veyruna " + version + "\" \"User Commands\"\n";
-  text.append(beginning).append(".SH OPTIONS\n");
+  text.append(pageBeginning).append(".SH OPTIONS\n");
   std::string group;
   for (const OptionGuide& option : guide.options) {
     if (option.group != group) {
@@ -136,7 +136,7 @@ std::string manPage(const Guide& guide, const std::string& version) {
   for (const CommandGuide& command : guide.commands) {
     text += commandText(command);
   }
-  return text.append(end);
+  return text.append(pageEnd);
 }
 
 }  // namespace veyruna::cli

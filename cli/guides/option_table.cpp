@@ -7,7 +7,7 @@ namespace veyruna::cli {
 
 namespace {
 
-std::string escaped(const std::string& text) {
+std::string escapedForHtml(const std::string& text) {
   std::string result;
   for (const char character : text) {
     if (character == '&') {
@@ -39,7 +39,7 @@ std::string textOf(const Row& row) {
     names += (row.option.value.empty() ? "" : " " + row.option.value) + "</code>";
   }
   return "<tr><td>" + names + "</td><td>" + row.commands + "</td><td>" +
-         escaped(row.option.description) + "</td></tr>\n";
+         escapedForHtml(row.option.description) + "</td></tr>\n";
 }
 
 }  // namespace

@@ -6,7 +6,7 @@ namespace veyruna::cli {
 namespace {
 
 /// With the brackets and colons that mean something in a description taken for themselves.
-std::string escaped(const std::string& text) {
+std::string escapedForZsh(const std::string& text) {
   std::string result;
   for (const char character : text) {
     if (character == '[' || character == ']' || character == ':') {
@@ -36,7 +36,7 @@ std::string actionOf(const Offered& offered) {
 }
 
 std::string argumentOf(const OptionGuide& option) {
-  return ":" + escaped(option.value) + ":" + actionOf(option.offered);
+  return ":" + escapedForZsh(option.value) + ":" + actionOf(option.offered);
 }
 
 /// A line for each name, none of which is offered beside another.
@@ -48,19 +48,19 @@ std::string linesOf(const OptionGuide& option) {
     if (!option.value.empty()) {
       line += name.starts_with("--") ? "=" : "+";
     }
-    line += "[" + escaped(option.description) + "]";
+    line += "[" + escapedForZsh(option.description) + "]";
     line += option.value.empty() ? "" : argumentOf(option);
     lines += "    " + quotedForShell(line) + "\n";
   }
   return lines;
 }
 
-constexpr std::string_view places = R"zsh(
+constexpr std::string_view zshPlaces = R"zsh(
 _veyruna_places() {
   local -a places expl
   places=(${(f)"$(_call_program places veyruna locations --format csv 2>/dev/null | )zsh";
 
-constexpr std::string_view beginning = R"zsh()"})
+constexpr std::string_view zshBeginning = R"zsh()"})
   _wanted places expl 'saved place' compadd -a places
 }
 
@@ -71,7 +71,7 @@ _veyruna() {
   general=(
 )zsh";
 
-constexpr std::string_view choice = R"zsh(  )
+constexpr std::string_view zshChoice = R"zsh(  )
 
   _arguments -C $general '1:command:->command' '*:: :->rest' && return
   if [[ $state == command ]]; then
@@ -85,15 +85,15 @@ constexpr std::string_view choice = R"zsh(  )
 
 std::string zshCompletion(const Guide& guide) {
   std::string text = "#compdef veyruna\n# Completes what is typed behind veyruna.\n";
-  text.append(places).append(placeNamesOfTable).append(beginning);
+  text.append(zshPlaces).append(placeNamesOfTable).append(zshBeginning);
   for (const OptionGuide& option : guide.options) {
     text += linesOf(option);
   }
   text += "  )\n  commands=(\n";
   for (const CommandGuide& command : guide.commands) {
-    text += "    " + quotedForShell(command.name + ":" + escaped(command.summary)) + "\n";
+    text += "    " + quotedForShell(command.name + ":" + escapedForZsh(command.summary)) + "\n";
   }
-  text.append(choice);
+  text.append(zshChoice);
   for (const CommandGuide& command : guide.commands) {
     if (command.options.empty() && command.words.empty()) {
       continue;

@@ -44,7 +44,8 @@ class Check:
         listed = output(veyruna, "--help").split("Commands:")[1].split("\n\n")[0]
         self.commands = re.findall(r"^  (\S+)", listed, re.MULTILINE)
         self.own = {
-            command: options_in(output(veyruna, "help", command).split("Example:")[0]) - {"-h", "--help"}
+            command: options_in(output(veyruna, "help", command).split("Example:")[0])
+            - {"-h", "--help"}
             for command in self.commands
         }
 
@@ -67,13 +68,17 @@ class Check:
             if done.stderr:
                 self.faults.append(f"{page.name}: {done.stderr}")
         general, commands = text[command_page].split("\nCOMMANDS\n")
-        self.expect("veyruna(1), options", options_of_man(general.split("\nOPTIONS\n")[1]), self.general)
+        self.expect(
+            "veyruna(1), options", options_of_man(general.split("\nOPTIONS\n")[1]), self.general
+        )
         parts = re.split(r"^   (\S+).*$", commands.split("\nEXIT STATUS\n")[0], flags=re.MULTILINE)
         self.expect("veyruna(1), commands", parts[1::2], self.commands)
         for name, part in zip(parts[1::2], parts[2::2]):
             self.expect(f"veyruna(1), {name}", options_of_man(part), self.own.get(name, set()))
         said = set(re.findall(r"--[a-z]+", output(astro, "--help")))
-        self.expect("veyruna-astro(1)", options_of_man(text[window_page].split("\nOPTIONS\n")[1]), said)
+        self.expect(
+            "veyruna-astro(1)", options_of_man(text[window_page].split("\nOPTIONS\n")[1]), said
+        )
 
     def manual(self, folder, guides):
         page = (folder / "command-line.html").read_text(encoding="utf-8")
@@ -82,7 +87,9 @@ class Check:
         if not found or found[1] != table:
             marked = f"<!-- options -->\n{table}<!-- /options -->"
             received = folder / "command-line.html.received"
-            received.write_text(page.replace(found[0], marked) if found else marked, encoding="utf-8")
+            received.write_text(
+                page.replace(found[0], marked) if found else marked, encoding="utf-8"
+            )
             self.faults.append(
                 "command-line.html: the options are not those of the command; to accept them: "
                 "tests/accept ../docs/manual/command-line.html"
@@ -97,7 +104,9 @@ class Check:
                     if re.search(rf"<code>{option}[ <]", row.split("</td>")[0]) and whose in row
                 ]
                 if len(rows) != 1:
-                    self.faults.append(f"command-line.html: {option} of {whose} in {len(rows)} rows")
+                    self.faults.append(
+                        f"command-line.html: {option} of {whose} in {len(rows)} rows"
+                    )
 
     def shell(self, name, shell):
         def options_offered(line):
@@ -143,7 +152,9 @@ class Check:
 
 
 def main():
-    veyruna, astro, guides, folder, manual, window_page = (Path(argument) for argument in sys.argv[1:])
+    veyruna, astro, guides, folder, manual, window_page = (
+        Path(argument) for argument in sys.argv[1:]
+    )
     with tempfile.TemporaryDirectory() as scratch:
         home = Path(scratch)
         (home / "VeyrunaAstro").mkdir()
