@@ -15,7 +15,7 @@ import tempfile
 from pathlib import Path
 
 from manual_check import Program
-from sayings import environment_of, sayings_of
+from sayings import environment_of, page_sayings_of, sayings_of
 
 FORMS = "svg,pdf,png,txt,html,json,jsonl,csv"
 BLOCK = re.compile(r"<(?=/?(?:p|t[dhr]|li|h[1-6]|pre|div|br|title|figcaption)\b)")
@@ -62,7 +62,8 @@ class Manual:
 
 
 def lacking_sayings(manual, project):
-    for source, words in sorted(set(sayings_of(project))):
+    said = {*sayings_of(project), *page_sayings_of(project)}
+    for source, words in sorted(said):
         if not manual.says(words):
             yield f"the manual does not have what {source} says: {words}"
 

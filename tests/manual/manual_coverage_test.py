@@ -47,6 +47,9 @@ class ManualCoverageTest(unittest.TestCase):
     def test_a_message_of_parts(self):
         self.expect("which draws", "", "drawing_program.cpp says: which draws")
 
+    def test_a_message_of_the_page(self):
+        self.expect("The link is copied.", "", "web/page/saving.mjs")
+
     def test_a_column(self):
         self.expect("I-DEC", "D", "tables.html", "I-DEC")
 

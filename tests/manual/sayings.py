@@ -87,6 +87,24 @@ def sayings_of(project):
                             yield name, part
 
 
+PAGE_TEXT = re.compile(r'"((?:[^"\\\n]|\\.)*)"|`((?:[^`\\]|\\.)*)`|//[^\n]*|/\*.*?\*/', re.DOTALL)
+OF_THE_BROWSER = re.compile(r"gradient|prefers-|button, ")  # what is not for a person
+
+
+def page_sayings_of(project):
+    """The same of the page for players: (source, part)."""
+    for source in sorted((project / "web/page").glob("*.mjs")):
+        if source.name == "outline.mjs":  # the map's coasts
+            continue
+        for match in PAGE_TEXT.finditer(source.read_text(encoding="utf-8")):
+            for part in re.split(r"\$\{[^}]*\}?|\[$", match.group(1) or match.group(2) or ""):
+                words = " ".join(part.split()).strip(" .,:;()")
+                if re.search(r"[A-Za-z]{2} [A-Za-z]{2}", words) and not OF_THE_BROWSER.search(
+                    words
+                ):
+                    yield f"web/page/{source.name}", words
+
+
 def environment_of(project):
     """The variables of the environment that the program asks for."""
     asked = re.compile(r'(?:getenv|qEnvironmentVariable|qgetenv)\w*\("(\w+)"')
