@@ -9,12 +9,12 @@ Prints a line for each fault; exit status 1 where there is one."""
 import os
 import re
 import shlex
-import shutil
-import subprocess
 import sys
 import tempfile
 from html.parser import HTMLParser
 from pathlib import Path
+
+from program import Program
 
 VOID = {"area", "base", "br", "col", "hr", "img", "input", "link", "meta", "source", "wbr"}
 
@@ -26,6 +26,7 @@ class Page(HTMLParser):
         super().__init__(convert_charrefs=True)
         self.anchors, self.links, self.sources, self.faults = set(), [], [], []
         self.examples, self.writings, self.first_cells = [], [], []
+        self.neighbours = {}
         self._open, self._cells_in_row, self._collects = [], 0, None
         self.feed(path.read_text(encoding="utf-8"))
         self.close()
@@ -43,6 +44,8 @@ class Page(HTMLParser):
             self.anchors.add(given["id"])
         if tag == "a" and "href" in given:
             self.links.append(given["href"])
+            if "rel" in given:
+                self.neighbours[given["rel"]] = given["href"]
         if tag == "link":
             self.sources.append(given["href"])
         if "src" in given:
@@ -110,6 +113,17 @@ def check_links(manual, pages):
         yield "manual.css fetches something"
 
 
+def check_order(pages):
+    """Whether turning the pages, forward and back, goes through all of them as the contents list them."""
+    listed = [link for link in pages["index.html"].links if link in pages]
+    order = ["index.html", *dict.fromkeys(listed)]
+    for name, after in zip(order, order[1:] + [None]):
+        if name in pages and pages[name].neighbours.get("next") != after:
+            yield f"{name} is not followed by {after}, as in the contents"
+        if after in pages and name != "index.html" and pages[after].neighbours.get("prev") != name:
+            yield f"{after} does not come after {name}, as in the contents"
+
+
 def luminance(colour):
     """How much light a colour such as #26232e gives, from 0 to 1."""
     shares = [int(colour[k : k + 2], 16) / 255 for k in (1, 3, 5)]
@@ -135,62 +149,6 @@ def check_colours(manual):
                         f"manual.css: {ink} {look[ink]} on {ground} {look[ground]} has a contrast"
                         f" of {light[1] / light[0]:.2f}"
                     )
-
-
-# What a page for browsers needs to have a session put into it; the real one is tried in tests/web.
-PAGE = '<script type="application/json" id="session">{}</script>'
-
-
-class Program:
-    """The command, run in a home of its own, beside the tables that the manual speaks of."""
-
-    def __init__(self, path, home, tables=()):
-        self._path, self._home = os.path.abspath(path), home
-        self._known = {}
-        for table in tables:
-            shutil.copy(table, home)
-        self._page = os.path.join(home, "page-of-the-check.html")
-        Path(self._page).write_text(PAGE, encoding="utf-8")
-
-    def lines(self, *arguments):
-        result = subprocess.run(
-            [self._path, *arguments],
-            capture_output=True,
-            text=True,
-            check=False,
-            cwd=self._home,
-            env={"HOME": self._home, "PATH": os.defpath, "VEYRUNA_PAGE": self._page},
-        )
-        return [line.rstrip() for line in (result.stdout + result.stderr).splitlines()]
-
-    def known_lines(self, command):
-        """What the command of an example wrote, which is run once."""
-        if command not in self._known:
-            self._known[command] = self.lines(*shlex.split(command)[1:])
-        return self._known[command]
-
-    def has(self, file):
-        return os.path.exists(os.path.join(self._home, file))
-
-    def clear(self, files):
-        for path in (os.path.join(self._home, file) for file in files):
-            if os.path.isdir(path):
-                shutil.rmtree(path)
-            elif os.path.exists(path):
-                os.remove(path)
-
-    def commands(self):
-        text = "\n".join(self.lines("--help"))
-        return re.findall(r"^  ([a-z][a-z-]*)  ", text.split("Commands:")[1], re.MULTILINE)
-
-    def options(self):
-        """Every name of an option, in the help of the program and of each command."""
-        helps = [self.lines("--help")] + [self.lines("help", name) for name in self.commands()]
-        names = set()
-        for line in (line for text in helps for line in text):
-            option = re.match(r"  (-\S+)", line)
-            names |= set(option.group(1).split(",")) if option else set()
-        return names
 
 
 def check_examples(pages, program):
@@ -231,6 +189,7 @@ def faults_of(manual, program):
     pages = {path.name: Page(path) for path in sorted(manual.glob("*.html"))}
     yield from (f"{name} {fault}" for name, page in pages.items() for fault in page.faults)
     yield from check_links(manual, pages)
+    yield from check_order(pages)
     yield from check_colours(manual)
     yield from check_examples(pages, program)
     yield from check_writings(pages, program)

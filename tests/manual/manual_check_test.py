@@ -8,7 +8,8 @@ import tempfile
 import unittest
 from pathlib import Path
 
-from manual_check import Program, faults_of
+from manual_check import faults_of
+from program import Program
 
 MANUAL, VEYRUNA = Path(sys.argv[1]), sys.argv[2]
 
@@ -53,6 +54,12 @@ class ManualCheckTest(unittest.TestCase):
     def test_page_nobody_reaches(self):
         shutil.copy(self.manual / "map.html", self.manual / "secret.html")
         self.expect("secret.html cannot be reached")
+
+    def test_order_of_the_pages(self):
+        self.replace(
+            "map.html", '<a href="tables.html" rel="prev">', '<a href="time.html" rel="prev">'
+        )
+        self.expect("map.html does not come after tables.html")
 
     def test_link_to_the_outside(self):
         self.replace("map.html", "<h1>", '<h1><a href="https://example.org/">x</a>')

@@ -14,7 +14,7 @@ import sys
 import tempfile
 from pathlib import Path
 
-from manual_check import Program
+from program import Program
 from sayings import environment_of, page_sayings_of, sayings_of
 
 FORMS = "svg,pdf,png,txt,html,json,jsonl,csv"

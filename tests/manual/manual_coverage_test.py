@@ -9,8 +9,8 @@ import tempfile
 import unittest
 from pathlib import Path
 
-from manual_check import Program
 from manual_coverage import lacking
+from program import Program
 from sayings import environment_of, sayings_of
 
 MANUAL, VEYRUNA, PROJECT = Path(sys.argv[1]), sys.argv[2], Path(sys.argv[3])
