@@ -7,6 +7,7 @@
 #include <QStyleFactory>
 #include <QThreadPool>
 #include <cmath>
+#include <utility>
 
 #include "astro/angle.h"
 #include "ui/map/map_area.h"
@@ -91,16 +92,19 @@ ShownProgram::~ShownProgram() {
 
 QImage ShownProgram::pictureOf(QWidget& part) {
   settle();
-  QImage before;
-  QImage picture = part.grab().toImage();
   // What answers a picture being taken, such as tiles that are wanted only now, changes the next.
   const auto* const map = window_->findChild<ui::MapArea*>();
-  while (picture != before || (map != nullptr && map->isVisible() && !map->isComplete())) {
+  constexpr int mostPictures = 200;
+  QImage picture = part.grab().toImage();
+  for (int taken = 1; taken < mostPictures; ++taken) {
     settle();
-    before = picture;
-    picture = part.grab().toImage();
+    const QImage before = std::exchange(picture, part.grab().toImage());
+    const bool isWhole = map == nullptr || !map->isVisible() || map->isComplete();
+    if (isWhole && picture == before) {
+      return picture.convertToFormat(QImage::Format_RGB32);
+    }
   }
-  return picture.convertToFormat(QImage::Format_RGB32);
+  astro::stopOnBrokenInvariant("a part of the window comes to rest");
 }
 
 void ShownProgram::pointAt(QWidget& part, QPointF point) {
