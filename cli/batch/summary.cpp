@@ -21,10 +21,10 @@ qsizetype widthOf(const std::string& text) {
   return QString::fromStdString(text).size();
 }
 
-std::string joined(const std::vector<std::string>& texts, const std::string& between) {
+std::string withCommas(const std::vector<std::string>& texts) {
   std::string all;
   for (const std::string& text : texts) {
-    all += (all.empty() ? "" : between) + text;
+    all += (all.empty() ? "" : ", ") + text;
   }
   return all;
 }
@@ -38,7 +38,7 @@ Cells cellsOf(const BatchRow& row, const RowOutcome& outcome) {
   return {std::to_string(row.line), words::asListed(row.name),
           isUsable ? documents::textOf(documents::Document::date, row.sky.observer)
                    : words::asListed(row.date),
-          words::asListed(isUsable ? row.sky.place : row.place), joined(last, ", ")};
+          words::asListed(isUsable ? row.sky.place : row.place), withCommas(last)};
 }
 
 std::string lineOf(const Cells& cells, const std::array<qsizetype, 4>& widths) {
