@@ -25,6 +25,10 @@ QString nameOf(const ui::TabView& view) {
          QString::fromLatin1(view.icon).replace(QLatin1Char('_'), QLatin1Char('-'));
 }
 
+QString bare(const QString& name) {
+  return name + QStringLiteral(".png");
+}
+
 /// The evening with which the manual begins; for the horoscope one on which the chords leave the
 /// names alone.
 Evening eveningFor(OutputTab tab) {
@@ -94,9 +98,9 @@ Pictures everyView(Look look, QSize size) {
   setLook(look);
   Pictures all;
   for (const ui::TabView& view : ui::tabViews) {
-    all.push_back({{nameOf(view)}, pictureOfTab(size, view.tab)});
+    all.push_back({{bare(nameOf(view))}, pictureOfTab(size, view.tab)});
   }
-  all.push_back({{QStringLiteral("sidebar")}, sidebar(size)});
+  all.push_back({{bare(QStringLiteral("sidebar"))}, sidebar(size)});
   // The map enlarged, about its middle: four steps and all of them.
   ShownProgram shown(size, eveningOf("first-tour"));
   shown.window().selectTab(OutputTab::location);
@@ -105,9 +109,9 @@ Pictures everyView(Look look, QSize size) {
     for (int step = 0; step < steps; ++step) {
       zoomIn.click();
     }
-    all.push_back({{QLatin1String(name)}, shown.pictureOf(shown.window())});
+    all.push_back({{bare(QLatin1String(name))}, shown.pictureOf(shown.window())});
   }
-  all.push_back({{QStringLiteral("about")}, shown.pictureOf(*shown.program().openAbout())});
+  all.push_back({{bare(QStringLiteral("about"))}, shown.pictureOf(*shown.program().openAbout())});
   return all;
 }
 

@@ -9,7 +9,7 @@ namespace veyruna::pictures {
 Pictures windowPictures();
 
 /// Every tab, the map enlarged, the sidebar and About, in one look and size (points), to be looked
-/// at; their files are bare names.
+/// at; their files stand in no folder.
 Pictures everyView(Look look, QSize size);
 
 }  // namespace veyruna::pictures
