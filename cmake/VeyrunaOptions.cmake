@@ -60,6 +60,11 @@ function(veyruna_in_tree variable path)
   endif()
 endfunction()
 
+if(VEYRUNA_COVERAGE)
+  # Without optimising: a line is a line. Threads count together.
+  set(CMAKE_CXX_FLAGS_DEBUG "-O0 -g1 --coverage -fprofile-update=atomic")
+endif()
+
 # veyruna_room(<name> SOURCES <file>... [USES <room>...])
 # One static library for one room: veyruna_<name>, its headers included as "<name>/file.h".
 function(veyruna_room name)

@@ -77,6 +77,15 @@ TEST_F(FileFaults, WhatCannotBePutOnDiskIsNotPutInPlace) {
   }
 }
 
+/// The new file is there whole; whether it stays there without power is what cannot be promised.
+TEST_F(FileFaults, AFolderThatCannotBePutOnDiskIsToldUnlessNoneThereCan) {
+  EXPECT_EQ(reasonUnder({.folderSyncRefuses = EIO}), EIO);
+  expectReplaced();
+  restore();
+  EXPECT_EQ(reasonUnder({.folderSyncRefuses = EINVAL}), 0);
+  expectReplaced();
+}
+
 TEST_F(FileFaults, AReplacementThatFailsLeavesTheOldFile) {
   for (const bool needsNames : {false, true}) {
     EXPECT_EQ(reasonUnder({.needsNames = needsNames, .renameRefuses = EIO}), EIO);

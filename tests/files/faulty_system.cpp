@@ -65,7 +65,10 @@ int __wrap_rename(const char* from, const char* to) {
 
 int __wrap_fsync(int file) {
   ++syncCount;
-  return current.syncRefuses != 0 ? refused(current.syncRefuses) : __real_fsync(file);
+  struct stat status {};
+  const bool isFolder = fstat(file, &status) == 0 && S_ISDIR(status.st_mode);
+  const int reason = isFolder ? current.folderSyncRefuses : current.syncRefuses;
+  return reason != 0 ? refused(reason) : __real_fsync(file);
 }
 
 int __wrap_posix_fallocate(int file, off_t from, off_t size) {

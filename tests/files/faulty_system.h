@@ -10,7 +10,8 @@ struct Faults {
   bool needsNames = false;        ///< the file system has no files without a name
   int folderRefuses = 0;          ///< errno with which the folder takes nothing new
   int renameRefuses = 0;          ///< errno with which no file can be replaced
-  int syncRefuses = 0;            ///< errno of fsync()
+  int syncRefuses = 0;            ///< errno of fsync() of a file
+  int folderSyncRefuses = 0;      ///< errno of fsync() of a folder
   bool promisesNoRoom = false;    ///< the file system cannot promise room
   std::size_t room = everything;  ///< bytes the disk takes until it is full
 

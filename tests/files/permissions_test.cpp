@@ -45,6 +45,12 @@ TEST_F(Permissions, AFileThatMayNotBeWrittenStaysAsItIs) {
   EXPECT_EQ(namesIn(folder.path()), Names{"file.txt"});
 }
 
+TEST_F(Permissions, AFileIsReplacedInAFolderThatMayNotBeRead) {
+  permit(0666, 0333);
+  EXPECT_EQ(asNobody(file, shorter), 0);
+  EXPECT_EQ(fileContent(file), shorter);
+}
+
 TEST_F(Permissions, AFileIsWrittenOverWhereOnlyItsFolderMayNotBeWritten) {
   permit(0666, 0555);
   struct stat old {};
