@@ -19,6 +19,10 @@ def parents():
     return found
 
 
+def children(first):
+    return [child for child, parent in parents().items() if parent == first]
+
+
 def family(first):
     """The process `first` with all that descend from it."""
     parent_of = parents()
