@@ -146,8 +146,8 @@ TEST_F(Soak, RandomUseBreaksNothing) {
   }
   std::printf("%d controls and menu entries driven\n", controls);
   EXPECT_GT(controls, isLong ? 60 : 30);
-  EXPECT_GT(QDir(exports).count(), isLong ? 2U : 0U);
   if (isLong) {
+    EXPECT_GT(QDir(exports).entryList(QDir::Files).size(), 2);
     tests::expectFlat(uses, 3.0);  // a chart's pixels at the size of a rest
   }
 }
