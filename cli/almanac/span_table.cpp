@@ -11,17 +11,17 @@ namespace veyruna::cli {
 
 namespace {
 
-constexpr std::string_view between = "  ";
+constexpr std::string_view columnGap = "  ";
 constexpr std::size_t clockWidth = 5;
 constexpr std::size_t lengthWidth = 10;
 
 std::string onTheLeft(std::string text, std::size_t width) {
   text.resize(std::max(width, text.size()), ' ');
-  return text.append(between);
+  return text.append(columnGap);
 }
 
 std::string onTheRight(const std::string& text, std::size_t width) {
-  return std::string(width - std::min(width, text.size()), ' ') + text + std::string(between);
+  return std::string(width - std::min(width, text.size()), ' ') + text + std::string(columnGap);
 }
 
 /// To a second: the table's edges are no better than a tenth of one.
