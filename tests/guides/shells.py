@@ -26,14 +26,14 @@ bind 'set show-all-if-ambiguous on'; bind 'set page-completions off'
 bind 'set completion-query-items -1'; bind 'set bell-style none'
 bind 'set enable-bracketed-paste off'
 bind -x '"\\C-g": echo {SAY_END}'
-source {{folder}}/veyruna
+source '{{folder}}/veyruna'
 PS1='{PROMPT}'
 """,
     ),
     "zsh": (
         ["zsh", "-f", "-i"],
         f"""
-fpath=({{folder}} $fpath); autoload -Uz compinit; compinit -u -D
+fpath=('{{folder}}' $fpath); autoload -Uz compinit; compinit -u -D
 LISTMAX=100000; setopt no_beep no_prompt_sp no_auto_menu
 said() {{{{ zle -I; print -r -- {SAY_END} }}}}; zle -N said; bindkey '^G' said
 PS1='{PROMPT}'
@@ -94,7 +94,7 @@ class Fish:
     """Fish tells what it would offer without a terminal."""
 
     def __init__(self, folder, environment):
-        self._source = f"source {folder}/veyruna.fish; "
+        self._source = f"source '{folder}/veyruna.fish'; "
         self._environment = environment
 
     def lines(self, line):
