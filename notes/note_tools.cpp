@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "words/listing.h"
+
 namespace veyruna::notes {
 
 std::optional<NoteTool> noteToolOf(std::string_view word) {
@@ -10,11 +12,7 @@ std::optional<NoteTool> noteToolOf(std::string_view word) {
 }
 
 std::string noteToolWords(std::string_view between) {
-  std::string words;
-  for (const NoteToolEntry& entry : allNoteTools) {
-    words.append(words.empty() ? "" : between).append(entry.word);
-  }
-  return words;
+  return words::joined(allNoteTools, between, &NoteToolEntry::word);
 }
 
 }  // namespace veyruna::notes

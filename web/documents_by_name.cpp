@@ -1,5 +1,7 @@
 #include "web/documents_by_name.h"
 
+#include "words/listing.h"
+
 namespace veyruna::web {
 
 std::string nameOf(const documents::Entry& document) {
@@ -18,13 +20,7 @@ std::string nameOf(const documents::Entry& document) {
 }
 
 std::string documentNames(bool (*isAccepted)(const documents::Entry&)) {
-  std::string names;
-  for (const documents::Entry& document : documents::allDocuments) {
-    if (isAccepted(document)) {
-      names += (names.empty() ? "" : ", ") + nameOf(document);
-    }
-  }
-  return names;
+  return words::joined(documents::allDocuments | std::views::filter(isAccepted), ", ", nameOf);
 }
 
 }  // namespace veyruna::web

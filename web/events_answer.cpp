@@ -5,6 +5,7 @@
 #include "web/answers.h"
 #include "web/stretch.h"
 #include "words/event_kinds.h"
+#include "words/listing.h"
 
 namespace veyruna::web {
 
@@ -12,14 +13,6 @@ namespace {
 
 constexpr std::array<std::string_view, 8> eventNames = {"from", "to",   "for",        "kinds",
                                                         "lat",  "long", "place_name", "local"};
-
-std::string joinedKinds(const Question& question) {
-  std::string list;
-  for (const std::string& kind : question.all("kinds")) {
-    list += (list.empty() ? "" : ",") + kind;
-  }
-  return list;
-}
 
 }  // namespace
 
@@ -30,7 +23,7 @@ std::string eventsAnswer(const Question& question) {
   if (lookout) {
     query.places.push_back(lookout->place);
   }
-  words::readEventKinds("kinds", joinedKinds(question), placeIsGivenBy, query);
+  words::readEventKinds("kinds", words::joined(question.all("kinds"), ","), placeIsGivenBy, query);
   Rows rows(records::eventsType());
   almanac::forEachEventUntil(query, [&](const almanac::Event& event) {
     return rows.write(records::eventRow(event, lookout));

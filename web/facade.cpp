@@ -4,6 +4,7 @@
 #include <array>
 #include <exception>
 
+#include "words/listing.h"
 #include "words/values.h"
 
 namespace veyruna::web {
@@ -11,10 +12,7 @@ namespace veyruna::web {
 namespace {
 
 std::string answerTo(const Question& question, std::span<const Answerer> answerers) {
-  std::string accepted;
-  for (const Answerer& answerer : answerers) {
-    accepted.append(accepted.empty() ? "one of " : ", ").append(answerer.ask);
-  }
+  const std::string accepted = "one of " + words::joined(answerers, ", ", &Answerer::ask);
   const std::string ask = question.required("ask", accepted);
   const auto found = std::ranges::find(answerers, ask, &Answerer::ask);
   if (found == answerers.end()) {

@@ -4,6 +4,7 @@
 #include <charconv>
 
 #include "words/dates.h"
+#include "words/listing.h"
 #include "words/quoting.h"
 #include "words/usage_error.h"
 #include "words/values.h"
@@ -29,14 +30,6 @@ std::string unescaped(std::string_view text) {
   return plain;
 }
 
-std::string joined(std::span<const std::string_view> names) {
-  std::string text;
-  for (const std::string_view name : names) {
-    text.append(text.empty() ? "" : ", ").append(name);
-  }
-  return text;
-}
-
 }  // namespace
 
 Question::Question(std::string_view query) {
@@ -54,7 +47,7 @@ void Question::acceptOnly(std::span<const std::string_view> names) const {
   for (const auto& [name, values] : values_) {
     if (name != "ask" && std::ranges::count(names, name) == 0) {
       throw words::UsageError(words::inQuotes(name) + " is nothing that can be said here; give " +
-                              joined(names));
+                              words::joined(names));
     }
   }
 }

@@ -5,6 +5,7 @@
 #include <cstdio>
 #include <fcntl.h>
 #include <filesystem>
+#include <ranges>
 #include <system_error>
 #include <unistd.h>
 
@@ -16,6 +17,7 @@
 #include "cli/written/asked_forms.h"
 #include "cli/written/document_writer.h"
 #include "cli/written/progress.h"
+#include "words/listing.h"
 #include "words/quoting.h"
 #include "words/usage_error.h"
 #include "words/values.h"
@@ -31,13 +33,9 @@ using documents::Form;
 constexpr std::string_view usualDocuments = "horoscope,star-map";
 
 std::string allCommands() {
-  std::string commands;
-  for (const Entry& entry : documents::allDocuments) {
-    if (!entry.command.empty()) {
-      commands.append(commands.empty() ? "" : ", ").append(entry.command);
-    }
-  }
-  return commands;
+  const auto hasCommand = [](const Entry& entry) { return !entry.command.empty(); };
+  return words::joined(documents::allDocuments | std::views::filter(hasCommand), ", ",
+                       &Entry::command);
 }
 
 /// The documents whose command words those are, in their order.
@@ -113,14 +111,6 @@ void makeFolder(const std::string& folder) {
   }
 }
 
-std::string joined(const std::vector<std::string>& problems) {
-  std::string text;
-  for (const std::string& problem : problems) {
-    text += (text.empty() ? "" : "; ") + problem;
-  }
-  return text;
-}
-
 }  // namespace
 
 BatchCommand::BatchCommand(const Typed& typed, const std::vector<Form>& forms,
@@ -147,7 +137,7 @@ void BatchCommand::run() const {
   std::vector<std::size_t> usable;
   RowFileNames rowFileNames(files_);
   for (std::size_t i = 0; i < rows.size(); ++i) {
-    outcomes[i].problem = joined(rows[i].problems);
+    outcomes[i].problem = words::joined(rows[i].problems, "; ");
     if (rows[i].problems.empty()) {
       names[i] = rowFileNames.namesOf(rows[i]);
       usable.push_back(i);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "words/listing.h"
 #include "words/quoting.h"
 #include "words/usage_error.h"
 #include "words/values.h"
@@ -11,19 +12,7 @@ namespace veyruna::cli {
 namespace {
 
 std::string listed(const std::vector<std::string>& names) {
-  std::string text;
-  for (const std::string& name : names) {
-    text += (text.empty() ? "" : ", ") + words::inQuotes(name);
-  }
-  return text;
-}
-
-std::string allColumns() {
-  std::string text;
-  for (const std::string_view name : columnNames) {
-    text.append(text.empty() ? "" : ", ").append(name);
-  }
-  return text;
+  return words::joined(names, ", ", words::inQuotes);
 }
 
 }  // namespace
@@ -46,9 +35,10 @@ Columns::Columns(const CsvRecord& header, bool needsPlace) : width_(header.field
   }
   for (const Column column : {Column::name, Column::date, Column::place}) {
     if (!indexOf(column) && (column != Column::place || needsPlace)) {
-      throw words::UsageError(
-          "the column " + words::inQuotes(columnNames.at(static_cast<std::size_t>(column))) +
-          " is missing; the header has " + listed(header.fields) + ", known are " + allColumns());
+      throw words::UsageError("the column " +
+                              words::inQuotes(columnNames.at(static_cast<std::size_t>(column))) +
+                              " is missing; the header has " + listed(header.fields) +
+                              ", known are " + words::joined(columnNames));
     }
   }
 }

@@ -5,6 +5,7 @@
 #include <array>
 
 #include "documents/documents.h"
+#include "words/listing.h"
 #include "words/quoting.h"
 
 namespace veyruna::cli {
@@ -21,14 +22,6 @@ qsizetype widthOf(const std::string& text) {
   return QString::fromStdString(text).size();
 }
 
-std::string withCommas(const std::vector<std::string>& texts) {
-  std::string all;
-  for (const std::string& text : texts) {
-    all += (all.empty() ? "" : ", ") + text;
-  }
-  return all;
-}
-
 Cells cellsOf(const BatchRow& row, const RowOutcome& outcome) {
   const bool isUsable = row.problems.empty();
   std::vector<std::string> last = outcome.files;
@@ -38,7 +31,7 @@ Cells cellsOf(const BatchRow& row, const RowOutcome& outcome) {
   return {std::to_string(row.line), words::asListed(row.name),
           isUsable ? documents::textOf(documents::Document::date, row.sky.observer)
                    : words::asListed(row.date),
-          words::asListed(isUsable ? row.sky.place : row.place), withCommas(last)};
+          words::asListed(isUsable ? row.sky.place : row.place), words::joined(last)};
 }
 
 std::string lineOf(const Cells& cells, const std::array<qsizetype, 4>& widths) {

@@ -7,6 +7,7 @@
 #include "cli/written/document_writer.h"
 #include "records/all_types.h"
 #include "records/schema.h"
+#include "words/listing.h"
 #include "words/quoting.h"
 #include "words/usage_error.h"
 #include "words/values.h"
@@ -34,11 +35,8 @@ std::string schemaList() {
 const records::RecordType& typeNamed(const std::string& name) {
   const auto* const found = std::ranges::find(records::allTypes, name, &TypeEntry::name);
   if (found == records::allTypes.end()) {
-    std::string names;
-    for (const TypeEntry& entry : records::allTypes) {
-      names.append(names.empty() ? "" : ", ").append(entry.name);
-    }
-    throw words::UsageError("schema: " + words::inQuotes(name) + " has none; give one of " + names);
+    throw words::UsageError("schema: " + words::inQuotes(name) + " has none; give one of " +
+                            words::joined(records::allTypes, ", ", &TypeEntry::name));
   }
   return found->type();
 }

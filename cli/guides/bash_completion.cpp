@@ -1,5 +1,6 @@
 #include "cli/guides/completion.h"
 #include "cli/guides/shell_words.h"
+#include "words/listing.h"
 
 namespace veyruna::cli {
 
@@ -17,9 +18,9 @@ std::string callOf(const Offered& offered) {
     case Offer::places:
       return "_veyruna_places \"$1\" \"$word\"";
     case Offer::words:
-      return "_veyruna_words \"$word\" " + joined(offered.words, " ");
+      return "_veyruna_words \"$word\" " + words::joined(offered.words, " ");
     case Offer::listOfWords:
-      return "_veyruna_list \"$word\" " + joined(offered.words, " ");
+      return "_veyruna_list \"$word\" " + words::joined(offered.words, " ");
   }
   return "";
 }
@@ -64,12 +65,16 @@ _veyruna() {
       =) ((++i)) ;;
       )";
 
+std::string namesOf(const OptionGuide& option) {
+  return words::joined(option.names, " ");
+}
+
 }  // namespace
 
 std::string bashCompletion(const Guide& guide) {
   std::string text = "# Completes what is typed behind veyruna.\n";
   text.append(bashFunctions).append(placeNamesOfTable).append(bashBeginning);
-  text += joined(namesWithValues(guide), " | ") +
+  text += words::joined(namesWithValues(guide), " | ") +
           ") [[ ${COMP_WORDS[i + 1]} == = ]] || ((++i)) ;;\n"
           "      -*) ;;\n"
           "      *)\n"
@@ -80,26 +85,19 @@ std::string bashCompletion(const Guide& guide) {
           "  done\n"
           "\n"
           "  case $before in\n";
-  std::string general;
   for (const OptionGuide& option : differentOptions(guide)) {
     if (!option.value.empty()) {
       const std::string call = callOf(option.offered);
-      text += "    " + joined(option.names, " | ") + ")\n" +
+      text += "    " + words::joined(option.names, " | ") + ")\n" +
               (call.empty() ? "" : "      " + call + "\n") + "      return\n      ;;\n";
     }
   }
-  for (const OptionGuide& option : guide.options) {
-    general += (general.empty() ? "" : " ") + joined(option.names, " ");
-  }
-  text += "  esac\n\n  if [[ $word == -* ]]; then\n    local options='" + general +
-          "'\n    case $command in\n";
+  text += "  esac\n\n  if [[ $word == -* ]]; then\n    local options='" +
+          words::joined(guide.options, " ", namesOf) + "'\n    case $command in\n";
   for (const CommandGuide& command : guide.commands) {
     if (!command.options.empty()) {
-      text += "      " + command.name + ") options+='";
-      for (const OptionGuide& option : command.options) {
-        text += " " + joined(option.names, " ");
-      }
-      text += "' ;;\n";
+      text += "      " + command.name + ") options+=' " +
+              words::joined(command.options, " ", namesOf) + "' ;;\n";
     }
   }
   text +=

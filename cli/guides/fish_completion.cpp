@@ -1,5 +1,6 @@
 #include "cli/guides/completion.h"
 #include "cli/guides/shell_words.h"
+#include "words/listing.h"
 
 namespace veyruna::cli {
 
@@ -29,9 +30,9 @@ std::string valueOf(const Offered& offered) {
     case Offer::places:
       return " -x -a '(__veyruna_places)'";
     case Offer::words:
-      return " -x -a " + quotedForFish(joined(offered.words, " "));
+      return " -x -a " + quotedForFish(words::joined(offered.words, " "));
     case Offer::listOfWords:
-      return " -x -a '(__fish_append , " + joined(offered.words, " ") + ")'";
+      return " -x -a '(__fish_append , " + words::joined(offered.words, " ") + ")'";
   }
   return "";
 }
@@ -82,7 +83,7 @@ std::string fishCompletion(const Guide& guide) {
       "# Completes what is typed behind veyruna.\n\nfunction __veyruna_places\n"
       "    veyruna locations --format csv 2>/dev/null | ";
   text.append(placeNamesOfTable).append("\nend\n").append(fishCommand);
-  text.append(joined(namesWithValues(guide), " ")).append(fishRest);
+  text.append(words::joined(namesWithValues(guide), " ")).append(fishRest);
   for (const CommandGuide& entry : guide.commands) {
     text += "complete -c veyruna -n 'not __veyruna_command >/dev/null' -a " + entry.name + " -d " +
             quotedForFish(entry.summary) + "\n";
@@ -100,7 +101,7 @@ std::string fishCompletion(const Guide& guide) {
         text += "complete -c veyruna" + condition + " -F\n";
       } else if (word.offered.kind == Offer::words) {
         text += "complete -c veyruna" + condition + " -a " +
-                quotedForFish(joined(word.offered.words, " ")) + "\n";
+                quotedForFish(words::joined(word.offered.words, " ")) + "\n";
       }
     }
   }

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "cli/guides/shell_words.h"
+#include "words/listing.h"
 
 namespace veyruna::cli {
 
@@ -45,7 +46,7 @@ std::string entryOf(const OptionGuide& option) {
                     (option.value.empty() ? "" : " \\fI" + escapedForRoff(option.value) + "\\fR"));
   }
   const std::string head =
-      names.empty() ? "\\fI" + escapedForRoff(option.value) + "\\fR" : joined(names, ", ");
+      names.empty() ? "\\fI" + escapedForRoff(option.value) + "\\fR" : words::joined(names, ", ");
   return ".TP\n" + head + "\n" + escapedForRoff(option.description) + ".\n";
 }
 

@@ -12,14 +12,6 @@ std::string quotedForShell(std::string_view text) {
   return quoted + "'";
 }
 
-std::string joined(const std::vector<std::string>& words, std::string_view between) {
-  std::string text;
-  for (const std::string& word : words) {
-    text.append(text.empty() ? "" : between).append(word);
-  }
-  return text;
-}
-
 std::vector<OptionGuide> differentOptions(const Guide& guide) {
   std::vector<OptionGuide> options = guide.options;
   for (const CommandGuide& command : guide.commands) {

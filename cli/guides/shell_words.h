@@ -11,8 +11,6 @@ namespace veyruna::cli {
 /// In single quotes, as bash and zsh read them.
 std::string quotedForShell(std::string_view text);
 
-std::string joined(const std::vector<std::string>& words, std::string_view between);
-
 /// The options of all commands and of each, none twice, in their order.
 std::vector<OptionGuide> differentOptions(const Guide& guide);
 

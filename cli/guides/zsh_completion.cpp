@@ -1,5 +1,6 @@
 #include "cli/guides/completion.h"
 #include "cli/guides/shell_words.h"
+#include "words/listing.h"
 
 namespace veyruna::cli {
 
@@ -28,9 +29,9 @@ std::string actionOf(const Offered& offered) {
     case Offer::places:
       return "_veyruna_places";
     case Offer::words:
-      return "(" + joined(offered.words, " ") + ")";
+      return "(" + words::joined(offered.words, " ") + ")";
     case Offer::listOfWords:
-      return "_sequence compadd - " + joined(offered.words, " ");
+      return "_sequence compadd - " + words::joined(offered.words, " ");
   }
   return "";
 }
@@ -43,7 +44,7 @@ std::string argumentOf(const OptionGuide& option) {
 std::string linesOf(const OptionGuide& option) {
   std::string lines;
   for (const std::string& name : option.names) {
-    std::string line = option.names.size() > 1 ? "(" + joined(option.names, " ") + ")" : "";
+    std::string line = option.names.size() > 1 ? "(" + words::joined(option.names, " ") + ")" : "";
     line += name;
     if (!option.value.empty()) {
       line += name.starts_with("--") ? "=" : "+";

@@ -2,9 +2,11 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
+#include <ranges>
 
 #include "cli/typed/option_values.h"
 #include "words/dates.h"
+#include "words/listing.h"
 #include "words/quoting.h"
 #include "words/usage_error.h"
 
@@ -118,11 +120,7 @@ void Grammar::refuseTwoOf(const char* whole, const std::string& typed,
 }
 
 std::string Grammar::commandNames() const {
-  std::string names;
-  for (const CLI::App* const command : language_.app().get_subcommands(nullptr)) {
-    names += (names.empty() ? "" : ", ") + command->get_name();
-  }
-  return names;
+  return words::joined(language_.app().get_subcommands(nullptr), ", ", &CLI::App::get_name);
 }
 
 std::string Grammar::chosenCommand() const {
@@ -147,13 +145,11 @@ void Grammar::refuseExtra(const std::string& extra) const {
 }
 
 std::string Grammar::commandsWith(const std::string& option) const {
-  std::string names;
-  for (const CLI::App* const command : language_.app().get_subcommands(nullptr)) {
-    if (command->get_option_no_throw(option) != nullptr) {
-      names += (names.empty() ? "" : " or ") + command->get_name();
-    }
-  }
-  return names;
+  const auto hasIt = [&option](const CLI::App* command) {
+    return command->get_option_no_throw(option) != nullptr;
+  };
+  return words::joined(language_.app().get_subcommands(nullptr) | std::views::filter(hasIt), " or ",
+                       &CLI::App::get_name);
 }
 
 }  // namespace veyruna::cli

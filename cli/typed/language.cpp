@@ -10,6 +10,7 @@
 #include "documents/forms.h"
 #include "notes/note_tools.h"
 #include "records/all_types.h"
+#include "words/listing.h"
 
 namespace veyruna::cli {
 
@@ -201,14 +202,10 @@ void Language::addEvents() {
                         " --from 720-01-01 --for 1 year --kind eclipse,season --location Wendmark");
   const std::vector<std::string> kinds =
       column(almanac::allEventKinds, &almanac::EventKindEntry::word);
-  std::string listed;
-  for (const std::string& kind : kinds) {
-    listed += (listed.empty() ? "" : ", ") + kind;
-  }
   add(*events, {.name = "--kind",
                 .type = "KIND[,KIND...]",
                 .typed = typed_.kinds,
-                .description = "Instead of all: of " + listed +
+                .description = "Instead of all: of " + words::joined(kinds) +
                                "; conjunction:all and opposition:all pair the sun and "
                                "the moon, too",
                 .offered = listOf(kinds)});

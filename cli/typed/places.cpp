@@ -15,6 +15,7 @@
 #include "model/qt_settings_store.h"
 #include "model/stored_settings.h"
 #include "words/angles.h"
+#include "words/listing.h"
 #include "words/quoting.h"
 #include "words/usage_error.h"
 
@@ -77,12 +78,10 @@ CityPreset placeNamed(const std::string& name, const std::string& what) {
   const QList<CityPreset> places = knownPlaces();
   const auto found = std::find_if(places.begin(), places.end(), isWanted);
   if (found == places.end()) {
-    std::string known;
-    for (const CityPreset& place : places) {
-      known += (known.empty() ? "" : ", ") + listedName(place).toStdString();
-    }
+    const auto nameOf = [](const CityPreset& place) { return listedName(place).toStdString(); };
     throw words::UsageError(what + ": " + words::inQuotes(name) +
-                            " is not a saved place; known are " + known);
+                            " is not a saved place; known are " +
+                            words::joined(places, ", ", nameOf));
   }
   return *found;
 }

@@ -6,6 +6,7 @@
 #include <unistd.h>
 
 #include "cli/written/document_writer.h"
+#include "words/listing.h"
 #include "words/quoting.h"
 #include "words/usage_error.h"
 #include "words/values.h"
@@ -58,10 +59,7 @@ std::vector<Form> listedForms(const std::string& list) {
     const std::size_t comma = std::min(list.find(',', from), list.size());
     const std::optional<Form> form = documents::formOf(list.substr(from, comma - from));
     if (!form) {
-      std::string accepted;
-      for (const FormEntry& entry : documents::allForms) {
-        accepted.append(accepted.empty() ? "" : ", ").append(entry.extension);
-      }
+      const std::string accepted = words::joined(documents::allForms, ", ", &FormEntry::extension);
       words::refuse("--format", list,
                     "one or several of " + accepted + ", with commas between them");
     }

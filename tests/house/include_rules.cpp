@@ -61,7 +61,7 @@ const std::map<std::string, Room, std::less<>>& rooms() {
        {{"astro", "words", "reports", "charts", "almanac/motion", "almanac/events",
          "almanac/search", "documents", "records", "notes", "cli/typed", "cli/written"},
         Libraries::any}},
-      {"cli/guides", {{"cli/typed"}, Libraries::standard}},
+      {"cli/guides", {{"words", "cli/typed"}, Libraries::standard}},
       {"cli/batch",
        {{"astro", "words", "documents", "files", "model", "cli/typed", "cli/written",
          "cli/documents"},
