@@ -21,6 +21,9 @@ const style = (css) => `() => void document.querySelector("style").append(${JSON
 const layoutBreaks = {
   "the document is": add(`<div style="width: 500px; height: 9px"></div>`),
   "reaches from": add(`<p style="position: fixed; left: -60px; top: 0">aside</p>`),
+  "scrolls sideways": add(
+    `<div style="width: 90px; overflow: auto"><p style="width: 95px">wide</p></div>`,
+  ),
   "is cut at its side": add(
     `<p style="width: 40px; overflow: hidden; white-space: nowrap">much too long</p>`,
   ),

@@ -46,6 +46,9 @@ function faultsOfLayout() {
   for (const element of all) {
     const box = element.getBoundingClientRect();
     const style = getComputedStyle(element);
+    // Only the wide tables of figures are looked through from side to side.
+    const aside = scrolls(style, "X") && element.scrollWidth > element.clientWidth;
+    if (aside && element.id !== "table-box") faults.push(`${words(element)} scrolls sideways`);
     const sticksOut = box.left < -0.5 || box.right > root.clientWidth + 0.5;
     if (sticksOut && box.width > 0 && !scrolledAside(element)) {
       faults.push(
