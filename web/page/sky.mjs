@@ -76,9 +76,9 @@ export function createSky(engine, session) {
     change(next) {
       const wanted = { ...state, ...next };
       let held;
-      if (session.isForPlayers && !isSamePlace(wanted, state)) {
+      if (session.isForPlayers) {
+        held = isSamePlace(wanted, session.place) ? undefined : "place";
         Object.assign(wanted, session.place);
-        held = "place";
       }
       if (wanted.baseTime < session.from) {
         wanted.baseTime = session.from;

@@ -204,6 +204,70 @@ pageTests("players", (test) => {
     assert.ok(!controls.some((name) => /Latitude|Longitude|Map of/.test(name)), `${controls}`);
   });
 
+  test("cannot creep away from their place in steps that do not show", async (open) => {
+    const page = await open(desk, { hash: "", session: await session({ player: true }) });
+    for (const clock of ["20:00", "21:00"]) {
+      await page.evaluate(
+        (clock) => void (location.hash = `#720-06-12T${clock};13.4000005N,8.8E`),
+        clock,
+      );
+      await page.until(
+        "the place is theirs to the last digit",
+        (clock) => decodeURIComponent(location.hash) === `#720-06-12T${clock};13.4N,8.8E`,
+        clock,
+      );
+    }
+  });
+
+  test("see sun and moon by day, and nothing else of the sky", async (open) => {
+    const day = { from: "720-08-28T14:00", to: "720-08-28T22:00" };
+    const page = await open(desk, {
+      hash: "",
+      session: { ...ebb, ...day, place: "Ebb", player: true },
+    });
+    /** How many of the marks are drawn, and how many names of them are seen. */
+    const seen = async (moment, isMeant) => {
+      await page.evaluate((moment) => void (location.hash = `#${moment}`), moment);
+      await restsAt(page, moment.slice(-5));
+      const { marks } = (await engine()).marks("star-map", { moment, ...ebb }).value;
+      return page.evaluate(
+        (marks) => {
+          const drawn = [...document.querySelectorAll("#star-map .sheet *")].filter(
+            (one) => getComputedStyle(one).display !== "none",
+          );
+          const points = drawn
+            .filter(({ localName }) => localName === "circle")
+            .map((circle) => [circle.cx.baseVal.value, circle.cy.baseVal.value]);
+          const texts = drawn
+            .filter(({ localName }) => localName === "text")
+            .map(({ textContent }) => textContent.trim().toLowerCase());
+          const isDrawn = ([x, y]) =>
+            points.some((point) => Math.hypot(point[0] - x, point[1] - y) < 0.01);
+          return {
+            dots: marks.filter(({ dots: [dot] }) => dot && isDrawn(dot)).length,
+            names: marks.filter(({ name }) => texts.includes(name.toLowerCase())).length,
+          };
+        },
+        marks.filter((mark) => isMeant(mark)),
+      );
+    };
+    const isSunOrMoon = ({ kind, name }) => kind === "body" && /Thessil|Ivro/.test(name);
+    const isOther = (mark) => mark.kind !== "sign_boundary" && !isSunOrMoon(mark);
+    assert.deepEqual(await seen(day.from, isOther), { dots: 0, names: 0 });
+    assert.deepEqual(await seen(day.from, isSunOrMoon), { dots: 2, names: 1 });
+    await (await page.select("#star-map")).focus();
+    const told = new Set();
+    for (const key of ["ArrowRight", "ArrowUp", "ArrowLeft", "ArrowDown", "ArrowRight"]) {
+      await page.hands.key(key);
+      told.add((await textOf(page, "#spoken-mark")).split(",")[0]);
+    }
+    assert.deepEqual([...told].sort(), ["Ivro", "Thessil"]);
+    const rows = await textOf(page, "#positions tbody");
+    assert.doesNotMatch(rows, /Bralo|Dunmor|Galvi|Pallox/);
+    const night = await seen(day.to, isOther);
+    assert.ok(night.dots > 100 && night.names > 50, JSON.stringify(night));
+  });
+
   test("see no position below the horizon, at any hour of their night", async (open) => {
     const page = await open(desk, { hash: "", session: await session({ player: true }) });
     const sky = await engine();
