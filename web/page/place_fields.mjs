@@ -49,7 +49,8 @@ export function startPlaceFields(engine, sky) {
     field.addEventListener("input", () => (isTyping = true));
     field.addEventListener("change", () => {
       isTyping = false;
-      const read = engine.moment({ ...sky.asked, [member]: field.value });
+      // Phones put a blank behind what they complete.
+      const read = engine.moment({ ...sky.asked, [member]: field.value.trim() });
       blame(read.ok ? "" : read.error);
       if (read.ok) {
         goTo({ [member]: read.value[member] });

@@ -66,6 +66,7 @@ pageTests("the place", (test) => {
       await openInputs(page);
       for (const [name, typed, place] of [
         ["Latitude", "12.25S", "12.25S,20.9W"],
+        ["Longitude", " 8W ", "12.25S,8W"],
         ["Longitude", "-7", "12.25S,7W"],
         ["Latitude", "90N", "90N,7W"],
         ["Longitude", "25.3e", "90N,25.3E"],
