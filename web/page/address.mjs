@@ -25,6 +25,7 @@ function parts(hash) {
 
 function follow(engine, sky) {
   if (location.hash.length < 2) {
+    sky.refresh();
     return;
   }
   const read = engine.moment({ ...sky.asked, ...parts(location.hash) });

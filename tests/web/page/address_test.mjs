@@ -61,6 +61,12 @@ pageTests("the address", (test) => {
     await page.until("it is whole again", () => location.hash === "#721-01-02T03:04;10N,20E");
   });
 
+  test("is written again where someone empties it", async (open) => {
+    const page = await open(desk);
+    await page.evaluate(() => void (location.hash = ""));
+    await page.until("it is there", (evening) => location.hash === evening, evening);
+  });
+
   for (const nonsense of [
     "soon",
     "720-13-01T00:00;40.5N,20.9W",
