@@ -10,7 +10,9 @@ namespace {
 std::string escapedForHtml(const std::string& text) {
   std::string result;
   for (const char character : text) {
-    if (character == '&') {
+    if (character == '[') {
+      result += "<wbr>[";  // where a long name may go on below
+    } else if (character == '&') {
       result += "&amp;";
     } else if (character == '<') {
       result += "&lt;";
@@ -36,9 +38,9 @@ std::string textOf(const Row& row) {
   std::string names;
   for (const std::string& name : row.option.names) {
     names += (names.empty() ? "<code>" : ", <code>") + name;
-    names += (row.option.value.empty() ? "" : " " + row.option.value) + "</code>";
+    names += (row.option.value.empty() ? "" : " " + escapedForHtml(row.option.value)) + "</code>";
   }
-  return "<tr><td>" + names + "</td><td>" + row.commands + "</td><td>" +
+  return "<tr><th scope=\"row\">" + names + "</th><td>" + row.commands + "</td><td>" +
          escapedForHtml(row.option.description) + "</td></tr>\n";
 }
 

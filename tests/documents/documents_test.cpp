@@ -105,7 +105,8 @@ TEST(DocumentsForPeople, TheManualAndTheReadmeSayWhatEachCommandWrites) {
     }
     const std::string command(entry.command);
     const std::string summary = inACell(entry.summary);
-    EXPECT_NE(manual.find("<tr><td><code>" + command + "</code></td><td>" + summary + "</td></tr>"),
+    EXPECT_NE(manual.find("<tr><th scope=\"row\"><code>" + command + "</code></th><td>" + summary +
+                          "</td></tr>"),
               std::string::npos)
         << command << ": " << summary;
     const std::size_t row = readme.find("\n| `" + command);

@@ -57,7 +57,8 @@ TEST(Forms, AreDrawnWhereTheyAreNeitherTheTextNorForPrograms) {
 TEST(FormsForPeople, TheManualSaysWhatEachIs) {
   const std::string manual = tests::fileContent(tests::sourcePath("docs/manual/command-line.html"));
   for (const FormEntry& entry : allForms) {
-    const std::string start = "<tr><td><code>." + std::string(entry.extension) + "</code></td><td>";
+    const std::string start =
+        "<tr><th scope=\"row\"><code>." + std::string(entry.extension) + "</code></th><td>";
     const std::size_t row = manual.find(start);
     ASSERT_NE(row, std::string::npos) << entry.extension;
     const std::string line = manual.substr(row, manual.find('\n', row) - row);

@@ -83,8 +83,8 @@ QString manualPage(const QString& name) {
 TEST(EveryTab, HasItsRowInTheManualsTableOfExports) {
   const QString page = manualPage(u"export.html"_s);
   for (const TabEntry& tab : exports::allTabs) {
-    const qsizetype start =
-        page.indexOf(u"<tr><td>"_s + exports::escaped(tab.title.toString()) + u"</td>"_s);
+    const qsizetype start = page.indexOf(u"<tr><th scope=\"row\">"_s +
+                                         exports::escaped(tab.title.toString()) + u"</th>"_s);
     ASSERT_GE(start, 0) << tab.title.toString().toStdString();
     const QString row = page.mid(start, page.indexOf(u"</tr>"_s, start) - start);
     SCOPED_TRACE(row.toStdString());
@@ -104,8 +104,8 @@ TEST(EveryTab, HasItsKeyInTheManual) {
   const QString page = manualPage(u"keyboard.html"_s);
   for (std::size_t i = 0; i < exports::outputTabCount; ++i) {
     const QString row =
-        u"<tr><td><kbd>Ctrl</kbd>+<kbd>%1</kbd></td><td>%2</td></tr>"_s.arg(i + 1).arg(
-            exports::escaped(exports::allTabs[i].title.toString()));
+        u"<tr><th scope=\"row\"><kbd>Ctrl</kbd>+<kbd>%1</kbd></th><td>%2</td></tr>"_s.arg(i + 1)
+            .arg(exports::escaped(exports::allTabs[i].title.toString()));
     EXPECT_TRUE(page.contains(row)) << row.toStdString();
   }
 }

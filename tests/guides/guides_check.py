@@ -101,7 +101,7 @@ class Check:
                 rows = [
                     row
                     for row in found[1].splitlines()
-                    if re.search(rf"<code>{option}[ <]", row.split("</td>")[0]) and whose in row
+                    if re.search(rf"<code>{option}[ <]", row.split("</th>")[0]) and whose in row
                 ]
                 if len(rows) != 1:
                     self.faults.append(

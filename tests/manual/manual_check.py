@@ -54,7 +54,7 @@ class Page(HTMLParser):
             self.faults.append(f"says nothing in place of the picture {given.get('src')}")
         if tag == "tr":
             self._cells_in_row = 0
-        if tag == "td":
+        if tag == "td" or given.get("scope") == "row":
             self._cells_in_row += 1
             if self._cells_in_row == 1:
                 self.first_cells.append("")
@@ -62,6 +62,9 @@ class Page(HTMLParser):
         if tag == "pre" and "data-command" in given:
             self.examples.append([given["data-command"], ""])
             self._collects = "example"
+        if tag == "kbd" and "pre" in self._open:
+            self.examples.append(["", ""])
+            self._collects = "command"
         if tag == "pre" and "data-writes" in given:
             self.writings.append([given["data-writes"], ""])
             self._collects = "writing"
@@ -71,12 +74,19 @@ class Page(HTMLParser):
             return
         if not self._open or self._open.pop() != tag:
             self.faults.append(f"closes <{tag}> out of turn in line {self.getpos()[0]}")
-        if tag in ("td", "pre"):
+        if tag in ("td", "th", "pre"):
             self._collects = None
+        if tag == "kbd" and self._collects == "command":
+            self._collects = "line end"
 
     def handle_data(self, text):
         if self._collects == "cell":
             self.first_cells[-1] += text
+        elif self._collects == "command":
+            self.examples[-1][0] += text
+        elif self._collects == "line end":
+            self.examples[-1][1] = text.removeprefix("\n")
+            self._collects = "example"
         elif self._collects == "example":
             self.examples[-1][1] += text
         elif self._collects == "writing":

@@ -75,18 +75,20 @@ class ManualCheckTest(unittest.TestCase):
 
     def test_example_the_program_does_not_write(self):
         self.replace("tables.html", "151:05", "151:06")
+        self.replace("session.html", "081:30", "081:31")  # its command is shown
         self.expect("tables.html", "does not write", "151:06")
+        self.expect("session.html", "does not write", "081:31")
 
     def test_example_that_leaves_no_file(self):
         self.replace("command-line.html", "-o birth.svg", "-o berth.svg")
         self.expect("command-line.html", "does not write birth.svg")
 
     def test_lacking_option(self):
-        self.replace("command-line.html", "<tr><td><code>--step DAYS</code>", "<tr><td>")
+        self.replace("command-line.html", ">--step DAYS</code>", "></code>")
         self.expect("lacks --step")
 
     def test_invented_command(self):
-        self.replace("command-line.html", "<td><code>hourly</code>", "<td><code>weekly</code>")
+        self.replace("command-line.html", "<code>hourly</code></th>", "<code>weekly</code></th>")
         self.expect("invents weekly")
 
 

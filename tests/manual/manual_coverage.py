@@ -10,6 +10,7 @@ Prints a line for each that is lacking; exit status 1 where there is one."""
 import html
 import json
 import re
+import shlex
 import sys
 import tempfile
 from pathlib import Path
@@ -164,6 +165,25 @@ def lacking_files(manual, program):
             yield f"the manual does not name {kind}"
 
 
+def lacking_panel(folder, program, project):
+    """What the panel in the picture says and no sentence about the picture does: not everybody sees it."""
+    moments = (project / "tools/pictures/moments").read_text(encoding="utf-8")
+    moment = shlex.split(re.search("^first-tour (.*)", moments, re.MULTILINE).group(1))
+    said = json.loads("\n".join(program.lines(*moment, "horoscope", "--format", "json")))
+    sections = (folder / "horoscope.html").read_text(encoding="utf-8").split("<h3")
+    lines = [*said["lines"], {"heading": "The Keep", "subject": "", "verdict": said["keep"]}]
+    for line in lines:
+        section = next(text for text in sections if line["heading"] + "</h3>" in text)
+        paragraphs = re.findall("<p>.*?</p>", section)
+        told = " ".join(read_text(text) for text in paragraphs if "the picture" in text)
+        subject = line["subject"].split(" (")[0]
+        words = [subject] if "color" in line or subject.isupper() else []
+        words += [line.get("sign", ""), line.get("verdict", "").split(".")[0]]
+        for word in words:
+            if word.lower() not in told.lower():
+                yield f"horoscope.html does not say {word} in words, of {line['heading']}"
+
+
 def lacking(folder, program, project):
     manual = Manual(folder)
     yield from lacking_sayings(manual, project)
@@ -172,6 +192,7 @@ def lacking(folder, program, project):
         for name in environment_of(project)
         if not manual.explains("files.html", name)
     )
+    yield from lacking_panel(folder, program, project)
     for find in (lacking_columns, lacking_members, lacking_conditions, lacking_files):
         yield from find(manual, program)
 

@@ -54,7 +54,7 @@ class ManualCoverageTest(unittest.TestCase):
         self.expect("I-DEC", "D", "tables.html", "I-DEC")
 
     def test_a_code(self):
-        self.expect("<td>FPL</td>", "<td></td>", "tables.html does not explain FPL")
+        self.expect(">FPL</th>", "></th>", "tables.html does not explain FPL")
 
     def test_a_member_of_a_file_for_programs(self):
         self.expect("local_<wbr>clock", "clock", "programs.html", "of events with local_clock")
@@ -67,6 +67,9 @@ class ManualCoverageTest(unittest.TestCase):
 
     def test_a_file(self):
         self.expect("horoscope-black-and-white", "paper", "horoscope-black-and-white.svg")
+
+    def test_a_line_of_the_panel_in_the_picture(self):
+        self.expect("Umbrik is Impotent", "Umbrik is Weak", "does not say Impotent in words")
 
     def test_a_variable(self):
         self.expect("VEYRUNA_PAGE", "PAGE", "files.html", "VEYRUNA_PAGE")

@@ -136,7 +136,7 @@ SEARCH = "search --from 720-01-01 --for '1 day' "
 def patterns():
     """A pattern for each message of the page, in which … stands for anything."""
     page = (MANUAL / "messages.html").read_text(encoding="utf-8")
-    for cell in re.findall(r"<tr><td>(.*?)</td>", page):
+    for cell in re.findall(r'<tr><th scope="row">(.*?)</th>', page):
         parts = html.unescape(re.sub(r"<[^>]*>", "", cell)).split("…")
         if sum(len(part.strip()) for part in parts) > 8:
             yield re.compile(".*".join(re.escape(part.strip()) for part in parts))

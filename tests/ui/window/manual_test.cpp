@@ -49,10 +49,11 @@ QString pageText(const QString& name) {
 
 /// The cells of the rows of a page's tables, as they are read.
 QList<QStringList> rowsOf(const QString& page) {
+  static const QRegularExpression cellEnd(u"</t[dh]>"_s);
   QList<QStringList> rows;
   for (const QString& row : pageText(page).split(u"<tr>"_s).sliced(1)) {
     QStringList cells;
-    for (const QString& cell : row.section(u"</tr>"_s, 0, 0).split(u"</td>"_s)) {
+    for (const QString& cell : row.section(u"</tr>"_s, 0, 0).split(cellEnd)) {
       cells.append(readableText(cell));
     }
     if (cells.size() > 2) {
