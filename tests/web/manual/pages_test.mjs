@@ -52,6 +52,10 @@ function faultsOfReading() {
     const heads = [...table.querySelectorAll("th")];
     if (heads.length === 0 || heads.some((head) => !head.scope))
       faults.push(`the table "${table.textContent.trim().slice(0, 40)}" lacks heads`);
+    if (!table.tHead)
+      faults.push(
+        `the table "${table.textContent.trim().slice(0, 40)}" has no head for a new sheet`,
+      );
   }
   if (!document.documentElement.lang || !document.querySelector("main"))
     faults.push("language and main part are said");
@@ -149,6 +153,7 @@ describe("the manual", () => {
         "none.png is not described",
         "leaves out a level",
         "lacks heads",
+        "no head for a new sheet",
         "language and main part are said",
         "the first link leads to the text",
         "is dark",
