@@ -17,7 +17,8 @@ std::string answerOf(const std::string& question) {
   return web::answer(question, web::moduleAnswerers());
 }
 
-const std::string aSky = "&moment=720-06-12T22%3A30&lat=40.5N&long=-20.9";
+const std::string aPlace = "&lat=40.5N&long=-20.9";
+const std::string aSky = "&moment=720-06-12T22%3A30" + aPlace;
 
 TEST(Facade, DocumentsAreThoseOfTheTable) {
   for (const documents::Entry& entry : documents::allDocuments) {
@@ -54,6 +55,29 @@ TEST(Facade, AMissingQuestionIsAnError) {
   for (const char* question : {"", "&", "=", "ask", "ask=", "&&&", "moment"}) {
     EXPECT_EQ(answerOf(question).front(), web::answerIsError) << question;
   }
+}
+
+TEST(Facade, MarksSayWhatTheyAre) {
+  const auto expectMarks = [](const std::string& chart, const std::vector<std::string>& kinds) {
+    const std::string answer = answerOf("ask=marks&name=" + chart + aSky);
+    ASSERT_EQ(answer.front(), web::answerIsJson) << answer;
+    for (const std::string& kind : kinds) {
+      EXPECT_NE(answer.find("\"kind\":\"" + kind + "\""), std::string::npos) << chart << kind;
+    }
+  };
+  expectMarks("star-map", {"body", "star", "background_star", "figure_name"});
+  expectMarks("horoscope", {"body", "sign_boundary", "ascendant", "chord", "panel_line"});
+}
+
+TEST(Facade, AMomentBeforeTheCalendarHasNoDate) {
+  const std::string answer = answerOf("ask=moment&moment=%40-5&lat=40.5N&long=-20.9");
+  EXPECT_NE(answer.find("\"standard\":null"), std::string::npos) << answer;
+  EXPECT_NE(answer.find("\"address\":\"@-5;"), std::string::npos) << answer;
+}
+
+TEST(Facade, LocalClocksNeedAPlace) {
+  EXPECT_EQ(answerOf("ask=events&from=720-01-01&for=1+day&local=true").substr(0, 48),
+            "!local: local clocks are those of a place; give ");
 }
 
 /// Names and values of questions, most of them wrong somewhere.
