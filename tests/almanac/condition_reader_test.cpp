@@ -224,6 +224,8 @@ INSTANTIATE_TEST_SUITE_P(
         Wrong{"any of ()", ")", "a body", ""}, Wrong{"(night)", "(", "a body", ""},
         Wrong{"night\nany of:\nmoon new", "", "indented further", "", 2},
         Wrong{"night\nany of: moon new", ":", "any of (", "", 2},
+        Wrong{"any of moon:\n  night", "moon", "a colon and the parts on lines below", ""},
+        Wrong{"any of: moon:\n  night", "moon", "the parts on lines below", ""},
         Wrong{"night\n  moon new", "  ", "as many blanks", "", 2},
         Wrong{"  night\nmoon new", "", "as many blanks", "", 2},
         Wrong{"any of:\n    night\n  moon new", "  ", "as many blanks", "", 3},

@@ -126,6 +126,20 @@ TEST(SvgReader, ARefusalNamesTheLineWhatStandsThereAndWhatIsUnderstood) {
   EXPECT_EQ(refusal("<html></html>"), "line 1: <html> is no chart; its text begins with <svg>");
 }
 
+TEST(SvgReader, AViewBoxIsFourNumbersWithAnExtent) {
+  for (const std::string box : {"", "0 0 100", "0 0 100 100 5", "0 0 a 100", "0 0 0 100",
+                                "0 0 100 -1", "0 0 inf 100", "nan 0 100 100"}) {
+    EXPECT_EQ(
+        refusal(QByteArray::fromStdString("<svg viewBox=\"" + box + "\"></svg>")),
+        "line 1: <svg> with viewBox=\"" + box + "\"; accepted is left, top, width and height");
+  }
+}
+
+TEST(SvgReader, NothingStandsBehindThePicture) {
+  EXPECT_EQ(refusal(head + "</svg>\n"), "");
+  EXPECT_EQ(refusal(head + "</svg>\n<svg/>").find("line 2: "), 0U);
+}
+
 /// One element that is refused and a word that the refusal must hold.
 struct Refused {
   const char* element;
