@@ -60,17 +60,20 @@ bool isStar(const ChartMark& mark) {
   return mark.kind == MarkKind::star || mark.kind == MarkKind::backgroundStar;
 }
 
+/// The wheel has all of them, below the horizon, too, and the ascendant; the map what is above it.
 std::string bodiesSentence(const ChartMarks& marks, const astro::Observer& observer) {
   std::vector<std::string> bodies;
+  std::string_view where = "In sight are ";
   for (const ChartMark& mark : marks) {
     if (mark.kind == MarkKind::body) {
       bodies.push_back(mark.name + " in " + withoutBlanks(rowOf(mark, observer).sign));
     } else if (mark.kind == MarkKind::ascendant) {
       bodies.push_back("the ascendant in " + signOf(mark));
+      where = "On the wheel are ";
     }
   }
   return bodies.empty() ? "None of the bodies is in sight."
-                        : "In sight are " + joined(bodies, " and ") + ".";
+                        : std::string(where) + joined(bodies, " and ") + ".";
 }
 
 std::string figuresSentence(const ChartMarks& marks) {

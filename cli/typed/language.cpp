@@ -271,6 +271,7 @@ void Language::addPage() {
   CLI::App* const page = addStretchCommand(
       "page", "The sky in one page for any browser, made for a session",
       " --from 720-06-12T18:00 --to 720-06-13T02:00 --location Ebb --player -o evening.html");
+  page->get_option("--to")->description(wrapped("The end, the last moment it shows"));
   page->add_flag("--player", typed_.isForPlayers,
                  wrapped("Shows what eyes can see from there, no more"));
   add(*page, {"--title", "TEXT", typed_.title, "What stands over it"});

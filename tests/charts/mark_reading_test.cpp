@@ -88,6 +88,12 @@ TEST_P(MarkReading, NamesEverythingFirst) {
   }
 }
 
+TEST_P(MarkReading, TheWheelHasWhatIsNotInSight) {
+  EXPECT_TRUE(summary(onWheel, observer).starts_with("On the wheel are Thessil in "));
+  EXPECT_TRUE(summary(onMap, observer).starts_with("In sight are ") ||
+              summary(onMap, observer).starts_with("None of the bodies is in sight."));
+}
+
 TEST_P(MarkReading, SumsAChartUpInTwoSentences) {
   for (const ChartMarks* const marks : {&onMap, &onWheel}) {
     const std::string text = summary(*marks, observer);
