@@ -33,6 +33,13 @@ struct YearField : testing::Test {
     QTest::keyClicks(&field, text);
     field.commit();
   }
+  /// A notch away from the person.
+  bool isWheelTaken() {
+    QWheelEvent wheel(QPointF(5, 5), QPointF(5, 5), QPoint(), QPoint(0, 120), Qt::NoButton,
+                      Qt::NoModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&field, &wheel);
+    return wheel.isAccepted();
+  }
   [[nodiscard]] QString shown() const { return field.text(); }
 };
 
@@ -191,11 +198,19 @@ TEST_F(YearField, WhatIsTypedStaysWhileTheSameYearIsShownAgain) {
 
 TEST_F(YearField, AWheelWithoutTheFocusChangesNothing) {
   field.show(720);
-  QWheelEvent wheel(QPointF(5, 5), QPointF(5, 5), QPoint(), QPoint(0, 120), Qt::NoButton,
-                    Qt::NoModifier, Qt::NoScrollPhase, false);
-  QApplication::sendEvent(&field, &wheel);
-  EXPECT_FALSE(wheel.isAccepted());
+  EXPECT_FALSE(isWheelTaken());
   EXPECT_EQ(edits.count(), 0);
+}
+
+TEST_F(YearField, AWheelWithTheFocusIsAStep) {
+  field.show(720);
+  field.setVisible(true);
+  field.activateWindow();
+  field.setFocus();
+  ASSERT_TRUE(QTest::qWaitFor([this] { return field.hasFocus(); }, tests::patienceMilliseconds));
+  EXPECT_TRUE(isWheelTaken());
+  ASSERT_EQ(edits.count(), 1);
+  EXPECT_EQ(edits.at(0).at(0).toLongLong(), 721);
 }
 
 TEST(DayField, CountsFromOne) {
