@@ -1,5 +1,7 @@
 #include "web/documents_by_name.h"
 
+#include <vector>
+
 #include "words/listing.h"
 
 namespace veyruna::web {
@@ -20,7 +22,13 @@ std::string nameOf(const documents::Entry& document) {
 }
 
 std::string documentNames(bool (*isAccepted)(const documents::Entry&)) {
-  return words::joined(documents::allDocuments | std::views::filter(isAccepted), ", ", nameOf);
+  std::vector<std::string> names;
+  for (const documents::Entry& document : documents::allDocuments) {
+    if (isAccepted(document)) {
+      names.push_back(nameOf(document));
+    }
+  }
+  return words::joined(names);
 }
 
 }  // namespace veyruna::web

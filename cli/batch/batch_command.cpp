@@ -5,7 +5,6 @@
 #include <cstdio>
 #include <fcntl.h>
 #include <filesystem>
-#include <ranges>
 #include <system_error>
 #include <unistd.h>
 
@@ -33,9 +32,13 @@ using documents::Form;
 constexpr std::string_view usualDocuments = "horoscope,star-map";
 
 std::string allCommands() {
-  const auto hasCommand = [](const Entry& entry) { return !entry.command.empty(); };
-  return words::joined(documents::allDocuments | std::views::filter(hasCommand), ", ",
-                       &Entry::command);
+  std::vector<std::string_view> commands;
+  for (const Entry& entry : documents::allDocuments) {
+    if (!entry.command.empty()) {
+      commands.push_back(entry.command);
+    }
+  }
+  return words::joined(commands);
 }
 
 /// The documents whose command words those are, in their order.

@@ -2,7 +2,6 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
-#include <ranges>
 
 #include "cli/typed/option_values.h"
 #include "words/dates.h"
@@ -145,11 +144,13 @@ void Grammar::refuseExtra(const std::string& extra) const {
 }
 
 std::string Grammar::commandsWith(const std::string& option) const {
-  const auto hasIt = [&option](const CLI::App* command) {
-    return command->get_option_no_throw(option) != nullptr;
-  };
-  return words::joined(language_.app().get_subcommands(nullptr) | std::views::filter(hasIt), " or ",
-                       &CLI::App::get_name);
+  std::vector<std::string> names;
+  for (const CLI::App* const command : language_.app().get_subcommands(nullptr)) {
+    if (command->get_option_no_throw(option) != nullptr) {
+      names.push_back(command->get_name());
+    }
+  }
+  return words::joined(names, " or ");
 }
 
 }  // namespace veyruna::cli
