@@ -125,7 +125,12 @@ Process::Process(const Invocation& invocation) {
   const std::string path = invocation.program.empty() ? programPath() : invocation.program;
   std::vector<std::string> arguments = {path};
   arguments.insert(arguments.end(), invocation.arguments.begin(), invocation.arguments.end());
-  std::vector<std::string> environment = environmentWith(invocation.environment);
+  std::vector<std::string> changes = invocation.environment;
+  if (invocation.asNobody) {
+    // What the sanitizer is told stands in a file of ours that nobody else may be able to read.
+    changes.emplace_back("TSAN_OPTIONS=");
+  }
+  std::vector<std::string> environment = environmentWith(changes);
   const std::vector<char*> argv = pointersTo(arguments);
   const std::vector<char*> envp = pointersTo(environment);
 
