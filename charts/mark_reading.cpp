@@ -37,7 +37,7 @@ reports::PositionRow rowOf(const ChartMark& body, const astro::Observer& observe
 }
 
 std::string signOf(const ChartMark& mark) {
-  return withoutBlanks(reports::signName(mark.ecliptic->phi));
+  return std::string(reports::plainName(reports::signAt(mark.ecliptic->phi)));
 }
 
 std::string altitudeOf(const ChartMark& mark, const astro::Observer& observer) {

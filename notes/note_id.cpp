@@ -5,7 +5,7 @@
 #include <cstdint>
 
 #include "notes/note_text.h"
-#include "records/sky_fields.h"
+#include "reports/zodiac.h"
 
 namespace veyruna::notes {
 
@@ -93,7 +93,7 @@ std::string idOf(const Event& event, const astro::CalendarMoment& moment,
     id.append("-").append(almanac::wordOf(event.other));
   }
   if (event.sign != nullptr) {
-    id.append("-").append(plainWordOf(records::wordOf(*event.sign)));
+    id.append("-").append(plainWordOf(reports::plainName(*event.sign)));
   }
   return place ? id + "-" + placeWord(*place) : id;
 }

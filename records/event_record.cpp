@@ -5,6 +5,7 @@
 #include "astro/angle.h"
 #include "astro/local_time.h"
 #include "records/sky_fields.h"
+#include "reports/zodiac.h"
 
 namespace veyruna::records {
 
@@ -50,7 +51,7 @@ Row kindValues(const Event& event) {
   return {only(EventKind::eclipse, std::string(event.code)),
           only(EventKind::moon, event.isFull ? "full" : "new"),
           only(EventKind::season, static_cast<double>(event.quarter) * 90.0),
-          event.sign == nullptr ? Value() : wordOf(*event.sign),
+          event.sign == nullptr ? Value() : std::string(reports::plainName(*event.sign)),
           turns ? Value(event.isForward ? "forward" : "backward") : Value()};
 }
 

@@ -23,10 +23,6 @@ Json jsonOf(const Held& held) {
 
 }  // namespace
 
-std::string jsonTextOf(std::string_view text) {
-  return oneLine(text);
-}
-
 std::string jsonTextOf(const Value& value) {
   return oneLine(std::visit([](const auto& held) { return jsonOf(held); }, value));
 }

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "records/record.h"
@@ -9,10 +8,7 @@
 /// Values as JSON, on one line.
 namespace veyruna::records {
 
-/// A text with its quotes. Bytes that are no UTF-8 become U+FFFD.
-std::string jsonTextOf(std::string_view text);
-
-/// Any value but nothing.
+/// Nothing is null, a text stands in its quotes; what in it is no UTF-8 becomes U+FFFD.
 std::string jsonTextOf(const Value& value);
 
 /// The members of a row, `"name":value` with a comma between two; those without a value are left

@@ -3,6 +3,7 @@
 #include "records/sky_fields.h"
 #include "records/tables.h"
 #include "reports/positions.h"
+#include "reports/zodiac.h"
 
 namespace veyruna::records {
 
@@ -33,7 +34,7 @@ void forEachPositionsRow(const astro::Observer& observer, const reports::TableSi
   // Every field is named, so that one more does not compile until it is thought of here.
   for (const auto& [name, bodyType, azimuth, altitude, ecLong] : reports::bodyPlaces(observer)) {
     take({bodyWords()[body++], degreesInTurn(azimuth), astro::degreesOf(altitude),
-          degreesInTurn(ecLong), wordOf(reports::signAt(ecLong))});
+          degreesInTurn(ecLong), std::string(reports::plainName(reports::signAt(ecLong)))});
   }
 }
 

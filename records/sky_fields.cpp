@@ -2,6 +2,7 @@
 
 #include "astro/angle.h"
 #include "astro/planet_pair.h"
+#include "reports/zodiac.h"
 
 namespace veyruna::records {
 
@@ -40,15 +41,11 @@ const std::vector<std::string>& signWords() {
     std::vector<std::string> all;
     all.reserve(reports::zodiacSigns.size());
     for (const reports::ZodiacSign& sign : reports::zodiacSigns) {
-      all.push_back(wordOf(sign));
+      all.emplace_back(reports::plainName(sign));
     }
     return all;
   }();
   return words;
-}
-
-std::string wordOf(const reports::ZodiacSign& sign) {
-  return std::string(sign.name.substr(0, sign.name.find(' ')));
 }
 
 std::vector<Field> momentFields() {

@@ -6,7 +6,6 @@
 #include "almanac/motion/body.h"
 #include "astro/observer.h"
 #include "records/record.h"
-#include "reports/zodiac.h"
 
 /// What records of the sky have in common.
 namespace veyruna::records {
@@ -22,8 +21,6 @@ const std::vector<std::string>& planetPairWords();
 
 /// "Gimbral", "Sevrino" and so on.
 const std::vector<std::string>& signWords();
-
-std::string wordOf(const reports::ZodiacSign& sign);
 
 /// `base_time_days` and `date`.
 std::vector<Field> momentFields();

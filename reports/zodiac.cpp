@@ -21,4 +21,8 @@ std::string_view signNameWithMeaning(double longitude) {
   return signAt(longitude).nameWithMeaning;
 }
 
+std::string_view plainName(const ZodiacSign& sign) {
+  return sign.name.substr(0, sign.name.find_last_not_of(' ') + 1);
+}
+
 }  // namespace veyruna::reports

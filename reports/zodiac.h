@@ -37,4 +37,7 @@ std::string_view signName(double longitude);
 /// Its name followed by its meanings.
 std::string_view signNameWithMeaning(double longitude);
 
+/// A sign's name without its padding.
+std::string_view plainName(const ZodiacSign& sign);
+
 }  // namespace veyruna::reports

@@ -5,8 +5,7 @@
 namespace veyruna::web {
 
 JsonObject& JsonObject::add(std::string_view name, const records::Value& value) {
-  const bool isThere = !std::holds_alternative<std::monostate>(value);
-  return addJson(name, isThere ? records::jsonTextOf(value) : "null");
+  return addJson(name, records::jsonTextOf(value));
 }
 
 JsonObject& JsonObject::addJson(std::string_view name, std::string_view json) {

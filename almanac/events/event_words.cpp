@@ -7,6 +7,7 @@
 #include "astro/invariant.h"
 #include "astro/lunar_events.h"
 #include "astro/number_text.h"
+#include "reports/zodiac.h"
 
 namespace veyruna::almanac {
 
@@ -31,11 +32,6 @@ std::string pairWords(const Event& event) {
   return words + "; within 2° from " + momentOf(*event.begin) + " to " + momentOf(*event.end);
 }
 
-/// A sign's name without its padding.
-std::string_view plainName(const reports::ZodiacSign& sign) {
-  return sign.name.substr(0, sign.name.find_last_not_of(' ') + 1);
-}
-
 std::string seasonWords(int quarter) {
   static constexpr std::array<std::string_view, 4> words = {
       "the sun at 0°, going north: day and night are equal",
@@ -57,7 +53,7 @@ std::string wordsOf(const Event& event) {
     case EventKind::opposition:
       return pairWords(event);
     case EventKind::sign:
-      return named(event.body, " enters ").append(plainName(*event.sign)) +
+      return named(event.body, " enters ").append(reports::plainName(*event.sign)) +
              (event.isForward ? "" : ", moving backward");
     case EventKind::station:
       return named(event.body, event.isForward ? " turns forward" : " turns backward");

@@ -6,6 +6,7 @@
 #include "astro/calendar.h"
 #include "astro/invariant.h"
 #include "charts/star_catalogue.h"
+#include "reports/zodiac.h"
 
 namespace veyruna::almanac {
 
@@ -29,10 +30,6 @@ std::vector<std::string> wordsOf(std::string_view verdict) {
   std::ranges::transform(words, words.begin(),
                          [](const std::string& word) { return lowered(word); });
   return words;
-}
-
-std::string withoutPadding(std::string_view name) {
-  return std::string(name.substr(0, name.find_last_not_of(' ') + 1));
 }
 
 Words<Body> makeBodyWords() {
@@ -89,10 +86,9 @@ const Words<astro::Planet>& planetWords() {
 }
 
 const Words<const reports::ZodiacSign*>& signWords() {
-  static const auto words = wordsFor<const reports::ZodiacSign*>(
-      reports::zodiacSigns,
-      [](const reports::ZodiacSign& sign) { return withoutPadding(sign.name); },
-      [](const reports::ZodiacSign& sign) { return &sign; });
+  static const auto words =
+      wordsFor<const reports::ZodiacSign*>(reports::zodiacSigns, reports::plainName,
+                                           [](const reports::ZodiacSign& sign) { return &sign; });
   return words;
 }
 
