@@ -3,6 +3,7 @@
 
 #include "almanac/search/condition.h"
 #include "almanac/search/overloaded.h"
+#include "almanac/search/spelling.h"
 #include "almanac/search/vocabulary.h"
 #include "astro/calendar.h"
 #include "astro/clock.h"

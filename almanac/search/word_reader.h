@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "almanac/search/condition_error.h"
+#include "almanac/search/spelling.h"
 #include "almanac/search/vocabulary.h"
 
 namespace veyruna::almanac {

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 #include <string>
 
+#include "almanac/search/spelling.h"
 #include "almanac/search/vocabulary.h"
 #include "charts/star_catalogue.h"
 #include "tests/almanac/random_conditions.h"
@@ -248,7 +249,7 @@ TEST(ConditionReader, RefusesWhatStandsTooDeep) {
   EXPECT_THROW(readConditions(lines + std::string(1000, ' ') + "night"), ConditionError);
 }
 
-TEST(Vocabulary, ANeighbourThatIsExchangedIsOneMistake) {
+TEST(Spelling, ANeighbourThatIsExchangedIsOneMistake) {
   EXPECT_EQ(Spelling{"galvi"}.distanceTo("Galvi"), 0U);
   EXPECT_EQ(Spelling{"glavi"}.distanceTo("galvi"), 1U);
   EXPECT_EQ(Spelling{"gavi"}.distanceTo("galvi"), 1U);
