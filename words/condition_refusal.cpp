@@ -34,10 +34,7 @@ UsageError refusalOf(const std::string& where, const ConditionError& error) {
   if (spot.length > 0) {
     message += " at " + inQuotes(std::string_view(spot.line).substr(spot.offset, spot.length));
   }
-  message += "; give " + error.accepted();
-  if (!error.nearest().empty()) {
-    message += "; the nearest is " + inQuotes(error.nearest());
-  }
+  message += "; give " + error.accepted() + asNearest(error.nearest());
   return UsageError(message + underlined(spot));
 }
 

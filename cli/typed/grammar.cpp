@@ -3,6 +3,7 @@
 #include <CLI/CLI.hpp>
 #include <algorithm>
 
+#include "almanac/search/spelling.h"
 #include "cli/typed/option_values.h"
 #include "words/dates.h"
 #include "words/listing.h"
@@ -59,7 +60,7 @@ const Typed& Grammar::parse(const std::vector<std::string>& arguments) {
     refuseExtra(extras.front());
   }
   if (typed.command.empty()) {
-    throw words::UsageError("a command is missing; give one of " + commandNames());
+    throw words::UsageError("a command is missing; give one of " + words::joined(commandNames()));
   }
   return typed;
 }
@@ -74,8 +75,7 @@ std::string Grammar::helpText(const std::string& topic) const {
     return command->get_name() == topic;
   });
   if (found == commands.end()) {
-    throw words::UsageError("help: " + words::inQuotes(topic) + " is not a command; give one of " +
-                            commandNames());
+    throw words::UsageError("help: " + refusalOfCommand(topic));
   }
   return language_.app().get_formatter()->make_help(*found, "veyruna " + topic,
                                                     CLI::AppFormatMode::Normal);
@@ -118,8 +118,47 @@ void Grammar::refuseTwoOf(const char* whole, const std::string& typed,
   }
 }
 
-std::string Grammar::commandNames() const {
-  return words::joined(language_.app().get_subcommands(nullptr), ", ", &CLI::App::get_name);
+std::vector<std::string> Grammar::commandNames() const {
+  std::vector<std::string> names;
+  for (const CLI::App* const command : language_.app().get_subcommands(nullptr)) {
+    names.push_back(command->get_name());
+  }
+  return names;
+}
+
+std::vector<std::string> Grammar::optionNames() const {
+  std::vector<std::string> names;
+  const auto addNames = [&names](const CLI::App& app) {
+    for (const CLI::Option* const option : app.get_options()) {
+      for (const std::string& name : option->get_lnames()) {
+        names.push_back(name);
+      }
+    }
+  };
+  addNames(language_.app());
+  const std::string chosen = chosenCommand();
+  for (const CLI::App* const command : language_.app().get_subcommands(nullptr)) {
+    if (chosen.empty() || command->get_name() == chosen) {
+      addNames(*command);
+    }
+  }
+  return names;
+}
+
+std::string Grammar::refusalOfCommand(const std::string& word) const {
+  const std::vector<std::string> names = commandNames();
+  return words::inQuotes(word) + " is not a command; give one of " + words::joined(names) +
+         words::asNearest(almanac::nearestTo(word, names));
+}
+
+std::string Grammar::refusalOfOption(const std::string& name) const {
+  if (const std::string owners = commandsWith(name); !owners.empty()) {
+    return words::inQuotes(name) + " belongs behind " + owners;
+  }
+  const std::string bare = name.substr(std::min(name.find_first_not_of('-'), name.size()));
+  const std::string nearest = almanac::nearestTo(bare, optionNames());
+  return words::inQuotes(name) + " is no option; veyruna --help lists them" +
+         words::asNearest(nearest.empty() ? "" : "--" + nearest);
 }
 
 std::string Grammar::chosenCommand() const {
@@ -129,15 +168,10 @@ std::string Grammar::chosenCommand() const {
 
 void Grammar::refuseExtra(const std::string& extra) const {
   if (extra.size() > 1 && extra.starts_with('-')) {
-    const std::string name = optionName(extra);
-    const std::string owners = commandsWith(name);
-    throw words::UsageError(owners.empty()
-                                ? words::inQuotes(name) + " is no option; veyruna --help lists them"
-                                : words::inQuotes(name) + " belongs behind " + owners);
+    throw words::UsageError(refusalOfOption(optionName(extra)));
   }
   if (chosenCommand().empty()) {
-    throw words::UsageError(words::inQuotes(extra) + " is not a command; give one of " +
-                            commandNames());
+    throw words::UsageError(refusalOfCommand(extra));
   }
   throw words::UsageError(words::inQuotes(extra) + " is one word too many behind " +
                           chosenCommand());

@@ -19,7 +19,9 @@ class Grammar {
   [[nodiscard]] std::string helpText(const std::string& topic) const;
 
  private:
-  [[nodiscard]] std::string commandNames() const;
+  [[nodiscard]] std::vector<std::string> commandNames() const;
+  /// Without their dashes: of the chosen command and of all; where none is chosen, of each.
+  [[nodiscard]] std::vector<std::string> optionNames() const;
   [[nodiscard]] std::string chosenCommand() const;
   [[nodiscard]] bool isGiven(const char* option) const;
   void refuseMomentBesideOthers() const;
@@ -27,6 +29,8 @@ class Grammar {
                    std::initializer_list<const char*> parts, const char* what) const;
   /// The commands that have an option, joined by "or".
   [[nodiscard]] std::string commandsWith(const std::string& option) const;
+  [[nodiscard]] std::string refusalOfCommand(const std::string& word) const;
+  [[nodiscard]] std::string refusalOfOption(const std::string& name) const;
   [[noreturn]] void refuseExtra(const std::string& extra) const;
 
   Language language_;

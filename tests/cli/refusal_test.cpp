@@ -95,6 +95,22 @@ TEST(Refusal, Tables) {
   std::for_each(refusals.begin(), refusals.end(), expectRefused);
 }
 
+TEST(Refusal, NamesTheWordThatIsSpeltMostAlike) {
+  const std::vector<Refusal> refusals = {
+      {{"positons"}, "\"positons\"", "schema, help; the nearest is \"positions\"\n"},
+      {{"Events"}, "\"Events\"", "; the nearest is \"events\"\n"},
+      {{"help", "calender"}, "help: \"calender\"", "; the nearest is \"calendar\"\n"},
+      {{"--yaer", "720", "moment"}, "\"--yaer\"", "; the nearest is \"--year\"\n"},
+      {{"events", "--kinds=moon"}, "\"--kinds\"", "; the nearest is \"--kind\"\n"},
+      {{"--knid", "moon"}, "\"--knid\"", "; the nearest is \"--kind\"\n"},
+      {{"sunrise"}, "\"sunrise\"", "schema, help\n"},
+      {{"moment", "--colour"}, "\"--colour\"", "lists them\n"},
+      // An option of another command is no help behind this one.
+      {{"moment", "--knid=moon"}, "\"--knid\"", "lists them\n"},
+  };
+  std::for_each(refusals.begin(), refusals.end(), expectRefused);
+}
+
 TEST(Refusal, Words) {
   const std::vector<Refusal> refusals = {
       {{}, "command", "star-map, horoscope"},

@@ -33,9 +33,12 @@ FILES = {
 TYPED = """
 --year 720
 xyz
+positons
 help xyz
+help positons
 moment extra
 moment --nope
+moment --yaer 3
 hourly --bw
 moment --local=3
 moment --year
