@@ -55,8 +55,11 @@ export function markInvalid(field, isInvalid) {
   }
 }
 
-/** Shows in `error` what is wrong; an empty text takes it back. */
+/**
+ * Shows in `error` what is wrong; an empty text takes it back. Scripts are told first which value was
+ * meant, "lat: …"; here the field stands above.
+ */
 export function complain(error, text) {
-  say(error, text);
+  say(error, text.replace(/^[a-z]+: /, ""));
   error.hidden = text === "";
 }

@@ -96,6 +96,7 @@ pageTests("the moment", (test) => {
         return error.checkVisibility() && error.textContent;
       });
       assert.match(error, quoted);
+      assert.match(error, /^"/);
       assert.equal(await field.evaluate((input) => input.getAttribute("aria-invalid")), "true");
       assert.equal(await addressOf(page), "720-06-12T22:30;40.5N,20.9W");
       assert.equal(
