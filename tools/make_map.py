@@ -12,7 +12,8 @@ Written are, beside the program's other resources,
 
 Needed are Debian's python3-numpy, python3-scipy, python3-pil and python3-cairo; the
 typeface lies beside the tool.  A run takes about a minute and 2.5 gigabytes, and yields
-the same bytes every time; measuring takes half of that, since the names are set anew.
+the same bytes every time; measuring takes half the time, since the names are set anew, and
+less than a gigabyte.
 How the map is made is told in the package `map_of_tamsorel`.
 """
 

@@ -36,7 +36,7 @@ def centre(picture, x, y, reach, weight):
     """The middle (x, y) of a weight near a pixel, and the weight's sum."""
     for _ in range(3):
         left, top = max(int(x - reach) - 1, 0), max(int(y - reach) - 1, 0)
-        window = picture[top : int(y + reach) + 2, left : int(x + reach) + 2]
+        window = picture[top : int(y + reach) + 2, left : int(x + reach) + 2].astype(float)
         rows, columns = np.mgrid[top : top + window.shape[0], left : left + window.shape[1]] + 0.5
         share = weight(window) * (np.hypot(columns - x, rows - y) <= reach)
         total = share.sum()
@@ -49,7 +49,7 @@ def centre(picture, x, y, reach, weight):
 def _reading(picture, grey):
     """Prints what a reader meets; true when all is within bounds."""
     country, _, names, figures = sheet.plan()
-    bright = measures.luminance(picture)
+    bright = measures.brightness(picture)
     rows, columns = country.land.shape
     cells = bright.reshape(rows, GRID, columns, GRID).mean(axis=(1, 3))
     shores = measures.coast(cells, country)
@@ -90,7 +90,7 @@ def _reading(picture, grey):
 def run(path):
     """Prints the worst errors; true when all is within bounds."""
     image = Image.open(path)
-    picture = np.asarray(image.convert("RGB"), float)
+    picture = np.asarray(image.convert("RGB"))
     good = image.size == (WIDTH, HEIGHT) and image.mode == "RGB"
     print(
         f"{path.name}: {image.size[0]} x {image.size[1]} {image.mode}, {path.stat().st_size} bytes"
@@ -117,4 +117,4 @@ def run(path):
         if odd:
             print("    odd:", ", ".join(odd))
         good = good and off.max() <= WORST and not odd
-    return _reading(picture / 255, np.asarray(image.convert("L"))) and good
+    return _reading(picture, np.asarray(image.convert("L"))) and good

@@ -16,11 +16,24 @@ LEAST_CELLS = 60  # of land and of sea around a station
 SCREEN = 835.0 / 4316.0  # points to a pixel of the map at 100 % in a window of 1280 by 800
 
 
+WEIGHTS = np.array([0.2126, 0.7152, 0.0722])  # of red, green and blue
+
+
+def linear(colours):
+    """Light of colours 0 to 1."""
+    return np.where(colours <= 0.04045, colours / 12.92, ((colours + 0.055) / 1.055) ** 2.4)
+
+
 def luminance(colours):
     """Relative luminance of colours 0 to 1; the last axis holds red, green and blue."""
-    colours = np.asarray(colours, float)
-    linear = np.where(colours <= 0.04045, colours / 12.92, ((colours + 0.055) / 1.055) ** 2.4)
-    return linear @ np.array([0.2126, 0.7152, 0.0722])
+    return linear(np.asarray(colours, float)) @ WEIGHTS
+
+
+def brightness(picture):
+    """Relative luminance of a picture of bytes: by a table, since a sheet of numbers for each step of
+    the calculation would take gigabytes."""
+    light = linear(np.arange(256) / 255)
+    return sum(weight * light[picture[..., i]] for i, weight in enumerate(WEIGHTS))
 
 
 def contrast(a, b):
