@@ -36,7 +36,7 @@ void Progress::advance() {
 }
 
 void Progress::reach(std::int64_t done) {
-  done_ = done;
+  done_ = std::min(done, total_);
   showIfDue();
 }
 

@@ -20,7 +20,7 @@ class Progress {
   /// One more is done.
   void advance();
 
-  /// So many are done, not more than all.
+  /// So many are done; more than all are all.
   void reach(std::int64_t done);
 
  private:

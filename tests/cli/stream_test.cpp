@@ -119,6 +119,27 @@ TEST(Progress, StaysOutOfATableOnTheSameTerminal) {
   EXPECT_EQ(progressShown(false, true), line);
 }
 
+/// Ends with 0 where what lies behind the end is shown as the end.
+[[noreturn]] void reachMoreThanAll() {
+  int mine = -1;
+  int theirs = -1;
+  if (openpty(&mine, &theirs, nullptr, nullptr, nullptr) != 0 || dup2(theirs, STDERR_FILENO) < 0) {
+    _exit(1);
+  }
+  cli::Progress progress(2, "days", false);
+  std::this_thread::sleep_for(std::chrono::milliseconds(1100));
+  progress.reach(11);
+  std::array<char, 256> shown{};
+  const ssize_t count = read(mine, shown.data(), shown.size());
+  const std::string_view line(shown.data(), count > 0 ? static_cast<std::size_t>(count) : 0);
+  _exit(line == "\r[####################] 2 of 2 days, 100 %\x1b[K" ? 0 : 2);
+}
+
+TEST(Progress, IsWholeAtMost) {
+  // The moment of a meeting that has begun may lie days behind the end of what is asked.
+  EXPECT_EXIT(reachMoreThanAll(), testing::ExitedWithCode(0), "");
+}
+
 TEST(Locale, ADecimalCommaChangesNothing) {
   const char* const locale = std::getenv("VEYRUNA_TEST_LOCALE");
   if (locale == nullptr) {
