@@ -1,12 +1,11 @@
 #include "cli/almanac/asked_conditions.h"
 
-#include <cerrno>
-#include <cstring>
-#include <fstream>
+#include <cstddef>
 #include <iterator>
 #include <string>
 
 #include "almanac/search/condition_reader.h"
+#include "cli/typed/named_file.h"
 #include "words/condition_refusal.h"
 #include "words/quoting.h"
 #include "words/usage_error.h"
@@ -34,29 +33,10 @@ std::vector<Condition> conditionsIn(const std::string& argument, bool isAlone) {
   }
 }
 
-/// All of a file that a person wrote; "-" is standard input.
-std::string contentOf(const std::string& file) {
-  constexpr std::size_t most = 1U << 20U;
-  const std::string name = file == "-" ? "/dev/stdin" : file;
-  errno = 0;
-  std::ifstream stream(name, std::ios::binary);
-  std::string content(most + 1, '\0');
-  stream.read(content.data(), static_cast<std::streamsize>(content.size()));
-  if (!stream.is_open() || stream.bad()) {
-    throw words::UsageError("-f " + words::inQuotes(file) +
-                            " cannot be read: " + std::strerror(errno));
-  }
-  content.resize(static_cast<std::size_t>(stream.gcount()));
-  if (content.size() > most) {
-    throw words::UsageError("-f " + words::inQuotes(file) +
-                            " is longer than the megabyte that conditions may take");
-  }
-  return content;
-}
-
 std::vector<Condition> conditionsOf(const std::string& file) {
+  constexpr std::size_t mostBytes = 1U << 20U;
   try {
-    return almanac::readConditions(contentOf(file));
+    return almanac::readConditions(contentOfFile(file, mostBytes));
   } catch (const ConditionError& error) {
     throw words::refusalOf(
         "-f " + words::inQuotes(file) + ", line " + std::to_string(error.spot().lineNumber), error);

@@ -11,8 +11,8 @@
 #include "cli/batch/row_writer.h"
 #include "cli/batch/side_by_side.h"
 #include "cli/batch/summary.h"
-#include "cli/batch/table_file.h"
 #include "cli/typed/errors.h"
+#include "cli/typed/named_file.h"
 #include "cli/written/asked_forms.h"
 #include "cli/written/document_writer.h"
 #include "cli/written/progress.h"
@@ -91,13 +91,14 @@ RowDefaults defaultsOf(const Typed& typed) {
 
 /// The rows of the table, which messages name.
 std::vector<BatchRow> rowsOf(const Typed& typed) {
+  constexpr std::size_t mostBytes = std::size_t{256} << 20U;
   const RowDefaults defaults = defaultsOf(typed);
-  const std::string content = contentOfTable(typed.table);
+  const std::string content = contentOfFile(typed.table, mostBytes);
   try {
     return readRows(content, defaults,
                     [](const std::string& name) { return savedPlace(name, "place"); });
   } catch (const words::UsageError& error) {
-    throw words::UsageError(nameOfTable(typed.table) + ": " + error.what());
+    throw words::UsageError(nameOfFile(typed.table) + ": " + error.what());
   }
 }
 
@@ -164,7 +165,7 @@ void BatchCommand::run() const {
   }
   const std::vector<std::string> lines = complaints(rows, outcomes);
   for (const std::string& line : lines) {
-    std::fprintf(stderr, "veyruna: %s, %s\n", nameOfTable(typed_.table).c_str(), line.c_str());
+    std::fprintf(stderr, "veyruna: %s, %s\n", nameOfFile(typed_.table).c_str(), line.c_str());
   }
   DocumentWriter summary = DocumentWriter::toStandardOutput();
   summary.write(summaryText(rows, outcomes));

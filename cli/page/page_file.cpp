@@ -1,12 +1,12 @@
 #include "cli/page/page_file.h"
 
+#include <cstddef>
 #include <cstdlib>
 #include <filesystem>
-#include <fstream>
-#include <sstream>
 #include <stdexcept>
 #include <string_view>
 
+#include "cli/typed/named_file.h"
 #include "words/quoting.h"
 
 namespace veyruna::cli {
@@ -28,26 +28,24 @@ std::filesystem::path pageFile() {
   return built.empty() || std::filesystem::exists(installed, problem) ? installed : built;
 }
 
-std::string contentOf(const std::filesystem::path& file) {
-  std::ifstream stream(file, std::ios::binary);
-  std::ostringstream content;
-  content << stream.rdbuf();
-  if (!stream.is_open() || stream.bad()) {
-    throw std::runtime_error(
-        "the page for browsers is not here: " + words::inQuotes(file.string()) +
-        " cannot be read; in the source tree ./page builds it");
+std::string contentOf(const std::string& file) {
+  constexpr std::size_t mostBytes = std::size_t{64} << 20U;
+  try {
+    return contentOfFile(file, mostBytes);
+  } catch (const std::runtime_error&) {
+    throw std::runtime_error("the page for browsers is not here: " + words::inQuotes(file) +
+                             " cannot be read; in the source tree ./page builds it");
   }
-  return content.str();
 }
 
 }  // namespace
 
 std::string pageFor(const Session& session) {
-  const std::filesystem::path file = pageFile();
+  const std::string file = pageFile().string();
   std::string page = contentOf(file);
   const std::size_t at = page.find(emptySession);
   if (at == std::string::npos) {
-    throw std::runtime_error(words::inQuotes(file.string()) + " is no page for browsers");
+    throw std::runtime_error(words::inQuotes(file) + " is no page for browsers");
   }
   return page.replace(at + emptySession.find("{}"), 2, sessionJson(session));
 }

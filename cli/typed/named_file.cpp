@@ -1,4 +1,4 @@
-#include "cli/batch/table_file.h"
+#include "cli/typed/named_file.h"
 
 #include <array>
 #include <cerrno>
@@ -14,15 +14,13 @@ namespace veyruna::cli {
 
 namespace {
 
-constexpr std::size_t mostBytes = std::size_t{256} << 20U;
-
 /// A descriptor of its own, which can be closed.
 files::Descriptor opened(const std::string& file) {
   return files::Descriptor(file == "-" ? fcntl(STDIN_FILENO, F_DUPFD_CLOEXEC, STDERR_FILENO + 1)
                                        : open(file.c_str(), O_RDONLY | O_CLOEXEC));
 }
 
-std::string contentOf(const files::Descriptor& file) {
+std::string contentOf(const files::Descriptor& file, std::size_t mostBytes) {
   std::string content;
   std::array<char, 65536> piece{};
   for (;;) {
@@ -42,15 +40,15 @@ std::string contentOf(const files::Descriptor& file) {
 
 }  // namespace
 
-std::string contentOfTable(const std::string& file) {
+std::string contentOfFile(const std::string& file, std::size_t mostBytes) {
   try {
-    return contentOf(opened(file));
+    return contentOf(opened(file), mostBytes);
   } catch (const std::system_error& error) {
-    throw std::runtime_error("cannot read " + nameOfTable(file) + ": " + error.code().message());
+    throw std::runtime_error("cannot read " + nameOfFile(file) + ": " + error.code().message());
   }
 }
 
-std::string nameOfTable(const std::string& file) {
+std::string nameOfFile(const std::string& file) {
   return file == "-" ? "standard input" : words::inQuotes(file);
 }
 

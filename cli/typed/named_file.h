@@ -1,14 +1,16 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 
+/// Files that a person names on the command line; "-" is standard input.
 namespace veyruna::cli {
 
-/// All that a file holds, or standard input for "-". Throws std::runtime_error that names it where
-/// it cannot be read, or is larger than any table of rows (256 MiB).
-std::string contentOfTable(const std::string& file);
+/// All that the file holds. Throws std::runtime_error that names it where it cannot be read, or
+/// holds more than `mostBytes`.
+std::string contentOfFile(const std::string& file, std::size_t mostBytes);
 
-/// How the table is called in messages.
-std::string nameOfTable(const std::string& file);
+/// How the file is called in messages.
+std::string nameOfFile(const std::string& file);
 
 }  // namespace veyruna::cli
