@@ -17,6 +17,7 @@ const std::vector<std::string>& beginnings() {
                                     "dominant", "power", "keep"};
     append(all, lightWords());
     append(all, keepWords());
+    append(all, phaseWords());
     append(all, bodyWords());
     append(all, elementWords());
     append(all, starWords());
@@ -26,11 +27,17 @@ const std::vector<std::string>& beginnings() {
 }
 
 const std::string& beginningsInWords() {
-  static const std::string text =
-      "a body (" + joined(shown(bodyWords())) + "), an element (" + joined(shown(elementWords())) +
-      "), a name of the star map, " + joined(shown(lightWords())) +
-      ", hour, month, eclipse, ascending sign, descending sign, dominant sphere, power, keep, not, "
-      "any of or all of";
+  static const std::string text = [] {
+    std::string all = "a body (" + joined(shown(bodyWords())) + "), an element (" +
+                      joined(shown(elementWords())) + "), a name of the star map, " +
+                      joined(shown(lightWords())) + ", ";
+    for (const std::string& phase : shown(phaseWords())) {
+      all += phase + " moon, ";
+    }
+    return all +
+           "hour, month, eclipse, ascending sign, descending sign, dominant sphere, power, keep, "
+           "not, any of or all of";
+  }();
   return text;
 }
 
@@ -74,6 +81,10 @@ Condition LineReader::condition(int depth) {
   }
   if (const auto body = words_.passIfOneOf(bodyWords())) {
     return afterBody(*body);
+  }
+  if (const auto phase = words_.passIfOneOf(phaseWords())) {
+    words_.expect("moon");
+    return {MoonIs{*phase}};
   }
   if (const auto element = words_.passIfOneOf(elementWords())) {
     return {ElementIs{*element, words_.oneOf(strengthWords(), "a strength")}};

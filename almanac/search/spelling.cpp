@@ -43,7 +43,7 @@ std::string nearestTo(std::string_view text, std::span<const std::string> words)
     return {};
   }
   std::string best;
-  std::size_t least = (text.size() + 2) / 3;
+  std::size_t least = (text.size() + 1) / 3;
   for (const std::string& word : words) {
     const std::size_t distance = Spelling{text}.distanceTo(word);
     if (distance < least || (distance == least && best.empty())) {

@@ -20,8 +20,8 @@ struct Spelling {
   [[nodiscard]] std::size_t distanceTo(std::string_view other) const;
 };
 
-/// The word that is spelt nearest to a text; empty where none is near: more than every
-/// third of the letters would have to change.
+/// The word that is spelt nearest to a text; empty where none is near: more than about
+/// a third of the letters would have to change, one of two to four.
 std::string nearestTo(std::string_view text, std::span<const std::string> words);
 
 }  // namespace veyruna::almanac

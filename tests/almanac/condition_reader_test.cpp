@@ -53,6 +53,8 @@ TEST(ConditionReader, EveryFormHasItsWords) {
   EXPECT_EQ(one("descending sign Wen"), (Condition{RisingSign{signCalled("Wen"), true}}));
   EXPECT_EQ(one("power superior"), (Condition{PowerIs{charts::Power::superior}}));
   EXPECT_EQ(one("keep twisted"), (Condition{KeepIs{true}}));
+  EXPECT_EQ(one("full moon"), one("moon full"));
+  EXPECT_EQ(one("New Moon"), one("moon new"));
   EXPECT_EQ(one("straight keep"), (Condition{KeepIs{false}}));
   EXPECT_EQ(one("zerathe exceptional"),
             (Condition{ElementIs{elementCalled("Zerathe"), charts::Strength::exceptional}}));
