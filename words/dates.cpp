@@ -102,10 +102,6 @@ double readMoment(std::string_view what, std::string_view text, std::optional<do
       named);
 }
 
-bool isUnitOfTime(std::string_view word) {
-  return daysOf(word).has_value();
-}
-
 double readLength(std::string_view what, std::string_view text) {
   const std::size_t letters = std::min(text.find_first_of("dmy"), text.size());
   std::string_view number = text.substr(0, letters);

@@ -28,9 +28,6 @@ std::optional<astro::CalendarReading> dayOf(std::string_view text);
 double readMoment(std::string_view what, std::string_view text,
                   std::optional<double> longitude = {});
 
-/// "day", "days" and so on: whether a number of it is a length of time.
-bool isUnitOfTime(std::string_view word);
-
 /// Days of "12 days", "3 months" or "0.5 years", not below 0 and perhaps infinite. Throws
 /// UsageError.
 double readLength(std::string_view what, std::string_view text);

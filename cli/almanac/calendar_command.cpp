@@ -27,6 +27,7 @@ void writeCalendar(const Typed& typed) {
     }
     words::refuse("--format", typed.formats, noteToolWords() + " for calendar");
   }
+  refuseOtherEndings(typed, documents::Form::json);
   const std::int64_t year =
       words::readWholeNumber("--year", typed.year, words::firstYear, words::lastYear);
   const std::string text = *tool == NoteTool::calendarium ? notes::calendariumCalendar(year)

@@ -29,12 +29,13 @@ documents::Form formOfEvents(const Typed& typed) {
     words::refuse("--format", typed.formats,
                   "one of txt, json, jsonl, csv, " + notes::noteToolWords() + " for events");
   }
-  for (const auto& [option, value] :
-       {std::pair("--out", typed.folder), std::pair("--visibility", typed.visibility)}) {
-    if (!value.empty()) {
-      throw words::UsageError(std::string(option) + " " + words::inQuotes(value) +
-                              " belongs to --format " + notes::noteToolWords(" and "));
-    }
+  if (!typed.folder.empty()) {
+    throw words::UsageError("--out " + words::inQuotes(typed.folder) +
+                            " belongs to --format calendarium");
+  }
+  if (!typed.visibility.empty()) {
+    throw words::UsageError("--visibility " + words::inQuotes(typed.visibility) +
+                            " belongs to --format " + notes::noteToolWords(" and "));
   }
   const std::vector<documents::Form> forms = askedForms(typed, kind);
   askedWidth(typed, forms);

@@ -73,7 +73,7 @@ void DocumentCommands::writeTable(const Entry& likeIt) const {
     return;
   }
   if (size.rows > mostRowsOnPages) {
-    throw words::UsageError("--rows: " + words::inQuotes(typed_.rows) + " is too many for a " +
+    throw words::UsageError("--rows: " + words::inQuotes(typed_.rows) + " is too many for " +
                             std::string(documents::formEntry(form).name) + "; give at most " +
                             std::to_string(mostRowsOnPages) + ", or a name that ends in .txt");
   }

@@ -53,6 +53,7 @@ void writeSchema(const Typed& typed) {
     throw words::UsageError("--format " + words::inQuotes(typed.formats) +
                             " is of one schema; veyruna schema lists their names");
   }
+  refuseOtherEndings(typed, typed.schema.empty() ? documents::Form::text : documents::Form::json);
   const std::string text = typed.schema.empty() ? schemaList()
                            : isOfLines          ? records::lineSchema(typeNamed(typed.schema))
                                                 : records::documentSchema(typeNamed(typed.schema));

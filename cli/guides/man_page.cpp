@@ -84,7 +84,8 @@ veyruna \- star maps, horoscopes and tables of the sky of Veyruna
 Writes the charts and tables of
 .BR veyruna\-astro (1)
 without a window: for scripts, for a whole campaign at once, or for years the window does not reach.
-Options may stand before or after the command. What is not given is that of a first start.
+Moment, place and file may be given before or after the command; its own options stand behind it. What
+is not given is that of a first start.
 .PP
 A chart is written as SVG and a table as text where nothing else is asked for. The ending of a file says
 its form: .svg, .txt, .html, .pdf, .png, .json, .jsonl or .csv. No display is needed.
@@ -107,6 +108,11 @@ Where the saved places are looked for, in VeyrunaAstro/locations.json;
 .I ~/.local/share
 where it is not set.
 .TP
+.B XDG_CONFIG_HOME
+Where what was typed in the window is looked for, in VeyrunaAstro/VeyrunaAstro.conf;
+.I ~/.config
+where it is not set.
+.TP
 .B VEYRUNA_PAGE
 The empty page that
 .B veyruna page
@@ -115,6 +121,9 @@ fills, in place of the one that is installed.
 .TP
 .I ~/.local/share/VeyrunaAstro/locations.json
 The saved places. The command reads them and never changes them.
+.TP
+.I ~/.config/VeyrunaAstro/VeyrunaAstro.conf
+The window's inputs, of which the command reads the place Manual.
 .SH SEE ALSO
 .BR veyruna\-astro (1).
 The manual, a page of which lists the conditions of a search, opens in the window with F1.

@@ -9,18 +9,22 @@
 #include "words/listing.h"
 #include "words/quoting.h"
 #include "words/usage_error.h"
+#include "words/values.h"
 
 namespace veyruna::cli {
 
 namespace {
 
-/// "--for", "3", "years" with the number and its unit in one word.
+/// "--for", "3", "years" with the number and its unit in one word, whatever unit it is.
 std::vector<std::string> withUnitsJoined(std::vector<std::string> arguments) {
   for (std::size_t i = 0; i + 1 < arguments.size(); ++i) {
     const bool isAttached = arguments[i].starts_with("--for=");
     const std::size_t number = isAttached ? i : i + 1;
     const bool isLength = isAttached || arguments[i] == "--for";
-    if (isLength && number + 1 < arguments.size() && words::isUnitOfTime(arguments[number + 1])) {
+    const std::string value =
+        isAttached ? arguments[i].substr(arguments[i].find('=') + 1) : arguments[number];
+    if (isLength && words::numberOf(value) && number + 1 < arguments.size() &&
+        !arguments[number + 1].starts_with('-')) {
       arguments[number] += " " + arguments[number + 1];
       arguments.erase(arguments.begin() + static_cast<std::ptrdiff_t>(number) + 1);
     }
@@ -55,6 +59,7 @@ const Typed& Grammar::parse(const std::vector<std::string>& arguments) {
                     isGiven("--day") || isGiven("--hour");
   typed.hasPlace = isGiven("--lat") || isGiven("--long") || !typed.location.empty();
   refuseMomentBesideOthers();
+  refuseWhatNobodyReads();
   const std::vector<std::string> extras = language_.app().remaining(true);
   if (!extras.empty()) {
     refuseExtra(extras.front());
@@ -108,6 +113,22 @@ void Grammar::refuseMomentBesideOthers() const {
   }
 }
 
+void Grammar::refuseWhatNobodyReads() const {
+  const std::string& command = language_.typed().command;
+  const bool isCalendar = command == "calendar";
+  if (!isCalendar && command != "locations" && command != "schema" && command != "help") {
+    return;
+  }
+  for (const std::string_view option : {"--base-time", "--year", "--month", "--day", "--hour",
+                                        "--local", "--lat", "--long", "--location"}) {
+    const bool isRead = isCalendar && option == "--year";
+    if (isGiven(option.data()) && !isRead) {
+      throw words::UsageError(std::string(option) + " is of one moment or place; " + command +
+                              " takes " + (isCalendar ? "--year alone" : "none"));
+    }
+  }
+}
+
 void Grammar::refuseTwoOf(const char* whole, const std::string& typed,
                           std::initializer_list<const char*> parts, const char* what) const {
   for (const char* const part : parts) {
@@ -157,7 +178,9 @@ std::string Grammar::refusalOfOption(const std::string& name) const {
   }
   const std::string bare = name.substr(std::min(name.find_first_not_of('-'), name.size()));
   const std::string nearest = almanac::nearestTo(bare, optionNames());
-  return words::inQuotes(name) + " is no option; veyruna --help lists them" +
+  const std::string command = chosenCommand();
+  return words::inQuotes(name) + " is no option; veyruna --help " +
+         (command.empty() ? "lists them" : "and veyruna help " + command + " list them") +
          words::asNearest(nearest.empty() ? "" : "--" + nearest);
 }
 
@@ -168,7 +191,10 @@ std::string Grammar::chosenCommand() const {
 
 void Grammar::refuseExtra(const std::string& extra) const {
   if (extra.size() > 1 && extra.starts_with('-')) {
-    throw words::UsageError(refusalOfOption(optionName(extra)));
+    // What follows a short option has been joined to it.
+    const std::string shortName = extra.substr(0, 2);
+    throw words::UsageError(
+        refusalOfOption(commandsWith(shortName).empty() ? optionName(extra) : shortName));
   }
   if (chosenCommand().empty()) {
     throw words::UsageError(refusalOfCommand(extra));

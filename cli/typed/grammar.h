@@ -25,6 +25,7 @@ class Grammar {
   [[nodiscard]] std::string chosenCommand() const;
   [[nodiscard]] bool isGiven(const char* option) const;
   void refuseMomentBesideOthers() const;
+  void refuseWhatNobodyReads() const;
   void refuseTwoOf(const char* whole, const std::string& typed,
                    std::initializer_list<const char*> parts, const char* what) const;
   /// The commands that have an option, joined by "or".

@@ -76,7 +76,7 @@ Language::Language()
   app_->set_version_flag("--version", "version", "Show the version");
   app_->set_help_flag("-h,--help", "Show this help");
   app_->get_formatter()->label("SUBCOMMAND", "COMMAND");
-  app_->footer("`veyruna help COMMAND` shows an example of each.");
+  app_->footer("`veyruna help COMMAND` shows the options of each, with an example.");
   addMoment();
   addPlace();
   addOutput();
@@ -130,7 +130,7 @@ void Language::addMoment() {
   addOne("--day", "D", typed_.day, "Day, 1 to 30 (1)");
   addOne("--hour", "H", typed_.hour, "Hour, 18.25 or 18:15, up to 24 (12)");
   app_->add_flag("--local", typed_.isLocal,
-                 wrapped("The hour is local solar time; of events and search, all hours are"))
+                 wrapped("The hour is local solar time; of events, search and page, all hours are"))
       ->group("Moment");
 }
 

@@ -9,14 +9,21 @@ namespace veyruna::cli {
 
 namespace {
 
+struct Declared {
+  const CLI::Option* option = nullptr;
+  const CLI::App* owner = nullptr;
+};
+
 /// The option of that name, of the whole or of any command; null where there is none.
-const CLI::Option* optionNamed(const CLI::App& app, const std::string& name) {
+Declared declaredOption(const CLI::App& app, const std::string& name) {
   if (name.size() < 2 || name.front() != '-') {
-    return nullptr;
+    return {};
   }
-  const CLI::Option* found = app.get_option_no_throw(name);
+  Declared found{app.get_option_no_throw(name), &app};
   for (const CLI::App* const command : app.get_subcommands(nullptr)) {
-    found = found != nullptr ? found : command->get_option_no_throw(name);
+    if (found.option == nullptr) {
+      found = {command->get_option_no_throw(name), command};
+    }
   }
   return found;
 }
@@ -33,7 +40,7 @@ std::vector<std::string> withValuesAttached(const CLI::App& app,
   for (std::size_t i = 0; i < arguments.size(); ++i) {
     const std::string name = optionName(arguments[i]);
     const bool isAttached = name.size() < arguments[i].size();
-    const CLI::Option* const known = optionNamed(app, name);
+    const auto [known, owner] = declaredOption(app, name);
     const bool takesValue = known != nullptr && known->get_expected_max() > 0;
     if (known != nullptr && !takesValue && isAttached) {
       throw words::UsageError(words::inQuotes(arguments[i]) + " is not accepted; " + name +
@@ -47,10 +54,11 @@ std::vector<std::string> withValuesAttached(const CLI::App& app,
                               : i + 1 < arguments.size() ? arguments[++i]
                                                          : "";
     if (value.empty()) {
-      throw words::UsageError(name +
-                              ": a value is missing; veyruna --help says which are accepted");
+      const std::string help = owner == &app ? "--help" : "help " + owner->get_name();
+      throw words::UsageError(name + ": a value is missing; veyruna " + help +
+                              " says which are accepted");
     }
-    if (!isAttached && optionNamed(app, optionName(value)) != nullptr) {
+    if (!isAttached && declaredOption(app, optionName(value)).option != nullptr) {
       throw words::UsageError(name + ": a value is missing in front of " + words::inQuotes(value) +
                               ", which is an option; where it is meant, write " +
                               words::inQuotes(name + "=" + value));

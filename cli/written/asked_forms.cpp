@@ -76,16 +76,16 @@ Form formOfOne(const Typed& typed, const Entry& document) {
   if (typed.formats.empty()) {
     return ofFile.value_or(documents::ownForm(document.kind));
   }
-  const std::vector<Form> listed = listedForms(typed.formats);
-  if (listed.size() > 1 || !documents::canBe(document, listed.front())) {
+  const std::optional<Form> named = documents::formOf(typed.formats);
+  if (!named || !documents::canBe(document, *named)) {
     words::refuse("--format", typed.formats,
                   "one of " + documents::acceptedExtensions(document) + " for " + typed.command);
   }
-  if (ofFile && *ofFile != listed.front()) {
+  if (ofFile && *ofFile != *named) {
     throw words::UsageError("--format " + words::inQuotes(typed.formats) + " and -o " +
                             words::inQuotes(typed.file) + " name two forms; give one");
   }
-  return listed.front();
+  return *named;
 }
 
 }  // namespace
@@ -108,15 +108,24 @@ std::vector<Form> askedForms(const Typed& typed, const Entry& document) {
   return {form};
 }
 
+void refuseOtherEndings(const Typed& typed, Form only) {
+  const std::optional<Form> form = documents::formOf(endingOf(typed.file));
+  if (form && *form != only && !isStandardOutput(typed.file)) {
+    words::refuse("-o", typed.file,
+                  "a name that ends in ." + std::string(documents::formEntry(only).extension) +
+                      " for " + typed.command);
+  }
+}
+
 int askedWidth(const Typed& typed, const std::vector<Form>& forms) {
   if (typed.size.empty()) {
     return 0;
   }
   if (std::ranges::count(forms, Form::png) == 0) {
-    throw words::UsageError(
-        "--size " + words::inQuotes(typed.size) +
-        " is the width of a PNG, and none is asked for; name one with -o FILE.png or "
-        "--format png");
+    const bool isOfMany = typed.command == "all" || typed.command == "batch";
+    throw words::UsageError("--size " + words::inQuotes(typed.size) +
+                            " is the width of a PNG, and none is asked for; name one with " +
+                            (isOfMany ? "" : "-o FILE.png or ") + "--format png");
   }
   return static_cast<int>(words::readWholeNumber("--size", typed.size, leastWidth, mostWidth));
 }

@@ -17,6 +17,9 @@ std::vector<documents::Form> askedForms(const Typed& typed, const documents::Ent
 /// The same for what is no document of the table.
 std::vector<documents::Form> askedForms(const Typed& typed, documents::Kind kind);
 
+/// Throws UsageError where the file's ending names another form than the only one there is.
+void refuseOtherEndings(const Typed& typed, documents::Form only);
+
 /// How many pixels wide a PNG is to be; 0 where that was left open. Throws UsageError, also where
 /// none of the forms has pixels.
 int askedWidth(const Typed& typed, const std::vector<documents::Form>& forms);

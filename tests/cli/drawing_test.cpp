@@ -201,6 +201,8 @@ TEST_F(Drawing, WhatIsNotAcceptedIsQuoted) {
       {"locations --format pdf",
        "--format: \"pdf\" is not accepted; give one of txt, json, jsonl or csv for locations"},
       {"star-map --format gif",
+       "--format: \"gif\" is not accepted; give one of svg, html, pdf or png for star-map"},
+      {"all --out x --format gif",
        "--format: \"gif\" is not accepted; give one or several of svg, "
        "txt, html, pdf, png, json, jsonl, csv, with commas between them"},
       {"all --out x --format svg,,png", "\"svg,,png\""},
@@ -218,7 +220,7 @@ TEST_F(Drawing, WhatIsNotAcceptedIsQuoted) {
       {"star-map -o sky.png --size 10001", "\"10001\""},
       {"star-map -o sky.png --size 2x", "\"2x\""},
       {"ephemeris --rows 36001 --step 1 -o e.pdf",
-       "--rows: \"36001\" is too many for a PDF; give at most 36000, or a name that ends in .txt"},
+       "--rows: \"36001\" is too many for PDF; give at most 36000, or a name that ends in .txt"},
       {"star-map --month 13 -o sky.pdf", "--month: \"13\""},
   };
   for (const auto& [arguments, says] : refusals) {

@@ -104,9 +104,45 @@ TEST(Refusal, NamesTheWordThatIsSpeltMostAlike) {
       {{"events", "--kinds=moon"}, "\"--kinds\"", "; the nearest is \"--kind\"\n"},
       {{"--knid", "moon"}, "\"--knid\"", "; the nearest is \"--kind\"\n"},
       {{"sunrise"}, "\"sunrise\"", "schema, help\n"},
-      {{"moment", "--colour"}, "\"--colour\"", "lists them\n"},
+      {{"--colour", "moment"}, "\"--colour\"", "and veyruna help moment list them\n"},
+      {{"--colour"}, "\"--colour\"", "veyruna --help lists them\n"},
       // An option of another command is no help behind this one.
-      {{"moment", "--knid=moon"}, "\"--knid\"", "lists them\n"},
+      {{"moment", "--knid=moon"}, "\"--knid\"", "list them\n"},
+  };
+  std::for_each(refusals.begin(), refusals.end(), expectRefused);
+}
+
+TEST(Refusal, OfALengthQuotesItsUnit) {
+  const std::string accepted = "\"3 months\" or \"10 years\"";
+  const std::vector<Refusal> refusals = {
+      {{"events", "--from", "720-01-01", "--for", "3", "weeks"}, "--for: \"3 weeks\"", accepted},
+      {{"events", "--from", "720-01-01", "--for=1", "Year"}, "--for: \"1 Year\"", accepted},
+      {{"search", "--from", "720-01-01", "--for", "10", "yeras", "moon full"},
+       "--for: \"10 yeras\"",
+       accepted},
+      {{"events", "--from", "720-01-01", "--for", "3", "--kind=moon"}, "--for: \"3\"", accepted},
+  };
+  std::for_each(refusals.begin(), refusals.end(), expectRefused);
+}
+
+TEST(Refusal, OfWhatTheCommandDoesNotRead) {
+  const std::vector<Refusal> refusals = {
+      {{"calendar", "--base-time", "3"}, "--base-time is", "calendar takes --year alone"},
+      {{"calendar", "--year", "3", "--lat", "4"}, "--lat is", "calendar takes --year alone"},
+      {{"locations", "--year", "abc"}, "--year is", "locations takes none"},
+      {{"schema", "--long", "foo"}, "--long is", "schema takes none"},
+      {{"help", "--local", "moment"}, "--local is", "help takes none"},
+      {{"schema", "-o", "names.json"}, "\"names.json\"", "ends in .txt for schema"},
+      {{"schema", "events", "-o", "s.pdf"}, "\"s.pdf\"", "ends in .json for schema"},
+      {{"calendar", "--format", "calendarium", "-o", "c.txt"}, "\"c.txt\"", ".json for calendar"},
+      {{"moment", "-f", "x"}, "\"-f\"", "belongs behind search"},
+      {{"moment", "--format", "xml"}, "\"xml\"", "for moment"},
+      {{"moment", "--format", "svg,txt"}, "\"svg,txt\"", "for moment"},
+      {{"ephemeris", "--rows="}, "--rows", "veyruna help ephemeris says"},
+      {{"all", "--out", "x", "--size", "100"}, "\"100\"", "name one with --format png"},
+      {{"events", "--from", "720-01-01", "--for", "1 day", "--out", "d"},
+       "\"d\"",
+       "belongs to --format calendarium\n"},
   };
   std::for_each(refusals.begin(), refusals.end(), expectRefused);
 }
