@@ -66,7 +66,9 @@ TimeBar::TimeBar(LiveTime& time, QWidget* parent)
                          : tr("The calendar has no earlier moment."));
   });
   connect(&time_, &LiveTime::isOnChanged, this, [this] { setVisible(time_.isOn()); });
-  setVisible(time_.isOn());
+  if (!time_.isOn()) {
+    hide();  // else it comes up with its window; shown by itself it would be one
+  }
   showMotion();
   showPace();
   showBeginning();

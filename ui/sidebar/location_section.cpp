@@ -41,9 +41,9 @@ LocationSection::LocationSection(model::AstronomyModel& model, QWidget* parent)
   savedPlace_ = makeSavedPlace();
   manualFields_ = makeManualFields();
   place_ = new QStackedLayout;
+  column->addLayout(place_);  // first: it shows its first widget, which alone would be a window
   place_->addWidget(savedPlace_);
   place_->addWidget(manualFields_);
-  column->addLayout(place_);
   column->addWidget(makeButtons());
   auto* const note = named(new FieldNote, "locationNote", tr("What the coordinates accept"));
   addAtFoot(*column, note);
