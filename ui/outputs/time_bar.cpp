@@ -1,6 +1,7 @@
 #include "ui/outputs/time_bar.h"
 
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QToolButton>
 
@@ -16,6 +17,19 @@ using model::TimeStep;
 
 namespace {
 
+/// Leaves Space to the window, where it does what the buttons say of it: the program puts the focus
+/// on one of them, and whichever has it, Space plays and pauses, and Shift+Space plays backwards.
+class PlayButton final : public QToolButton {
+ protected:
+  void keyPressEvent(QKeyEvent* event) override {
+    if (event->key() == Qt::Key_Space) {
+      event->ignore();
+    } else {
+      QToolButton::keyPressEvent(event);
+    }
+  }
+};
+
 /// "2 a second".
 QString speedTitle(double stepsPerSecond) {
   return stepsPerSecond < 1.0 ? TimeBar::tr("½ a second")
@@ -29,14 +43,14 @@ TimeBar::TimeBar(LiveTime& time, QWidget* parent)
       time_(time),
       back_(makePlayButton("playBack", Motion::backward)),
       forward_(makePlayButton("play", Motion::forward)),
-      begin_(makeButton("timeBeginning", "beginning", QString())),
+      begin_(dressed(new QToolButton, "timeBeginning", "beginning", QString())),
       step_(named(new StillComboBox, "timeStep", tr("Step of time"))),
       speed_(named(new StillComboBox, "timeSpeed", tr("Speed of playing"))),
       end_(named(new QLabel, "timeEnd", tr("End of time"))) {
-  QToolButton* const stepBack =
-      makeButton("stepBack", "step_back", tr("A step back (%1)").arg(QStringLiteral("Alt+←")));
-  QToolButton* const stepForward = makeButton(
-      "stepForward", "step_forward", tr("A step forward (%1)").arg(QStringLiteral("Alt+→")));
+  QToolButton* const stepBack = dressed(new QToolButton, "stepBack", "step_back",
+                                        tr("A step back (%1)").arg(QStringLiteral("Alt+←")));
+  QToolButton* const stepForward = dressed(new QToolButton, "stepForward", "step_forward",
+                                           tr("A step forward (%1)").arg(QStringLiteral("Alt+→")));
   for (QToolButton* const button : {stepBack, stepForward}) {
     button->setAutoRepeat(true);
     connect(button, &QToolButton::clicked, &time_,
@@ -74,8 +88,9 @@ TimeBar::TimeBar(LiveTime& time, QWidget* parent)
   showBeginning();
 }
 
-QToolButton* TimeBar::makeButton(const char* name, const char* iconName, const QString& does) {
-  auto* const button = named(new QToolButton, name, does);
+QToolButton* TimeBar::dressed(QToolButton* button, const char* name, const char* iconName,
+                              const QString& does) {
+  named(button, name, does);
   button->setIcon(icon("", iconName));
   button->setToolTip(does);
   button->setAutoRaise(true);
@@ -84,7 +99,7 @@ QToolButton* TimeBar::makeButton(const char* name, const char* iconName, const Q
 }
 
 QToolButton* TimeBar::makePlayButton(const char* name, Motion motion) {
-  QToolButton* const button = makeButton(name, "play", QString());
+  QToolButton* const button = dressed(new PlayButton, name, "play", QString());
   connect(button, &QToolButton::clicked, &time_, [this, motion] {
     if (time_.motion() == motion) {
       time_.pause();

@@ -24,7 +24,8 @@ class TimeBar final : public QWidget {
  private:
   using Motion = model::LiveTime::Motion;
 
-  QToolButton* makeButton(const char* name, const char* icon, const QString& does);
+  static QToolButton* dressed(QToolButton* button, const char* name, const char* icon,
+                              const QString& does);
   QToolButton* makePlayButton(const char* name, Motion motion);
   void addPace(QHBoxLayout& row);
   void showMotion();
