@@ -6,6 +6,7 @@
 #include <QToolButton>
 
 #include "astro/calendar.h"
+#include "model/calculation.h"
 #include "ui/controls/icons.h"
 #include "ui/controls/named.h"
 #include "ui/controls/still_controls.h"
@@ -161,8 +162,12 @@ void TimeBar::showPace() {
 }
 
 void TimeBar::showBeginning() {
-  const QString does = tr("Back to where time began to move, %1")
-                           .arg(QString::fromStdString(astro::calendarLabel(time_.beginning())));
+  // What was stored may lie where no moment has a name.
+  const double beginning = time_.beginning();
+  const QString does = model::isMomentWithinReach(beginning)
+                           ? tr("Back to where time began to move, %1")
+                                 .arg(QString::fromStdString(astro::calendarLabel(beginning)))
+                           : tr("Back to where time began to move");
   begin_->setToolTip(does);
   begin_->setAccessibleName(does);
 }
