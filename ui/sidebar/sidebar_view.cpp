@@ -68,6 +68,7 @@ SidebarView::SidebarView(model::AstronomyModel& model, QWidget* parent)
   });
   connect(calculate, &CalculateArea::calculateRequested, this, [this] {
     commit();
+    Q_EMIT calculatePressed();
     model_.recalculate();
   });
 }

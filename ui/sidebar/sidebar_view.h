@@ -31,6 +31,7 @@ class SidebarView final : public QScrollArea {
   [[nodiscard]] QSize minimumSizeHint() const override;
 
  Q_SIGNALS:
+  void calculatePressed();  ///< it is being seen to
   void mapRequested();
   void nativeExportRequested();
   void pdfExportRequested();

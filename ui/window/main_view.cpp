@@ -80,8 +80,8 @@ MainView::MainView(model::AstronomyModel& model, model::LiveTime& time, WindowSt
               [this, form = form] { exports_->exportAs(form, settledTab()); });
     }
   }
-  connect(&model, &model::AstronomyModel::isCalculatingChanged, notice_,
-          &ExportNotice::dismissFailure);
+  // Not what is calculated by itself, or for another window: the failure may not be read yet.
+  connect(sidebar_, &SidebarView::calculatePressed, notice_, &ExportNotice::dismissFailure);
   for (QGroupBox* const box : sidebar_->findChildren<QGroupBox*>()) {
     box->installEventFilter(this);
   }

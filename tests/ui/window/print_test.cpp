@@ -165,6 +165,30 @@ TEST_F(Printing, WhatWasSentIsPrintedThoughItsWindowIsClosed) {
   EXPECT_TRUE(contentOf("all").endsWith("%%EOF\n"));
 }
 
+TEST_F(Printing, AFailureStaysWhateverIsCalculatedElsewhere) {
+  askToPrint();
+  EXPECT_NE(notice(), QString());
+  calculate();
+  EXPECT_EQ(notice(), QStringLiteral("Not printed: this computer has no print command (lp)"));
+  press("calculateButton");
+  EXPECT_EQ(notice(), QString());
+}
+
+TEST_F(Printing, AFailureStaysThoughTimePlayedWhenItWasAskedFor) {
+  QTest::keyClick(&window, Qt::Key_L, Qt::ControlModifier);
+  time.play(model::LiveTime::Motion::forward);
+  askToPrint();  // time rests then, and everything is calculated
+  const QString failure = notice();
+  EXPECT_NE(failure, QString());
+  ASSERT_TRUE(QTest::qWaitFor([this] { return tasks.count() > 0; }, tests::patienceMilliseconds));
+  while (tasks.count() > 0) {
+    tasks.runNext();
+    tests::turnEventLoop();
+  }
+  EXPECT_FALSE(model.isCalculating());
+  EXPECT_EQ(notice(), failure);
+}
+
 TEST_F(Printing, TheResultSaysWhereTheInputsHaveChanged) {
   installPrinters();
   model.setYear(900);
