@@ -4,6 +4,7 @@
 #include <QLocale>
 #include <algorithm>
 
+#include "ui/controls/plain_key.h"
 #include "ui/controls/typed_entry.h"
 
 namespace veyruna::ui {
@@ -18,7 +19,6 @@ constexpr QChar degreeSign(0x00b0);
 
 AngleField::AngleField(const QString& word, double most, Directions directions, QWidget* parent)
     : QLineEdit(parent), word_(word), most_(most), directions_(directions) {
-  connect(this, &QLineEdit::textEdited, this, &AngleField::takeOutDirection);
   entry_ = new TypedEntry(*this, *this,
                           {[this](const QString& text) { return read(text); },
                            [this](const QString& text) { return accepted(text); },
@@ -43,8 +43,9 @@ void AngleField::commit() {
 }
 
 void AngleField::keyPressEvent(QKeyEvent* event) {
-  const bool isPlain = (event->modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier)) == 0;
-  if (const std::optional<bool> direction = directionOf(event->text()); isPlain && direction) {
+  // Beside a number that nobody is typing it is like the button; else it belongs to what is typed.
+  const bool isAlone = !entry_->isTyping() && selectedText() != text();
+  if (const auto direction = directionOf(event->text()); direction && isAlone && isPlain(*event)) {
     Q_EMIT turned(*direction);
   } else {
     QLineEdit::keyPressEvent(event);
@@ -62,50 +63,47 @@ std::optional<bool> AngleField::directionOf(const QString& sign) const {
   return std::nullopt;
 }
 
-/// Of what was pasted: "20.9° W" or "−20.9".
-void AngleField::takeOutDirection() {
-  QString number = text().trimmed();
+/// "20.9° W" or "−20.9" in its parts; the number as the locale writes it.
+AngleField::Typed AngleField::partsOf(const QString& text) const {
+  QString number = text.trimmed();
   std::optional<bool> direction = directionOf(number.left(1));
   if (direction) {
     number = number.mid(1).trimmed();
   } else if (direction = directionOf(number.right(1)); direction && number.back().isLetter()) {
     number = number.chopped(1).trimmed();
   } else {
-    return;
+    direction = std::nullopt;  // a minus behind the number is none
   }
-  setText(number);
-  Q_EMIT turned(*direction);
-}
-
-QString AngleField::plain(const QString& text) const {
-  // Either decimal sign is meant as one, whatever the locale's is.
-  const QString point = locale().decimalPoint();
-  QString number = text.trimmed();
   if (number.endsWith(degreeSign)) {
     number = number.chopped(1).trimmed();
   }
-  return number.replace(QLatin1Char('.'), point).replace(QLatin1Char(','), point);
+  // Either decimal sign is meant as one, whatever the locale's is.
+  const QString point = locale().decimalPoint();
+  return {number.replace(QLatin1Char('.'), point).replace(QLatin1Char(','), point), direction};
 }
 
 Reading AngleField::read(const QString& text) const {
-  const QString number = plain(text);
+  const auto [number, direction] = partsOf(text);
   const QString point = locale().decimalPoint();
+  if (number.isEmpty() && direction) {
+    return Reading::accepted;  // it turns the number in use
+  }
   if (number.isEmpty() || number == point) {
     return Reading::unfinished;
   }
-  const bool isPlain = std::all_of(number.begin(), number.end(), [&point](QChar character) {
+  const bool isDigits = std::all_of(number.begin(), number.end(), [&point](QChar character) {
     return character.isDigit() || point.contains(character);
   });
   const qsizetype pointAt = number.indexOf(point);
   const qsizetype decimals = pointAt < 0 ? 0 : number.size() - pointAt - point.size();
   bool isNumber = false;
   const double degrees = locale().toDouble(number, &isNumber);
-  return isNumber && isPlain && decimals <= mostDecimals && degrees <= most_ ? Reading::accepted
-                                                                             : Reading::refused;
+  return isNumber && isDigits && decimals <= mostDecimals && degrees <= most_ ? Reading::accepted
+                                                                              : Reading::refused;
 }
 
 QString AngleField::accepted(const QString& text) const {
-  const QString number = plain(text);
+  const QString number = partsOf(text).number;
   const qsizetype point = number.indexOf(locale().decimalPoint());
   const bool isTooFine =
       point >= 0 && read(number.left(point + 1 + mostDecimals)) == Reading::accepted;
@@ -126,10 +124,14 @@ QString AngleField::textOf(double degrees) const {
 }
 
 void AngleField::take(const QString& text) {
-  const double typed = locale().toDouble(plain(text));
+  const auto [number, direction] = partsOf(text);
+  const double typed = number.isEmpty() ? degrees_ : locale().toDouble(number);
   const bool changes = typed != degrees_;
   degrees_ = typed;
   entry_->show(textOf(typed));
+  if (direction) {
+    Q_EMIT turned(*direction);
+  }
   if (changes) {
     Q_EMIT edited(typed);
   }

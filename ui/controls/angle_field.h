@@ -16,7 +16,8 @@ struct Directions {
 
 /// A number of degrees, typed in the person's own notation. Shows up to three decimals; showing
 /// never changes the number, and only what the person types is reported. The direction stands
-/// beside the field; its letter typed here, or a minus, is reported and not kept in the text.
+/// beside the field; its letter typed here, before or behind the number, or a minus before it
+/// counts together with the number and is then no longer in the text.
 class AngleField final : public QLineEdit {
   Q_OBJECT
 
@@ -34,7 +35,8 @@ class AngleField final : public QLineEdit {
  Q_SIGNALS:
   /// The person typed another number.
   void edited(double degrees);
-  /// The person typed a direction's letter, or a minus for the negative one.
+  /// The person typed a direction's letter, or a minus for the negative one, with a number that
+  /// counts or by itself.
   void turned(bool isPositive);
   /// What the person is to know about what they typed; empty when there is nothing any more.
   void noted(const QString& note);
@@ -43,9 +45,13 @@ class AngleField final : public QLineEdit {
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
+  struct Typed {
+    QString number;
+    std::optional<bool> direction;
+  };
+
   [[nodiscard]] std::optional<bool> directionOf(const QString& sign) const;
-  void takeOutDirection();
-  [[nodiscard]] QString plain(const QString& text) const;
+  [[nodiscard]] Typed partsOf(const QString& text) const;
   [[nodiscard]] Reading read(const QString& text) const;
   [[nodiscard]] QString accepted(const QString& text) const;
   [[nodiscard]] QString textOf(double degrees) const;

@@ -34,6 +34,9 @@ void TypedEntry::judge() {
   const QString text = line_.text();
   const bool isRefused = rules_.read(text) == Reading::refused;
   note(isRefused ? rules_.accepted(text) : QString(), isRefused);
+  if (!isRefused) {
+    Q_EMIT noted(QString());  // where fields share a line, it may still speak of the last one
+  }
 }
 
 void TypedEntry::take() {

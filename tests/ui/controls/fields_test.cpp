@@ -320,21 +320,37 @@ TEST_F(LatitudeField, WhatIsNoLatitudeIsMarkedAndNeverAnotherOne) {
   EXPECT_EQ(edits.count(), 0);
 }
 
-TEST_F(LatitudeField, ALetterOrAMinusTurnsItAndIsNotKept) {
-  field.show(1.0);
-  for (const auto& [text, isNorth] : {std::pair("s12", false), std::pair("12n", true),
-                                      std::pair("-12", false), std::pair("12S", false)}) {
+TEST_F(LatitudeField, ALetterOrAMinusTurnsItWhenTheNumberCounts) {
+  for (const auto& [text, isNorth] :
+       {std::pair("s12", false), std::pair("12n", true), std::pair("-12", false),
+        std::pair("12S", false), std::pair("12.0 n", true)}) {
+    field.show(1.0);
     turns.clear();
+    edits.clear();
     field.selectAll();
     QTest::keyClicks(&field, QString::fromLatin1(text));
+    EXPECT_EQ(turns.count(), 0) << text;
+    EXPECT_FALSE(isMarked(field)) << text;
+    field.commit();
     ASSERT_EQ(turns.count(), 1) << text;
     EXPECT_EQ(turns.at(0).at(0).toBool(), isNorth) << text;
     EXPECT_EQ(field.text(), QStringLiteral("12")) << text;
-    EXPECT_FALSE(isMarked(field)) << text;
+    ASSERT_EQ(edits.count(), 1) << text;
+    EXPECT_EQ(edits.at(0).at(0).toDouble(), 12.0) << text;
   }
-  field.commit();
-  ASSERT_EQ(edits.count(), 1);
-  EXPECT_EQ(edits.at(0).at(0).toDouble(), 12.0);
+}
+
+TEST_F(LatitudeField, TwoDirectionsAreNone) {
+  field.show(1.0);
+  for (const char* const text : {"s12n", "12ns", "-12s", "--12", "12-"}) {
+    field.selectAll();
+    QTest::keyClicks(&field, QString::fromLatin1(text));
+    EXPECT_TRUE(isMarked(field)) << text;
+    field.commit();
+    EXPECT_EQ(field.text(), QStringLiteral("1")) << text;
+  }
+  EXPECT_EQ(turns.count(), 0);
+  EXPECT_EQ(edits.count(), 0);
 }
 
 TEST_F(LatitudeField, ALetterInTheMiddleOfTheNumberTurnsItToo) {

@@ -53,6 +53,45 @@ TEST_F(Controls, EachLetterTurnsItsCoordinateItsWay) {
   }
 }
 
+TEST_F(Controls, ACoordinateThatIsRefusedOrGivenUpTurnsNothing) {
+  for (const auto& [name, text] :
+       {std::pair("latitudeField", "140.5S"), std::pair("latitudeField", "s140.5"),
+        std::pair("latitudeField", "-140.5"), std::pair("longitudeField", "333e")}) {
+    for (const Qt::Key end : {Qt::Key_Tab, Qt::Key_Escape}) {
+      type(name, QString::fromLatin1(text));
+      QTest::keyClick(find<QWidget>(name), end);
+      EXPECT_TRUE(model.latNorth()) << text;
+      EXPECT_TRUE(model.longWest()) << text;
+    }
+  }
+  type("longitudeField", QStringLiteral("33e"));
+  QTest::keyClick(find<QWidget>("longitudeField"), Qt::Key_Escape);
+  EXPECT_EQ(find<QLineEdit>("longitudeField")->text(), QLocale().toString(20.9));
+  EXPECT_TRUE(find<QAbstractButton>("northSouthN")->isChecked());
+  EXPECT_TRUE(find<QAbstractButton>("eastWestW")->isChecked());
+  EXPECT_TRUE(stored().isEmpty());
+}
+
+TEST_F(Controls, ACoordinateThatCountsTurnsItsWay) {
+  type("latitudeField", QStringLiteral("12.5s"));
+  QTest::keyClick(find<QWidget>("latitudeField"), Qt::Key_Tab);
+  EXPECT_EQ(model.manualLatDeg(), 12.5);
+  EXPECT_FALSE(model.latNorth());
+  type("longitudeField", QStringLiteral("E33"));
+  QTest::keyClick(&window, Qt::Key_Return, Qt::ControlModifier);
+  EXPECT_EQ(model.manualLongDeg(), 33.0);
+  EXPECT_FALSE(model.longWest());
+  EXPECT_TRUE(model.isCalculating());
+}
+
+TEST_F(Controls, WhatOneCoordinateAcceptsIsNoLongerSaidWhenTheOtherIsTyped) {
+  type("latitudeField", QStringLiteral("140"));
+  QTest::keyClick(find<QWidget>("latitudeField"), Qt::Key_Tab);
+  EXPECT_EQ(find<QLabel>("locationNote")->text(), QStringLiteral("Latitude 0 to 90; still 40.5"));
+  type("longitudeField", QStringLiteral("33"));
+  EXPECT_EQ(find<QLabel>("locationNote")->text(), QString());
+}
+
 TEST_F(Controls, TheDateControlsSetTheDate) {
   choose("monthPicker", QStringLiteral("Cendo"));
   stored();
@@ -112,19 +151,20 @@ TEST_F(Controls, DeletingAPlaceFallsBackToManual) {
 
 TEST_F(Controls, ALetterTypedIntoACoordinateSwitchesItsSegment) {
   type("latitudeField", QStringLiteral("-12"));
+  EXPECT_TRUE(model.latNorth()) << "nothing counts yet";
+  type("longitudeField", QStringLiteral("34e"));
+  EXPECT_EQ(model.manualLatDeg(), 12.0);
   EXPECT_FALSE(model.latNorth());
   EXPECT_TRUE(find<QAbstractButton>("northSouthS")->isChecked());
   EXPECT_EQ(find<QLineEdit>("latitudeField")->text(), QStringLiteral("12"));
-  type("longitudeField", QStringLiteral("34e"));
-  EXPECT_EQ(model.manualLatDeg(), 12.0);
-  EXPECT_FALSE(model.longWest());
-  EXPECT_TRUE(find<QAbstractButton>("eastWestE")->isChecked());
-  EXPECT_EQ(find<QLineEdit>("longitudeField")->text(), QStringLiteral("34"))
+  EXPECT_EQ(find<QLineEdit>("longitudeField")->text(), QStringLiteral("34e"))
       << "what is being typed stays";
-  QTest::keyClicks(find<QWidget>("longitudeField"), QStringLiteral("W"));
-  EXPECT_TRUE(model.longWest());
   QTest::keyClick(find<QWidget>("longitudeField"), Qt::Key_Return);
   EXPECT_EQ(model.manualLongDeg(), 34.0);
+  EXPECT_FALSE(model.longWest());
+  EXPECT_TRUE(find<QAbstractButton>("eastWestE")->isChecked());
+  QTest::keyClicks(find<QWidget>("longitudeField"), QStringLiteral("W"));
+  EXPECT_TRUE(model.longWest()) << "by itself it is like the button";
   QTest::keyClicks(find<QWidget>("latitudeField"), QStringLiteral("n"));
   EXPECT_TRUE(model.latNorth());
 }
