@@ -4,7 +4,6 @@
 
 #include "export/output_tab.h"
 
-class QButtonGroup;
 class QVBoxLayout;
 
 namespace veyruna::ui {

@@ -4,7 +4,6 @@
 
 #include "model/astronomy_model.h"
 
-class QAbstractButton;
 class QLabel;
 class QPushButton;
 class QStackedLayout;
