@@ -1,6 +1,7 @@
 #include "ui/controls/alert.h"
 
 #include <QLabel>
+#include <QWidget>
 #include <utility>
 
 namespace veyruna::ui {
@@ -16,6 +17,11 @@ void alert(QLabel& label) {
     return;
   }
   QAccessibleEvent event(&label, QAccessible::Alert);
+  alertHandler(&event);
+}
+
+void tellValue(QWidget& field, qint64 value) {
+  QAccessibleValueChangeEvent event(&field, value);
   alertHandler(&event);
 }
 

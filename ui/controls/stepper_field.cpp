@@ -6,6 +6,7 @@
 #include <QWheelEvent>
 #include <algorithm>
 
+#include "ui/controls/alert.h"
 #include "ui/controls/typed_entry.h"
 
 namespace veyruna::ui {
@@ -26,10 +27,12 @@ StepperField::StepperField(const QString& word, qint64 least, qint64 most, qint6
 
 void StepperField::show(qint64 number) {
   if (number != number_) {
-    number_ = number;
-    entry_->show(textOf(number));
-    update();  // which way it can be stepped
+    put(number);
   }
+}
+
+void StepperField::setValue(qint64 value) {
+  choose(std::clamp(value, minimum(), maximum()) - offset_);
 }
 
 void StepperField::commit() {
@@ -68,10 +71,13 @@ void StepperField::wheelEvent(QWheelEvent* event) {
   }
 }
 
-QString StepperField::textOf(qint64 number) const {
+qint64 StepperField::shownOf(qint64 number) const {
   // Summed unsigned: a stored number may be the largest there is.
-  const auto shown = static_cast<quint64>(number) + static_cast<quint64>(offset_);
-  return QString::number(static_cast<qint64>(shown));
+  return static_cast<qint64>(static_cast<quint64>(number) + static_cast<quint64>(offset_));
+}
+
+QString StepperField::textOf(qint64 number) const {
+  return QString::number(shownOf(number));
 }
 
 std::optional<qint64> StepperField::numberIn(const QString& text) const {
@@ -95,11 +101,19 @@ Reading StepperField::read(const QString& text) const {
 
 void StepperField::choose(qint64 number) {
   const bool changes = number != number_;
-  number_ = number;
-  entry_->show(textOf(number));
-  update();
+  put(number);
   if (changes) {
     Q_EMIT edited(number);
+  }
+}
+
+void StepperField::put(qint64 number) {
+  const bool changes = number != number_;
+  number_ = number;
+  entry_->show(textOf(number));
+  update();  // which way it can be stepped
+  if (changes) {
+    tellValue(*this, value());
   }
 }
 

@@ -13,6 +13,11 @@ class TypedEntry;
 /// only what the person steps or types is kept in the range and reported.
 class StepperField final : public QAbstractSpinBox {
   Q_OBJECT
+  // What a screen reader reads and sets, by the names it knows; in the numbers that are shown.
+  Q_PROPERTY(qint64 value READ value WRITE setValue)
+  Q_PROPERTY(qint64 minimum READ minimum CONSTANT)
+  Q_PROPERTY(qint64 maximum READ maximum CONSTANT)
+  Q_PROPERTY(int stepSize READ stepSize CONSTANT)
 
  public:
   /// `offset` is added for showing: a day counted from 0 is shown from 1. The range is of the
@@ -25,6 +30,13 @@ class StepperField final : public QAbstractSpinBox {
 
   /// Takes over what is being typed, where it is a number of the range.
   void commit();
+
+  [[nodiscard]] qint64 value() const { return shownOf(number_); }
+  [[nodiscard]] qint64 minimum() const { return shownOf(least_); }
+  [[nodiscard]] qint64 maximum() const { return shownOf(most_); }
+  [[nodiscard]] static int stepSize() { return 1; }
+  /// The person chose the value, or the border that is nearest to it.
+  void setValue(qint64 value);
 
   /// From a number outside the range a step leads to the border, however far it goes.
   void stepBy(int steps) override;
@@ -42,10 +54,12 @@ class StepperField final : public QAbstractSpinBox {
   void wheelEvent(QWheelEvent* event) override;
 
  private:
+  [[nodiscard]] qint64 shownOf(qint64 number) const;
   [[nodiscard]] QString textOf(qint64 number) const;
   [[nodiscard]] std::optional<qint64> numberIn(const QString& text) const;
   [[nodiscard]] Reading read(const QString& text) const;
   void choose(qint64 number);
+  void put(qint64 number);
 
   QString word_;
   qint64 least_;

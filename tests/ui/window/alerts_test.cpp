@@ -53,6 +53,43 @@ TEST_F(Spoken, WhatAFieldAcceptsIsSaidWhenItRefuses) {
   }
 }
 
+TEST_F(Spoken, DayAndYearHaveTheirValuesAsTheyAreShown) {
+  struct Field {
+    const char* name;
+    int value;
+    int most;
+  };
+  for (const auto& [name, value, most] :
+       {Field{"dayStepper", 1, 30}, Field{"yearStepper", 720, 2000}}) {
+    QAccessibleInterface* const spoken = QAccessible::queryAccessibleInterface(find<QWidget>(name));
+    ASSERT_NE(spoken->valueInterface(), nullptr) << name;
+    QAccessibleValueInterface& is = *spoken->valueInterface();
+    EXPECT_EQ(is.currentValue().toInt(), value) << name;
+    EXPECT_EQ(is.minimumValue().toInt(), 1) << name;
+    EXPECT_EQ(is.maximumValue().toInt(), most) << name;
+    EXPECT_EQ(is.minimumStepSize().toInt(), 1) << name;
+    is.setCurrentValue(17);
+    EXPECT_EQ(is.currentValue().toInt(), 17) << name;
+    is.setCurrentValue(most + 1);
+    EXPECT_EQ(is.currentValue().toInt(), most) << name;
+  }
+  EXPECT_EQ(model.dayIndex(), 29);
+  EXPECT_EQ(model.year(), 2000);
+}
+
+TEST_F(Spoken, AValueThatChangesIsToldOnce) {
+  tests::Alerts::values();
+  QTest::keyClick(find<QWidget>("yearStepper"), Qt::Key_Up);
+  EXPECT_EQ(tests::Alerts::values(), QStringList(QStringLiteral("Year 721")));
+  type("dayStepper", QStringLiteral("30"));
+  EXPECT_EQ(tests::Alerts::values(), QStringList()) << "it does not count yet";
+  QTest::keyClick(find<QWidget>("dayStepper"), Qt::Key_Return);
+  EXPECT_EQ(tests::Alerts::values(), QStringList(QStringLiteral("Day of the month 30")));
+  model.setYear(900);
+  model.setYear(900);
+  EXPECT_EQ(tests::Alerts::values(), QStringList(QStringLiteral("Year 900")));
+}
+
 TEST_F(Spoken, WhyNothingCanBeCalculatedIsSaid) {
   model.setYear(5'000'000'000);
   press("calculateButton");
