@@ -41,19 +41,22 @@ QtSettingsStore::QtSettingsStore()
 QtSettingsStore::QtSettingsStore(const QString& path) : settings_(path, QSettings::IniFormat) {}
 
 QVariant QtSettingsStore::stored(const QString& key) const {
-  return settings_.value(key);
+  const auto waiting = waiting_.constFind(key);
+  return waiting != waiting_.cend() ? *waiting : settings_.value(key);
 }
 
 void QtSettingsStore::store(const Group& group) {
-  waiting_.insert(waiting_.end(), group.begin(), group.end());
+  for (const auto& [key, value] : group) {
+    waiting_.insert(key, value);
+  }
   if (!keepsAsideWhatIsUnreadable() || !hasRoom()) {
     return;
   }
   removeOwnerlessLock(settings_.fileName() + QStringLiteral(".lock"));
-  for (const auto& [key, value] : waiting_) {
-    settings_.setValue(key, value.typeId() == QMetaType::Double
-                                ? QVariant(storableText(value.toDouble()))
-                                : value);
+  for (auto waiting = waiting_.cbegin(); waiting != waiting_.cend(); ++waiting) {
+    settings_.setValue(waiting.key(), waiting->typeId() == QMetaType::Double
+                                          ? QVariant(storableText(waiting->toDouble()))
+                                          : *waiting);
   }
   waiting_.clear();
 }

@@ -1,9 +1,8 @@
 #pragma once
 
 #include <QByteArray>
+#include <QMap>
 #include <QSettings>
-#include <utility>
-#include <vector>
 
 #include "model/settings_store.h"
 
@@ -13,7 +12,8 @@ namespace veyruna::model {
 /// loop's turn ends, or when the store is destroyed.
 /// A preferences file that cannot be read in full is copied aside as "….unreadable.conf" (numbered
 /// where that exists) before anything is written over it. Where that fails, or where the disk has
-/// no room, the old file stays and the values go with the next change.
+/// no room, the old file stays and the values go with the next change; until then they are read
+/// from memory.
 class QtSettingsStore final : public SettingsStore {
  public:
   /// The preferences file in the user's configuration folder.
@@ -29,8 +29,8 @@ class QtSettingsStore final : public SettingsStore {
   [[nodiscard]] bool hasRoom() const;
 
   QSettings settings_;
-  Group waiting_;         ///< not handed to settings_ yet
-  QByteArray keptAside_;  ///< the unreadable content that was copied last
+  QMap<QString, QVariant> waiting_;  ///< not handed to settings_ yet
+  QByteArray keptAside_;             ///< the unreadable content that was copied last
 };
 
 }  // namespace veyruna::model

@@ -5,6 +5,7 @@
 #include "model/qt_settings_store.h"
 #include "tests/model/disk.h"
 #include "tests/model/fakes.h"
+#include "tests/support/heap.h"
 
 namespace veyruna {
 namespace {
@@ -174,6 +175,34 @@ TEST_F(SettingsFaults, OnAReadOnlyFileSystem) {
   ASSERT_TRUE(disk.makeReadOnly());
   useThePreferences(there);
   EXPECT_EQ(bytesIn(there), goodSettings);
+}
+
+TEST_F(SettingsFaults, WhatCannotBeWrittenIsReadBackAndWrittenLater) {
+  ASSERT_TRUE(QDir().mkpath(path));  // a folder in its place
+  model::QtSettingsStore store(path);
+  const auto number = [](const char* text) { return QVariant(QString::fromLatin1(text)); };
+  store.store({{u"a"_s, number("1")}, {u"b"_s, number("2")}});
+  store.store({{u"b"_s, number("3")}});
+  EXPECT_EQ(store.stored(u"a"_s), number("1"));
+  EXPECT_EQ(store.stored(u"b"_s), number("3"));
+  ASSERT_TRUE(QDir().rmdir(path));
+  store.store({{u"c"_s, number("4")}});
+  tests::turnEventLoop();
+  EXPECT_EQ(bytesIn(path), "[General]\na=1\nb=3\nc=4\n");
+}
+
+TEST_F(SettingsFaults, WhatCannotBeWrittenIsKeptOnce) {
+  ASSERT_TRUE(QDir().mkpath(path));
+  AstronomyModel model(keptIn(path));
+  const auto playYears = [&model](int years) {
+    for (int year = 0; year < years; ++year) {
+      model.setYear(year);
+    }
+  };
+  playYears(100);
+  const std::size_t before = tests::heapBytes();
+  playYears(20'000);
+  EXPECT_LT(static_cast<double>(tests::heapBytes()) - static_cast<double>(before), 1e5);
 }
 
 /// On a file system of 64 KiB with so many blocks free.
