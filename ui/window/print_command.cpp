@@ -17,6 +17,9 @@ PrintCommand::PrintCommand(const model::AstronomyModel& model, ExportNotice& not
     : QObject(&window), model_(model), exporter_(model), notice_(notice), window_(window) {}
 
 void PrintCommand::print(exports::OutputTab tab) {
+  if (isAsking_) {
+    return;  // or its question would open over the one before
+  }
   const auto content = exporter_.sheet(tab, documents::Form::pdf);
   if (!content) {
     return;
@@ -28,10 +31,12 @@ void PrintCommand::print(exports::OutputTab tab) {
     fail(tr("this computer has no print command (lp)"));
     return;
   }
+  isAsking_ = true;
   run(QStringLiteral("lpstat"), {QStringLiteral("-e")}, {},
       [this, order](const QString& names, const QString& failure) {
         const QStringList printers = names.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
         if (printers.isEmpty()) {
+          isAsking_ = false;
           fail(failure.isEmpty() ? tr("no printer is set up") : failure);
           return;
         }
@@ -46,6 +51,7 @@ void PrintCommand::print(exports::OutputTab tab) {
 void PrintCommand::askForPrinter(const Order& order, const QStringList& printers,
                                  const QString& usual) {
   auto* const sheet = new PrintSheet(printers, usual, &window_);
+  connect(sheet, &QDialog::finished, this, [this] { isAsking_ = false; });
   connect(sheet, &QDialog::accepted, this,
           [this, sheet, order] { render(order, sheet->printer(), sheet->copies()); });
   sheet->open();

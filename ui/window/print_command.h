@@ -19,7 +19,7 @@ class PrintCommand final : public QObject {
   /// The question for the printer opens over `window`.
   PrintCommand(const model::AstronomyModel& model, ExportNotice& notice, QWidget& window);
 
-  /// Does nothing for the location.
+  /// Does nothing for the location, or while it is still asking about an order before.
   void print(exports::OutputTab tab);
 
  private:
@@ -41,6 +41,7 @@ class PrintCommand final : public QObject {
   exports::DocumentExporter exporter_;
   ExportNotice& notice_;
   QWidget& window_;
+  bool isAsking_ = false;  ///< which printers there are, or for which one
 };
 
 }  // namespace veyruna::ui

@@ -165,6 +165,35 @@ TEST_F(Printing, WhatWasSentIsPrintedThoughItsWindowIsClosed) {
   EXPECT_TRUE(contentOf("all").endsWith("%%EOF\n"));
 }
 
+TEST_F(Printing, AskedTwiceItAsksForThePrinterOnce) {
+  installPrinters();
+  // It answers when it may, and a second one would have answered as soon.
+  install("lpstat",
+          "echo >> asked; until [ -e mayAnswer ]; do sleep 0.05; done\n"
+          "[ \"$1\" = -e ] && printf 'Attic\\nStudy\\n'\nexit 0\n");
+  askToPrint();
+  askToPrint();
+  install("mayAnswer", "");
+  PrintSheet* const question = sheet();
+  ASSERT_NE(question, nullptr);
+  EXPECT_EQ(contentOf("asked").count('\n'), 2) << "for the names, and for the usual one";
+  question->reject();
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  comeBack();
+  askToPrint();
+  EXPECT_NE(sheet(), nullptr) << "the next order is asked about again";
+}
+
+TEST_F(Printing, AfterAFailureTheNextOrderIsTaken) {
+  installPrinters();
+  install("lpstat", "exit 1\n");
+  askToPrint();
+  EXPECT_TRUE(comesToSay(QStringLiteral("Not printed: lpstat failed")));
+  installPrinters();
+  askToPrint();
+  EXPECT_NE(sheet(), nullptr);
+}
+
 TEST_F(Printing, AFailureStaysWhateverIsCalculatedElsewhere) {
   askToPrint();
   EXPECT_NE(notice(), QString());
