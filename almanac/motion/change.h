@@ -39,6 +39,24 @@ struct Precision {
 /// A change has one moment then, from wherever it was sought.
 inline constexpr Precision toTheLastDouble{.days = 0.0};
 
+/// Where roundings let the answer flicker from one double to the next about a change, halving ends
+/// at any of them: the first of them, `after` being one, towards `from`.
+template <class StateAt>
+double firstChanged(StateAt& stateAt, bool held, double from, double after) {
+  constexpr int longestGap = 8;  // doubles; they flicker for a few
+  double before = std::nextafter(after, from);
+  int gap = 0;
+  while (gap < longestGap && before != from) {
+    ++gap;
+    if (stateAt(before).holds != held) {
+      after = before;
+      gap = 0;
+    }
+    before = std::nextafter(before, from);
+  }
+  return after;
+}
+
 /// The first moment after `from`, not after `to`, at which what `stateAt` tells has changed, found
 /// to within the precision. Nothing where it never does.
 /// `to` may be earlier than `from`: then the last such moment before it, and what `unchangedFor`
@@ -66,7 +84,7 @@ std::optional<double> nextChange(StateAt stateAt, double from, double to,
         }
         (stateAt(middle).holds == held ? before : after) = middle;
       }
-      return after;
+      return precision.days > 0.0 ? after : firstChanged(stateAt, held, from, after);
     }
     before = after;
   }

@@ -52,6 +52,20 @@ TEST(NextChange, FindsTheSameNumberFromWhereverItBegan) {
   }
 }
 
+TEST(NextChange, FindsTheFirstNumberWhereTheAnswerFlickers) {
+  constexpr double first = 1000.0;
+  constexpr double ulp = 0x1p-43;  // of what follows 512
+  // Changed at the first number, then not for three, and so on, for good from the twentieth.
+  const auto state = [](double t) {
+    const double number = (t - first) / ulp;
+    return State{number >= 20.0 || (number >= 0.0 && std::fmod(number, 4.0) == 0.0), 0.0};
+  };
+  for (int steps = 1; steps <= 40; ++steps) {
+    const double from = first - steps * 3.1e-7;
+    EXPECT_EQ(nextChange(state, from, 2000.0, almanac::toTheLastDouble), first) << steps;
+  }
+}
+
 TEST(NextChange, MissesNoGlimpseLongerThanItsLeastStep) {
   for (const double half : {1e-1, 1e-2, 1e-3, 1e-4, 1e-5, 1e-6}) {
     const double level = 1.0 - half * half / 2.0;  // holds for 2 · half about each turn
