@@ -110,12 +110,19 @@ std::optional<double> nextStation(Body body, double t) {
     return std::nullopt;
   }
   const double half = std::acos(cosine) / twoPi;
-  const auto [now, rate] = partingAt(*planet, t);
-  const double direction = rate < 0.0 ? -1.0 : 1.0;
+  const Parting start = partingAt(*planet, 0.0);
+  const double direction = start.rate < 0.0 ? -1.0 : 1.0;
   double next = std::numeric_limits<double>::infinity();
   for (const double target : {half, -half}) {
-    const double turns = std::floor(direction * (now - target)) + 1.0;
-    next = std::min(next, t + (direction * turns + target - now) / rate);
+    // Counted from base time 0, a turn's moment is the same double from wherever it is sought.
+    const auto momentOf = [&](double turns) {
+      return (direction * turns + target - start.revolutions) / start.rate;
+    };
+    double turns = std::floor(direction * (partingAt(*planet, t).revolutions - target));
+    while (momentOf(turns) <= t) {
+      turns += 1.0;
+    }
+    next = std::min(next, momentOf(turns));
   }
   return next;
 }

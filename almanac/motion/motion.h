@@ -22,7 +22,8 @@ double bendOf(Body body);
 /// The most that its longitude moves in a day, either way, in radians.
 double speedOf(Body body);
 
-/// The first moment after `t` at which a planet's longitude turns; nothing for what never turns.
+/// The first moment after `t` at which a planet's longitude turns, the same double from every `t`
+/// before it; nothing for what never turns.
 std::optional<double> nextStation(Body body, double t);
 
 /// A direction on the unit sphere of the equatorial frame, and how it moves in a day.

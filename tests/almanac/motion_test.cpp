@@ -86,5 +86,20 @@ TEST(Motion, StationsAreWhereTheRateTurns) {
   }
 }
 
+TEST(Motion, AStationHasOneMomentFromWhereverItIsSought) {
+  for (const Body body : {Body::bralo, Body::dunmor, Body::galvi, Body::pallox}) {
+    double sought = late;
+    for (int number = 0; number < 200; ++number) {
+      const double station = nextStation(body, sought).value();
+      ASSERT_GT(station, sought) << wordOf(body);
+      for (const double t : tests::evenly(sought, station, (station - sought) / 6.5)) {
+        EXPECT_EQ(nextStation(body, t), station) << wordOf(body) << " " << t;
+      }
+      EXPECT_EQ(nextStation(body, std::nextafter(station, 0.0)), station) << wordOf(body);
+      sought = station;
+    }
+  }
+}
+
 }  // namespace
 }  // namespace veyruna
