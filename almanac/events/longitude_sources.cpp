@@ -45,25 +45,34 @@ class Stations final : public EventSource {
 class SignEntries final : public EventSource {
  public:
   SignEntries(Body body, const Range& range)
-      : body_(body), bend_(bendOf(body)), range_(range), last_(range.from) {}
+      : body_(body),
+        bend_(bendOf(body)),
+        range_(range),
+        // A sign that is entered at the very beginning is seen from just before it.
+        last_(range.from - leastStepDays) {}
 
   std::optional<Event> next() override {
-    const reports::ZodiacSign& here = reports::signAt(motionAt(body_, last_).longitude);
-    const auto moment =
-        nextChange([&](double t) { return stateIn(here, t); }, last_, range_.to, toTheLastDouble);
-    if (!moment || *moment >= range_.to) {
-      return std::nullopt;
+    while (const std::optional<double> moment = nextEntry()) {
+      last_ = *moment;
+      if (last_ >= range_.from && last_ < range_.to) {
+        const Motion motion = motionAt(body_, last_);
+        return Event{.kind = EventKind::sign,
+                     .baseTime = last_,
+                     .body = body_,
+                     .sign = &reports::signAt(motion.longitude),
+                     .isForward = motion.rate > 0.0};
+      }
     }
-    last_ = *moment;
-    const Motion motion = motionAt(body_, last_);
-    return Event{.kind = EventKind::sign,
-                 .baseTime = last_,
-                 .body = body_,
-                 .sign = &reports::signAt(motion.longitude),
-                 .isForward = motion.rate > 0.0};
+    return std::nullopt;
   }
 
  private:
+  [[nodiscard]] std::optional<double> nextEntry() const {
+    const reports::ZodiacSign& here = reports::signAt(motionAt(body_, last_).longitude);
+    return nextChange([&](double t) { return stateIn(here, t); }, last_, range_.to,
+                      toTheLastDouble);
+  }
+
   /// Whether the body is in a sign, and how long it stays on its side of the sign's two ends.
   [[nodiscard]] State stateIn(const reports::ZodiacSign& sign, double t) const {
     const auto [longitude, rate] = motionAt(body_, t);

@@ -238,11 +238,39 @@ TEST(Events, RisingsSettingsAndCulminationsAreThoseOfThePlainScan) {
   }
 }
 
+std::size_t timesIn(const Range& range, const Event& event,
+                    const std::vector<astro::Observer>& places) {
+  std::size_t times = 0;
+  for (const Event& other : ofKind(event.kind, range, places)) {
+    // The very double: one that hops by its last digit is in both of two ranges, or in neither.
+    times += other.baseTime == event.baseTime && other.body == event.body ? 1 : 0;
+  }
+  return times;
+}
+
 TEST(Events, ARangeHoldsItsBeginningAndNotItsEnd) {
-  const double moon = ofKind(EventKind::moon, {.from = 1000.0, .to = 1040.0}).front().baseTime;
-  EXPECT_EQ(ofKind(EventKind::moon, {.from = moon, .to = moon + 1.0}).size(), 1U);
-  EXPECT_EQ(ofKind(EventKind::moon, {.from = moon - 1.0, .to = moon}).size(), 0U);
-  EXPECT_EQ(ofKind(EventKind::moon, {.from = moon, .to = moon}).size(), 0U);
+  const std::vector<astro::Observer> places = {
+      {.baseTime = 0.0, .latitude = 0.7, .longitude = -0.4}};
+  for (const EventKind kind :
+       {EventKind::eclipse, EventKind::moon, EventKind::sign, EventKind::station, EventKind::season,
+        EventKind::rise, EventKind::set, EventKind::culmination}) {
+    const bool isOften = almanac::entryOf(kind).needsPlace;
+    const std::vector<Event> events =
+        ofKind(kind, {.from = 258'840.0, .to = 258'840.0 + (isOften ? 20.0 : 3600.0)}, places);
+    EXPECT_GE(events.size(), 5U) << almanac::entryOf(kind).word;
+    for (const Event& event : events) {
+      const double t = event.baseTime;
+      const std::string what = std::string(almanac::entryOf(kind).word) + " " + std::to_string(t);
+      for (const double days : {1e-6, 0.01, 0.3, 7.77}) {
+        EXPECT_EQ(timesIn({.from = t, .to = t + days}, event, places), 1U) << what;
+        EXPECT_EQ(ofKind(kind, {.from = t - days, .to = t}, places).size() +
+                      ofKind(kind, {.from = t, .to = t + 1.0}, places).size(),
+                  ofKind(kind, {.from = t - days, .to = t + 1.0}, places).size())
+            << what;
+      }
+      EXPECT_EQ(timesIn({.from = t, .to = t}, event, places), 0U) << what;
+    }
+  }
 }
 
 TEST(Events, ComeInTheOrderOfTheirMoments) {
