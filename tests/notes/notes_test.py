@@ -270,7 +270,7 @@ class NotesTest(unittest.TestCase):
             f"{stretch} --format seasons-stars --visibility player": "needs a place",
             f"{stretch} --format seasons-stars --size 9": '"9"',
             f"{stretch} --visibility gm": "belongs to --format calendarium and seasons-stars",
-            f"{stretch} --out x": "belongs to --format calendarium and seasons-stars",
+            f"{stretch} --out x": '--out "x" belongs to --format calendarium\n',
             f"{stretch} --format calendarum": "calendarium or seasons-stars",
             "events --from @-9 --to @9 --format seasons-stars": "before the first midnight",
             "calendar": "needs --format calendarium or seasons-stars",
