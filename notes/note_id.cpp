@@ -1,9 +1,9 @@
 #include "notes/note_id.h"
 
-#include <algorithm>
 #include <bit>
 #include <cstdint>
 
+#include "astro/number_text.h"
 #include "notes/note_text.h"
 #include "reports/zodiac.h"
 
@@ -12,6 +12,7 @@ namespace veyruna::notes {
 namespace {
 
 using almanac::Event;
+using almanac::EventKind;
 
 /// The letters and digits of a name, in small letters; a hyphen for each stretch of anything else.
 std::string plainWordOf(std::string_view name) {
@@ -76,17 +77,24 @@ std::string placeWord(const records::Lookout& lookout) {
   return plainWordOf(lookout.name) + "-" + fingerprint.text();
 }
 
-/// "720-06-12-pm". The moment itself may have another last digit where it was sought from
-/// elsewhere; half a day changes for one event in a thousand million.
-std::string halfDay(const astro::CalendarMoment& moment) {
-  return dateText(moment) + (moment.hour < 12 ? "-am" : "-pm");
+/// "720-06-12-pm", or "720-06-12-22h" of what belongs to a place: near a pole the moon rises twice
+/// within half a day, where its own motion lifts and lowers it as much as the sky's turning. Both
+/// are wide beside the last digits of a moment, which may be others where it was sought from
+/// elsewhere.
+std::string partOfDay(EventKind kind, const astro::CalendarMoment& moment) {
+  std::string text = dateText(moment) + "-";
+  if (!almanac::entryOf(kind).needsPlace) {
+    return text + (moment.hour < 12 ? "am" : "pm");
+  }
+  astro::appendPaddedInteger(text, moment.hour, 2);
+  return text + "h";
 }
 
 }  // namespace
 
 std::string idOf(const Event& event, const astro::CalendarMoment& moment,
                  const std::optional<records::Lookout>& place) {
-  std::string id = halfDay(moment);
+  std::string id = partOfDay(event.kind, moment);
   id.append("-").append(almanac::entryOf(event.kind).word);
   id.append("-").append(almanac::wordOf(event.body));
   if (event.other != almanac::Body::count) {

@@ -79,7 +79,9 @@ class CalendariumOutput final : public NoteOutput {
 
   void finish() override {
     list_.finish();
-    if (kept_ > 0) {
+    if (kept_ == 1) {
+      std::fputs("veyruna: 1 note was there already and stays as it is\n", stderr);
+    } else if (kept_ > 1) {
       std::fprintf(stderr, "veyruna: %zu notes were there already and stay as they are\n", kept_);
     }
   }

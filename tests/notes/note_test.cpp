@@ -7,6 +7,7 @@
 #include <set>
 
 #include "almanac/events/events.h"
+#include "astro/angle.h"
 #include "astro/calendar.h"
 #include "notes/calendar_definition.h"
 #include "notes/note_text.h"
@@ -122,6 +123,22 @@ TEST(NoteId, NoTwoEventsHaveOne) {
     EXPECT_TRUE(isNew) << note.id << " " << met.at(note.id).baseTime << " " << event.baseTime;
   }
   EXPECT_GT(met.size(), 50'000U);
+}
+
+/// Within a degree of a pole the moon's own motion lifts and lowers it as much as the sky's
+/// turning.
+TEST(NoteId, TellsTwoRisingsOfOneEveningApart) {
+  const Lookout nearThePole{"Ebb", {0.0, 89.4 * astro::pi / 180.0, 0.0}};
+  almanac::EventQuery query{.range = {258839.5, 258839.5 + 100.0 * 360.0},
+                            .kinds = {EventKind::rise, EventKind::set, EventKind::culmination}};
+  query.places.push_back(nearThePole.place);
+  std::set<std::string> ids;
+  std::size_t events = 0;
+  almanac::forEachEvent(query, [&](const Event& event) {
+    ids.insert(noteOf(event, {nearThePole}).value().id);
+    ++events;
+  });
+  EXPECT_EQ(ids.size(), events);
 }
 
 TEST(NoteId, IsANameOfAFileEverywhere) {

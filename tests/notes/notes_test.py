@@ -202,6 +202,21 @@ class NotesTest(unittest.TestCase):
         self.assertIn(f"{len(first)} notes were there already", again.stderr.decode())
         self.assertEqual(path.read_text(encoding="utf-8"), written)
 
+    def test_a_moon_that_rises_twice_in_an_evening_has_two_notes(self):
+        rises = "--from 22-12-29 --for 3 days --kind rise --lat 89.4N --long 0"
+        command = f"events {rises} --format calendarium --out pole"
+        first = self.home.run(command)
+        self.assertEqual((first.returncode, first.stderr), (0, b""))
+        self.assertEqual(len(self.home.notes(rises, "pole")), len(self.home.events(rises)))
+
+    def test_one_note_that_is_there_already_is_one_note(self):
+        command = (
+            "events --from 720-01-30 --for 1 days --kind eclipse --format calendarium --out one"
+        )
+        self.home.run(command)
+        again = self.home.run(command)
+        self.assertEqual(again.stderr, b"veyruna: 1 note was there already and stays as it is\n")
+
     def test_an_overlapping_import_adds_what_is_new(self):
         first = self.home.notes("--from 720-01-01 --for 40 days --location Ebb", "overlap")
         later = "--from 720-01-10T11:23 --for 40 days --location Ebb"
