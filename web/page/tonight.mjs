@@ -10,7 +10,7 @@ function noonBefore(sky) {
   return sky.baseTime - ((hour - noon + 24) % 24) / 24;
 }
 
-const clockOf = (event) => (isLocal() ? event.local_clock : event.date.split("T")[1]);
+const clockOf = (event) => (isLocal() ? event.local_clock : event.date?.split("T")[1]);
 
 function line(event, goTo) {
   const seen = event.seen ? "seen" : "not seen";

@@ -2,7 +2,16 @@
 
 import assert from "node:assert/strict";
 
-import { addressOf, desk, engine, openInputs, pageTests, phone, textOf } from "./sky_page.mjs";
+import {
+  addressOf,
+  desk,
+  engine,
+  openInputs,
+  pageTests,
+  phone,
+  show,
+  textOf,
+} from "./sky_page.mjs";
 
 /** Types into one field and confirms it, as a person does. */
 async function enter(page, role, name, text) {
@@ -110,4 +119,14 @@ pageTests("the moment", (test) => {
       );
     });
   }
+
+  test("has its evening on the first day, before whose midnight there is no clock", async (open) => {
+    const page = await open(desk, { hash: "#1-01-01T08:00;40.5N,20.9W" });
+    await show(page, "Tonight");
+    const clocks = await page.evaluate(() =>
+      [...document.querySelectorAll("#events time")].map((time) => time.textContent),
+    );
+    assert.ok(clocks.includes(""), "something is before the first midnight");
+    assert.ok(clocks.some((clock) => /^\d\d:\d\d$/.test(clock)));
+  });
 });
