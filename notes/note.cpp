@@ -5,13 +5,10 @@
 
 #include "almanac/events/event_words.h"
 #include "almanac/events/events.h"
-#include "astro/angle.h"
 #include "astro/invariant.h"
 #include "astro/local_time.h"
-#include "astro/number_text.h"
 #include "notes/note_id.h"
 #include "notes/note_text.h"
-#include "records/sky_fields.h"
 
 namespace veyruna::notes {
 
@@ -71,19 +68,12 @@ std::string nameOf(const Event& event, const std::vector<Lookout>& lookouts) {
   return name;
 }
 
-/// Degrees to a tenth; neither "-0.0" nor "360.0".
-std::string tenthsOf(double degrees) {
-  std::string text;
-  astro::appendFixed(text, degrees, 1);
-  return text == "-0.0" || text == "360.0" ? "0.0" : text;
-}
-
 /// " From Ebb at 18:15 local time: 12.5° high, 270.1° from the south through the west, seen."
 std::string sightWords(const Event& event, const Lookout& lookout, const almanac::Sight& sight) {
   const astro::Observer observer = lookout.place.at(event.baseTime);
   return " From " + oneLine(lookout.name) + " at " + astro::localClockLabel(observer) +
-         " local time: " + tenthsOf(astro::degreesOf(sight.altitude)) + "° high, " +
-         tenthsOf(records::degreesInTurn(sight.azimuth)) + "° from the south through the west, " +
+         " local time: " + almanac::tenthsText(sight.altitude) + "° high, " +
+         almanac::tenthsText(sight.azimuth) + "° from the south through the west, " +
          (sight.isSeen ? "seen." : "not seen.");
 }
 

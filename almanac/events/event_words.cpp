@@ -72,4 +72,10 @@ std::string wordsOf(const Event& event) {
   return {};
 }
 
+std::string tenthsText(double radians) {
+  std::string text;
+  astro::appendFixed(text, astro::degreesOf(radians), 1);
+  return text == "-0.0" || text == "360.0" ? "0.0" : text;
+}
+
 }  // namespace veyruna::almanac

@@ -11,4 +11,8 @@ namespace veyruna::almanac {
 /// 720-01-09 02:05". Both ends are standard time.
 std::string wordsOf(const Event& event);
 
+/// An altitude or azimuth (radians) in degrees to a tenth, "38.1"; what rounds to "-0.0" or "360.0"
+/// is "0.0".
+std::string tenthsText(double radians);
+
 }  // namespace veyruna::almanac

@@ -5,10 +5,8 @@
 
 #include "almanac/events/event_words.h"
 #include "almanac/events/events.h"
-#include "astro/angle.h"
 #include "astro/calendar.h"
 #include "astro/local_time.h"
-#include "astro/number_text.h"
 #include "words/quoting.h"
 
 namespace veyruna::cli {
@@ -28,13 +26,9 @@ std::size_t charactersOf(const std::string& text) {
   return static_cast<std::size_t>(QString::fromStdString(text).size());
 }
 
-/// Degrees to a tenth, on the right of the column; never "-0.0", which a setting would be.
+/// Degrees to a tenth, on the right of the column.
 std::string angleColumn(double radians, std::size_t width) {
-  std::string text;
-  astro::appendFixed(text, astro::degreesOf(radians), 1);
-  if (text == "-0.0") {
-    text.erase(0, 1);
-  }
+  const std::string text = almanac::tenthsText(radians);
   const std::size_t characters = text.size() + 1;
   return std::string(width - std::min(width, characters), ' ') + text + "°" + std::string(gap);
 }

@@ -191,5 +191,12 @@ TEST(EventsCommand, NothingIsAnAnswer) {
   EXPECT_EQ(linesOf(outcome.out).size(), 1U);
 }
 
+TEST(EventsCommand, ABodyInTheSouthStandsAtNoWholeTurn) {
+  const Outcome outcome =
+      eventsWith("--from 121-10-26 --to 121-10-27 --kind sign --lat 40.5N --long 20.9W");
+  EXPECT_NE(outcome.out.find("   0.0°  no    sign         Bralo enters Ostrel"), std::string::npos)
+      << outcome.out << outcome.err;
+}
+
 }  // namespace
 }  // namespace veyruna
