@@ -41,10 +41,10 @@ const Entry& askedDocument(const Question& question, bool (*isAccepted)(const En
   return *found;
 }
 
-/// "720-06-12T22:30".
+/// "720-06-12T22:30", "001-01-01T13:00": as the records have it.
 std::string dateText(const CalendarReading& reading) {
   std::string text;
-  astro::appendInteger(text, reading.year);
+  astro::appendPaddedInteger(text, reading.year, 3);
   text += '-';
   astro::appendPaddedInteger(text, reading.monthIndex + 1, 2);
   text += '-';

@@ -75,6 +75,21 @@ TEST(Facade, AMomentBeforeTheCalendarHasNoDate) {
   EXPECT_NE(answer.find("\"address\":\"@-5;"), std::string::npos) << answer;
 }
 
+TEST(Facade, DatesAreThoseOfTheRecords) {
+  for (const std::string year : {"1", "22", "720", "12345"}) {
+    const std::string sky = "&moment=" + year + "-01-01T13%3A00" + aPlace;
+    const std::string record = answerOf("ask=record&name=moment" + sky);
+    const std::string name = "\"date\":";
+    const std::size_t begin = record.find(name);
+    ASSERT_NE(begin, std::string::npos) << record;
+    const std::string date = record.substr(record.find('"', begin + name.size()), 10 + 8);
+    const std::string standard = "\"standard\":{\"date\":" + date.substr(0, date.find('"', 1) + 1);
+    EXPECT_NE(answerOf("ask=moment" + sky).find(standard), std::string::npos)
+        << standard << "\n"
+        << answerOf("ask=moment" + sky);
+  }
+}
+
 TEST(Facade, LocalClocksNeedAPlace) {
   EXPECT_EQ(answerOf("ask=events&from=720-01-01&for=1+day&local=true").substr(0, 48),
             "!local: local clocks are those of a place; give ");

@@ -45,6 +45,6 @@ pageTests("A page that the command has written", (test) => {
     assert.equal(await addressOf(page), "700-07-03T21:15;21N,5.1E");
     await page.evaluate(() => void (location.hash = "#1-01-01T06:00;90S,0E"));
     await restsAt(page, "06:00");
-    assert.equal(await addressOf(page), "1-01-01T06:00;90S,0E");
+    assert.equal(await addressOf(page), "001-01-01T06:00;90S,0E");
   });
 });
