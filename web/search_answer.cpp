@@ -27,7 +27,11 @@ std::vector<Condition> askedConditions(const Question& question) {
   std::vector<Condition> asked;
   for (const std::string& text : question.all("conditions")) {
     try {
-      std::ranges::move(almanac::readConditions(text), std::back_inserter(asked));
+      std::vector<Condition> conditions = almanac::readConditions(text);
+      if (conditions.empty()) {
+        throw words::UsageError("condition " + words::inQuotes(text) + " is empty");
+      }
+      std::ranges::move(std::move(conditions), std::back_inserter(asked));
     } catch (const almanac::ConditionError& error) {
       throw words::refusalOf("condition " + words::inQuotes(text), error);
     }

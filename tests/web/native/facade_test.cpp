@@ -90,6 +90,13 @@ TEST(Facade, DatesAreThoseOfTheRecords) {
   }
 }
 
+TEST(Facade, AnEmptyConditionIsRefusedBesideOthers) {
+  const std::string stretch =
+      "ask=search&from=720-01-01&for=1+year&conditions=moon+full&conditions=";
+  EXPECT_EQ(answerOf(stretch), "!condition \"\" is empty");
+  EXPECT_EQ(answerOf(stretch + "%23+none"), "!condition \"# none\" is empty");
+}
+
 TEST(Facade, LocalClocksNeedAPlace) {
   EXPECT_EQ(answerOf("ask=events&from=720-01-01&for=1+day&local=true").substr(0, 48),
             "!local: local clocks are those of a place; give ");
