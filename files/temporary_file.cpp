@@ -32,6 +32,11 @@ bool needsName(int reason) {
   return reason == EOPNOTSUPP || reason == EISDIR || reason == ENOENT;
 }
 
+/// What a file without a name has its name from, once it is to have one.
+std::string pathOf(const Descriptor& file) {
+  return "/proc/self/fd/" + std::to_string(file.number());
+}
+
 std::error_code lastError() {
   return {errno, std::generic_category()};
 }
@@ -53,9 +58,13 @@ TemporaryFile::~TemporaryFile() {
 }
 
 TemporaryFile TemporaryFile::inFolder(const std::string& folder) {
-  const int unnamed = open(folder.c_str(), O_TMPFILE | O_RDWR | O_CLOEXEC, aNewFiles);
-  if (unnamed >= 0 || !needsName(errno)) {
-    return {Descriptor(unnamed), folder, ""};
+  const int number = open(folder.c_str(), O_TMPFILE | O_RDWR | O_CLOEXEC, aNewFiles);
+  if (number >= 0 || !needsName(errno)) {
+    Descriptor unnamed(number);
+    if (access(pathOf(unnamed).c_str(), F_OK) == 0) {
+      return {std::move(unnamed), folder, ""};
+    }
+    // Nothing is mounted at /proc, as in a bare root: the file would stay without a name.
   }
   const std::string name = freshName(folder);
   return {Descriptor(open(name.c_str(), O_CREAT | O_EXCL | O_RDWR | O_CLOEXEC, aNewFiles)), folder,
@@ -97,8 +106,7 @@ std::error_code TemporaryFile::becomes(const std::string& target) {
 }
 
 bool TemporaryFile::isLinkedAs(const std::string& path) const {
-  const std::string unnamed = "/proc/self/fd/" + std::to_string(file_.number());
-  return linkat(AT_FDCWD, unnamed.c_str(), AT_FDCWD, path.c_str(), AT_SYMLINK_FOLLOW) == 0;
+  return linkat(AT_FDCWD, pathOf(file_).c_str(), AT_FDCWD, path.c_str(), AT_SYMLINK_FOLLOW) == 0;
 }
 
 }  // namespace veyruna::files

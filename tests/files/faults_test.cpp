@@ -48,6 +48,16 @@ TEST_F(FileFaults, AFileSystemThatNeedsNamesHasThemForAWhile) {
   EXPECT_EQ(namesIn(folder.path()), (Names{"file.txt", "new.txt"}));
 }
 
+/// A file without a name gets one through /proc.
+TEST_F(FileFaults, WithoutProcFilesHaveNamesForAWhile) {
+  EXPECT_EQ(reasonUnder({.hidesProcesses = true}), 0);
+  expectReplaced();
+  const FaultySystem system({.hidesProcesses = true});
+  EXPECT_EQ(writeWholeFile(folder / "new.txt", after), std::error_code());
+  EXPECT_TRUE(fileContent(folder / "new.txt") == after);
+  EXPECT_EQ(namesIn(folder.path()), (Names{"file.txt", "new.txt"}));
+}
+
 TEST_F(FileFaults, AnUnfinishedFileWithANameIsTakenAway) {
   const FaultySystem system({.needsNames = true});
   {

@@ -6,6 +6,7 @@
 #include <cstdarg>
 #include <cstdio>
 #include <fcntl.h>
+#include <string_view>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -22,17 +23,25 @@ int refused(int reason) {
   return -1;
 }
 
+bool isHidden(std::string_view path) {
+  return current.hidesProcesses && path.starts_with("/proc/");
+}
+
 }  // namespace
 
 extern "C" {
 
 int __real_open(const char* path, int flags, ...);
+int __real_access(const char* path, int mode);
+int __real_linkat(int fromFolder, const char* from, int toFolder, const char* to, int flags);
 int __real_rename(const char* from, const char* to);
 int __real_fsync(int file);
 int __real_posix_fallocate(int file, off_t from, off_t size);
 ssize_t __real_write(int file, const void* bytes, std::size_t count);
 
 int __wrap_open(const char* path, int flags, ...);
+int __wrap_access(const char* path, int mode);
+int __wrap_linkat(int fromFolder, const char* from, int toFolder, const char* to, int flags);
 int __wrap_rename(const char* from, const char* to);
 int __wrap_fsync(int file);
 int __wrap_posix_fallocate(int file, off_t from, off_t size);
@@ -56,6 +65,14 @@ int __wrap_open(const char* path, int flags, ...) {
     return refused(current.folderRefuses);
   }
   return __real_open(path, flags, mode);
+}
+
+int __wrap_access(const char* path, int mode) {
+  return isHidden(path) ? refused(ENOENT) : __real_access(path, mode);
+}
+
+int __wrap_linkat(int fromFolder, const char* from, int toFolder, const char* to, int flags) {
+  return isHidden(from) ? refused(ENOENT) : __real_linkat(fromFolder, from, toFolder, to, flags);
 }
 
 int __wrap_rename(const char* from, const char* to) {

@@ -8,6 +8,7 @@ namespace veyruna::tests {
 
 struct Faults {
   bool needsNames = false;        ///< the file system has no files without a name
+  bool hidesProcesses = false;    ///< nothing is mounted at /proc
   int folderRefuses = 0;          ///< errno with which the folder takes nothing new
   int renameRefuses = 0;          ///< errno with which no file can be replaced
   int syncRefuses = 0;            ///< errno of fsync() of a file
