@@ -1,7 +1,6 @@
 #include "web/facade.h"
 
 #include <algorithm>
-#include <array>
 #include <exception>
 
 #include "words/listing.h"

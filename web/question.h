@@ -22,7 +22,6 @@ class Question {
   /// Refuses whatever has another name than "ask" and these.
   void acceptOnly(std::span<const std::string_view> names) const;
 
-  [[nodiscard]] bool has(const std::string& name) const { return values_.contains(name); }
   /// All that was given under a name, in order.
   [[nodiscard]] std::vector<std::string> all(const std::string& name) const;
   /// The one text under a name; nothing where there is none.

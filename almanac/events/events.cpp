@@ -1,7 +1,6 @@
 #include "almanac/events/events.h"
 
 #include <algorithm>
-#include <cmath>
 #include <tuple>
 
 #include "almanac/motion/motion.h"

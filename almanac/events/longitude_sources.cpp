@@ -1,6 +1,5 @@
 // λ longitude of a body, λ′ its rate; stations and signs.
 #include <algorithm>
-#include <cmath>
 
 #include "almanac/events/event_source.h"
 #include "almanac/motion/change.h"

@@ -1,5 +1,4 @@
 // z the sine of a body's altitude.
-#include <algorithm>
 #include <cmath>
 
 #include "almanac/events/event_source.h"

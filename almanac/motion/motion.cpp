@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 #include "astro/angle.h"
 #include "astro/invariant.h"

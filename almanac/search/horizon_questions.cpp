@@ -4,6 +4,7 @@
 // which are as smooth at every latitude as those of stars.
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 #include "almanac/motion/height.h"
 #include "almanac/motion/moving_angle.h"

@@ -1,6 +1,6 @@
 // λ longitude; E elongation of the moon from the sun; u argument of the moon's latitude.
-#include <array>
 #include <cmath>
+#include <limits>
 #include <utility>
 
 #include "almanac/motion/moving_angle.h"
