@@ -41,6 +41,11 @@ const std::string& beginningsInWords() {
   return text;
 }
 
+/// How a group's parts are given in one line.
+std::string exampleOf(Group group) {
+  return group == Group::all ? "all of (A; B; C)" : "any of (A; B; C)";
+}
+
 }  // namespace
 
 Opening LineReader::opening() {
@@ -52,7 +57,8 @@ Opening LineReader::opening() {
   }
   opening.group = group();
   if (!words_.isAt(":")) {
-    words_.refuse("a colon and the parts on lines below, or in parentheses: any of (A; B; C)");
+    words_.refuse("a colon and the parts on lines below, or in parentheses: " +
+                  exampleOf(opening.group));
   }
   words_.expect(":");
   if (!words_.isAtEnd()) {
@@ -160,7 +166,7 @@ std::optional<Condition> LineReader::ofTheClock() {
 Condition LineReader::grouped(int depth) {
   const Group asked = group();
   if (!words_.passIf("(")) {
-    words_.refuse("the parts in parentheses: any of (A; B; C)");
+    words_.refuse("the parts in parentheses: " + exampleOf(asked));
   }
   std::vector<Condition> parts;
   do {

@@ -222,6 +222,8 @@ INSTANTIATE_TEST_SUITE_P(
         Wrong{"day 0", "0", "1 to 30", ""}, Wrong{"nght", "nght", "night", "night"},
         Wrong{"night day", "day", "nothing more", ""}, Wrong{"not", "", "a body", ""},
         Wrong{"any of night", "night", "any of (", ""}, Wrong{"any night", "night", "of", ""},
+        Wrong{"all of them", "them", "in parentheses: all of (A; B; C)", ""},
+        Wrong{"not all of moon:\n  night", "moon", "in parentheses: all of (A; B; C)", ""},
         Wrong{"any of (night", "", "\")\"", ""}, Wrong{"any of (night; )", ")", "a body", ""},
         Wrong{"any of (night moon new)", "moon", "\";\"", ""},
         Wrong{"any of ()", ")", "a body", ""}, Wrong{"(night)", "(", "a body", ""},

@@ -120,6 +120,7 @@ moon full
 'moon in zzz'
 'bralo natal zzz'
 'any of moon'
+'all of them'
 'any of (moon full, night)'
 --location Ebb 'moon above 99'
 --location all 'moon full'
