@@ -2,6 +2,7 @@
 #include <QLabel>
 #include <QTest>
 #include <QToolButton>
+#include <limits>
 
 #include "tests/support/patience.h"
 #include "tests/ui/window/windows.h"
