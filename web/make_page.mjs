@@ -3,7 +3,8 @@
 //     node make_page.mjs --esbuild PROGRAM --engine veyruna.mjs --picture icon.svg --output veyruna.html
 //
 // Style and script are bundled by esbuild; the content policy in the page names them by their hashes,
-// so that nothing else can run in it or be loaded by it. Fails where the page is larger than a phone
+// so that nothing else can run in it or be loaded by it. Who hands the page on hands on the notices of what
+// others made of it: they are a comment in its head. Fails where the page is larger than a phone
 // should have to keep.
 import { execFileSync } from "node:child_process";
 import { createHash } from "node:crypto";
@@ -15,7 +16,8 @@ import { gzipSync } from "node:zlib";
 
 const most = 350_000; // bytes
 const mostZipped = 130_000;
-const sources = join(dirname(fileURLToPath(import.meta.url)), "page");
+const here = dirname(fileURLToPath(import.meta.url));
+const sources = join(here, "page");
 
 const text = { type: "string" };
 const { values: asked } = parseArgs({
@@ -64,7 +66,13 @@ const policy = [
   "base-uri 'none'",
   "form-action 'none'",
 ].join("; ");
-const parts = { policy, icon: pictureAddress(readFileSync(asked.picture, "utf8")), style, script };
+const parts = {
+  policy,
+  notices: `<!--\n${readFileSync(join(here, "package/NOTICES.md"), "utf8")}-->`,
+  icon: pictureAddress(readFileSync(asked.picture, "utf8")),
+  style,
+  script,
+};
 
 const page = readFileSync(join(sources, "page.html"), "utf8")
   .replace(/<!--.*?-->\n?/gs, "")

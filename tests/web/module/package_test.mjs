@@ -82,5 +82,6 @@ test("the package holds what it says and no more", () =>
       assert.match(declared, new RegExp(`\\n  ${method}\\(`));
       assert.match(there("veyruna.mjs"), new RegExp(`\\n  ${method}\\(`));
     }
+    assert.match(there("NOTICES.md"), /Permission is hereby granted/);
     assert.throws(() => there("package.json.in"));
   }));
