@@ -75,10 +75,24 @@ class Check:
         self.expect("veyruna(1), commands", parts[1::2], self.commands)
         for name, part in zip(parts[1::2], parts[2::2]):
             self.expect(f"veyruna(1), {name}", options_of_man(part), self.own.get(name, set()))
-        said = set(re.findall(r"--[a-z]+", output(astro, "--help")))
+        said = set(re.findall(r"(?<![\w-])--?[a-z]+", output(astro, "--help")))
         self.expect(
             "veyruna-astro(1)", options_of_man(text[window_page].split("\nOPTIONS\n")[1]), said
         )
+
+    def window_arguments(self, astro, environment):
+        """Nobody opens the window by mistyping an option."""
+        screenless = dict(environment, QT_QPA_PLATFORM="offscreen")
+        if output(astro, "-h") != output(astro, "--help"):
+            self.faults.append("veyruna-astro -h is not its --help")
+        for arguments in (["--hepl"], ["-style", "fusion", "sky.json", "--help"], [""]):
+            wrong = "sky.json" if "sky.json" in arguments else arguments[0]
+            done = subprocess.run(
+                [astro, *arguments], env=screenless, capture_output=True, text=True, check=False
+            )
+            sentence = f'veyruna-astro: "{wrong}" is no option; veyruna-astro --help lists them'
+            if (done.returncode, done.stderr.splitlines()[-1:]) != (2, [sentence]):
+                self.faults.append(f"veyruna-astro {arguments}: {done}")
 
     def manual(self, folder, guides):
         page = (folder / "command-line.html").read_text(encoding="utf-8")
@@ -179,6 +193,7 @@ def main():
         )
         check = Check(veyruna)
         check.man_pages(folder, window_page, astro)
+        check.window_arguments(astro, environment)
         check.manual(manual, guides)
         os.chdir(scratch)
         completion = folder / "completion"
