@@ -9,8 +9,9 @@
 namespace veyruna::files {
 
 /// A file in the making. It has no name where the file system can do without and /proc can give it
-/// one in the end, and so vanishes with the process however that ends; elsewhere it has a name like
-/// ".veyruna-1f0c…", which goes at the end of its life.
+/// one in the end, and so vanishes with the process however that ends; elsewhere, and for the
+/// instant in which it takes the place of another file, it has a name like ".veyruna-1f0c…", which
+/// goes at the end of its life.
 class TemporaryFile {
  public:
   /// In the folder of the file it will become, with the permissions of a new file. Throws the

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "words/nearest.h"
 #include "words/quoting.h"
 
 namespace veyruna::words {

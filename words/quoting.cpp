@@ -56,10 +56,6 @@ std::string inQuotes(std::string_view text) {
   return out;
 }
 
-std::string asNearest(std::string_view nearest) {
-  return nearest.empty() ? "" : "; the nearest is " + inQuotes(nearest);
-}
-
 std::string asListed(std::string_view name) {
   return charactersOnALine(name) ? std::string(name) : inQuotes(name);
 }

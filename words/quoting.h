@@ -12,10 +12,6 @@ namespace veyruna::words {
 /// characters.
 std::string inQuotes(std::string_view text);
 
-/// What is said behind a refused word of the one it is spelt like: "; the nearest is "events"", or
-/// nothing where none is near.
-std::string asNearest(std::string_view nearest);
-
 /// A saved name among others: as it is, or in quotes where control characters or bytes that are no
 /// UTF-8 would break the line.
 std::string asListed(std::string_view name);

@@ -3,10 +3,10 @@
 #include <CLI/CLI.hpp>
 #include <algorithm>
 
-#include "almanac/search/spelling.h"
 #include "cli/typed/option_values.h"
 #include "words/dates.h"
 #include "words/listing.h"
+#include "words/nearest.h"
 #include "words/quoting.h"
 #include "words/usage_error.h"
 #include "words/values.h"
@@ -169,7 +169,7 @@ std::vector<std::string> Grammar::optionNames() const {
 std::string Grammar::refusalOfCommand(const std::string& word) const {
   const std::vector<std::string> names = commandNames();
   return words::inQuotes(word) + " is not a command; give one of " + words::joined(names) +
-         words::asNearest(almanac::nearestTo(word, names));
+         words::asNearest(words::nearestOf(word, names));
 }
 
 std::string Grammar::refusalOfOption(const std::string& name) const {
@@ -177,7 +177,7 @@ std::string Grammar::refusalOfOption(const std::string& name) const {
     return words::inQuotes(name) + " belongs behind " + owners;
   }
   const std::string bare = name.substr(std::min(name.find_first_not_of('-'), name.size()));
-  const std::string nearest = almanac::nearestTo(bare, optionNames());
+  const std::string nearest = words::nearestOf(bare, optionNames());
   const std::string command = chosenCommand();
   return words::inQuotes(name) + " is no option; veyruna --help " +
          (command.empty() ? "lists them" : "and veyruna help " + command + " list them") +

@@ -46,7 +46,7 @@ const std::map<std::string, Room, std::less<>>& rooms() {
        {{"astro", "reports", "charts", "documents", "drawing", "files", "model"}, Libraries::any}},
       {"cli/typed",
        {{"astro", "words", "almanac/motion", "almanac/events", "documents", "records", "notes",
-         "model"},
+         "files", "model"},
         Libraries::any}},
       {"cli/written",
        {{"astro", "words", "documents", "records", "files", "cli/typed"}, Libraries::any}},
