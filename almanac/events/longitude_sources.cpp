@@ -69,7 +69,7 @@ class SignEntries final : public EventSource {
   [[nodiscard]] std::optional<double> nextEntry() const {
     const reports::ZodiacSign& here = reports::signAt(motionAt(body_, last_).longitude);
     return nextChange([&](double t) { return stateIn(here, t); }, last_, range_.to,
-                      toTheLastDouble);
+                      toTheFirstDouble);
   }
 
   /// Whether the body is in a sign, and how long it stays on its side of the sign's two ends.

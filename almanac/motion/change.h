@@ -34,10 +34,14 @@ inline double daysUntilReached(double distance, double rate, double bend) {
 /// How near the moment of a change is found.
 struct Precision {
   double days = leastStepDays;
+  bool isOfTheFirst = false;  ///< whether roundings about the change are looked through, too
 };
 
 /// A change has one moment then, from wherever it was sought.
 inline constexpr Precision toTheLastDouble{.days = 0.0};
+
+/// The same where the answer flickers about a change, as that of a sign which a slow body enters.
+inline constexpr Precision toTheFirstDouble{.days = 0.0, .isOfTheFirst = true};
 
 /// Where roundings let the answer flicker from one double to the next about a change, halving ends
 /// at any of them: the first of them, `after` being one, towards `from`.
@@ -84,7 +88,7 @@ std::optional<double> nextChange(StateAt stateAt, double from, double to,
         }
         (stateAt(middle).holds == held ? before : after) = middle;
       }
-      return precision.days > 0.0 ? after : firstChanged(stateAt, held, from, after);
+      return precision.isOfTheFirst ? firstChanged(stateAt, held, from, after) : after;
     }
     before = after;
   }

@@ -62,7 +62,7 @@ TEST(NextChange, FindsTheFirstNumberWhereTheAnswerFlickers) {
   };
   for (int steps = 1; steps <= 40; ++steps) {
     const double from = first - steps * 3.1e-7;
-    EXPECT_EQ(nextChange(state, from, 2000.0, almanac::toTheLastDouble), first) << steps;
+    EXPECT_EQ(nextChange(state, from, 2000.0, almanac::toTheFirstDouble), first) << steps;
   }
 }
 
