@@ -18,7 +18,6 @@ constexpr double notchFactor = 1.25;      ///< of the zoom, at a notch of the wh
 constexpr double notch = 120.0;           ///< as Qt counts a notch
 constexpr double pixelsOfANotch = 100.0;  ///< of a trackpad, that do the same
 constexpr double keyFactor = 1.5;
-constexpr double dragThreshold = 5.0;  ///< points
 
 /// Notches away from the person.
 double notchesOf(const QWheelEvent& wheel) {
@@ -92,34 +91,28 @@ void ZoomedView::keyPressEvent(QKeyEvent* event) {
 
 void ZoomedView::mousePressEvent(QMouseEvent* event) {
   if (event->button() == Qt::LeftButton) {
-    pressedAt_ = event->position();
+    press_ = Press(event->position());
     pressedFraming_ = framing();
   }
 }
 
 void ZoomedView::mouseMoveEvent(QMouseEvent* event) {
-  if (!pressedAt_) {
-    return;
-  }
   if (!event->buttons().testFlag(Qt::LeftButton)) {
-    endDrag();  // the button was let go where nobody told
-    return;
+    endDrag();  // the button may have been let go where nobody told
   }
-  const QPointF translation = event->position() - *pressedAt_;
-  if (!isDragging_ && std::hypot(translation.x(), translation.y()) >= dragThreshold) {
-    isDragging_ = true;
+  if (press_.becomesDrag(event->position())) {
     setCursor(Qt::ClosedHandCursor);
   }
-  if (isDragging_) {
-    setFraming(draggedBy(pressedFraming_, translation, stage()));
+  if (press_.isDrag()) {
+    setFraming(draggedBy(pressedFraming_, press_.translationTo(event->position()), stage()));
   }
 }
 
 void ZoomedView::mouseReleaseEvent(QMouseEvent* event) {
-  if (event->button() != Qt::LeftButton || !pressedAt_) {
+  if (event->button() != Qt::LeftButton || !press_.isDown()) {
     return;
   }
-  const bool isClick = !isDragging_;
+  const bool isClick = !press_.isDrag();
   endDrag();
   if (isClick) {
     clicked(event->position());
@@ -153,8 +146,7 @@ void ZoomedView::hideEvent(QHideEvent* event) {
 }
 
 void ZoomedView::endDrag() {
-  pressedAt_.reset();
-  if (std::exchange(isDragging_, false)) {
+  if (std::exchange(press_, Press()).isDrag()) {
     unsetCursor();
   }
 }

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "ui/charts/svg_view.h"
+#include "ui/controls/press.h"
 
 class QNativeGestureEvent;
 
@@ -36,7 +37,7 @@ class ZoomedView : public SVGView {
   /// What the keys enlarge about.
   [[nodiscard]] virtual QPointF keyAnchor() const { return QRectF(rect()).center(); }
 
-  [[nodiscard]] bool isDragging() const { return isDragging_; }
+  [[nodiscard]] bool isDragging() const { return press_.isDrag(); }
 
  private:
   void zoomBy(double factor, QPointF anchor);
@@ -47,9 +48,8 @@ class ZoomedView : public SVGView {
   std::vector<QRectF> parts_;
   std::optional<ChartFraming> beforeFit_;  ///< where the next double click goes back to
   std::optional<ChartFraming> fit_;        ///< the framing that the last one led to
-  std::optional<QPointF> pressedAt_;
-  ChartFraming pressedFraming_;
-  bool isDragging_ = false;
+  Press press_;
+  ChartFraming pressedFraming_;  ///< when the button went down
 };
 
 }  // namespace veyruna::ui

@@ -22,7 +22,6 @@ namespace veyruna::ui {
 
 namespace {
 
-constexpr double dragThreshold = 5.0;    ///< points
 constexpr double pinchThreshold = 0.01;  ///< of the magnification
 constexpr double keyStep = 40.0;         ///< points the map moves at one press of an arrow
 constexpr int readoutInset = 10;         ///< points from the area's edges
@@ -224,35 +223,31 @@ void MapArea::leaveEvent(QEvent* /*event*/) {
 
 void MapArea::mousePressEvent(QMouseEvent* event) {
   if (event->button() == Qt::LeftButton) {
-    pressedAt_ = event->position();
+    press_ = Press(event->position());
   }
 }
 
 void MapArea::mouseMoveEvent(QMouseEvent* event) {
-  if (pressedAt_ && !event->buttons().testFlag(Qt::LeftButton)) {
+  if (press_.isDown() && !event->buttons().testFlag(Qt::LeftButton)) {
     cancelGestures();  // the button was let go where nobody told
   }
-  if (pressedAt_) {
-    const QPointF translation = event->position() - *pressedAt_;
-    if (!isDragging_ && std::hypot(translation.x(), translation.y()) >= dragThreshold) {
-      isDragging_ = true;
-      setCursor(Qt::ClosedHandCursor);
-    }
-    if (isDragging_) {
-      Q_EMIT dragMoved(translation);
-    }
+  if (press_.becomesDrag(event->position())) {
+    setCursor(Qt::ClosedHandCursor);
+  }
+  if (press_.isDrag()) {
+    Q_EMIT dragMoved(press_.translationTo(event->position()));
   }
   point(event->position());
 }
 
 void MapArea::mouseReleaseEvent(QMouseEvent* event) {
-  if (event->button() != Qt::LeftButton || !pressedAt_) {
+  if (event->button() != Qt::LeftButton || !press_.isDown()) {
     return;
   }
-  const QPointF pressedAt = *std::exchange(pressedAt_, std::nullopt);
-  if (std::exchange(isDragging_, false)) {
+  const Press press = std::exchange(press_, Press());
+  if (press.isDrag()) {
     setCursor(Qt::CrossCursor);
-    Q_EMIT dragEnded(event->position() - pressedAt);
+    Q_EMIT dragEnded(press.translationTo(event->position()));
   } else {
     Q_EMIT clicked(event->position());
   }
@@ -313,9 +308,8 @@ void MapArea::showNameUnderPointer() {
 }
 
 void MapArea::cancelGestures() {
-  pressedAt_.reset();
   magnification_ = 1.0;
-  const bool wasDragging = std::exchange(isDragging_, false);
+  const bool wasDragging = std::exchange(press_, Press()).isDrag();
   const bool wasPinching = std::exchange(isPinching_, false);
   if (wasDragging) {
     setCursor(Qt::CrossCursor);

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "model/executor.h"
+#include "ui/controls/press.h"
 #include "ui/map/map_layout.h"
 #include "ui/map/map_marks.h"
 #include "ui/map/map_picture.h"
@@ -88,8 +89,7 @@ class MapArea final : public QWidget {
   bool hasAskedForPicture_ = false;
 
   std::optional<QPointF> pointer_;
-  std::optional<QPointF> pressedAt_;
-  bool isDragging_ = false;
+  Press press_;
   double magnification_ = 1.0;
   bool isPinching_ = false;
 };
