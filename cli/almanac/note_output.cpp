@@ -5,8 +5,8 @@
 #include <system_error>
 
 #include "astro/calendar.h"
-#include "cli/typed/errors.h"
 #include "cli/written/document_writer.h"
+#include "cli/written/folder.h"
 #include "notes/calendarium.h"
 #include "notes/note.h"
 #include "notes/seasons_stars.h"
@@ -69,12 +69,7 @@ class CalendariumOutput final : public NoteOutput {
  public:
   CalendariumOutput(const Typed& typed, Visibility visibility, const std::vector<Place>& places)
       : NoteOutput(visibility, places), folder_(typed.folder), list_(DocumentWriter::to("-")) {
-    std::error_code error;
-    std::filesystem::create_directories(folder_, error);
-    if (error) {
-      throw WriteError("cannot make the folder " + words::inQuotes(typed.folder) + ": " +
-                       error.message());
-    }
+    makeFolder(typed.folder);
   }
 
   void finish() override {

@@ -1,12 +1,7 @@
 #include "cli/batch/batch_command.h"
 
 #include <algorithm>
-#include <cerrno>
 #include <cstdio>
-#include <fcntl.h>
-#include <filesystem>
-#include <system_error>
-#include <unistd.h>
 
 #include "cli/batch/row_writer.h"
 #include "cli/batch/side_by_side.h"
@@ -15,6 +10,7 @@
 #include "cli/typed/named_file.h"
 #include "cli/written/asked_forms.h"
 #include "cli/written/document_writer.h"
+#include "cli/written/folder.h"
 #include "cli/written/progress.h"
 #include "words/listing.h"
 #include "words/quoting.h"
@@ -99,19 +95,6 @@ std::vector<BatchRow> rowsOf(const Typed& typed) {
                     [](const std::string& name) { return savedPlace(name, "place"); });
   } catch (const words::UsageError& error) {
     throw words::UsageError(nameOfFile(typed.table) + ": " + error.what());
-  }
-}
-
-/// Made where it is missing; one that takes nothing new is refused before anything is calculated.
-void makeFolder(const std::string& folder) {
-  std::error_code error;
-  std::filesystem::create_directories(folder, error);
-  if (error) {
-    throw WriteError("cannot make the folder " + words::inQuotes(folder) + ": " + error.message());
-  }
-  if (faccessat(AT_FDCWD, folder.c_str(), W_OK | X_OK, AT_EACCESS) != 0) {
-    throw WriteError("cannot write into the folder " + words::inQuotes(folder) + ": " +
-                     std::generic_category().message(errno));
   }
 }
 

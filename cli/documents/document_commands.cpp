@@ -9,8 +9,8 @@
 #include "cli/documents/document_content.h"
 #include "cli/page/page_file.h"
 #include "cli/page/session.h"
-#include "cli/typed/errors.h"
 #include "cli/written/asked_forms.h"
+#include "cli/written/folder.h"
 #include "cli/written/notation.h"
 #include "cli/written/progress.h"
 #include "records/document_records.h"
@@ -88,12 +88,7 @@ void DocumentCommands::writeAll() const {
   if (typed_.folder.empty() || typed_.file != "-") {
     throw words::UsageError("all needs --out DIR, and takes no -o");
   }
-  std::error_code error;
-  std::filesystem::create_directories(typed_.folder, error);
-  if (error) {
-    throw WriteError("cannot make the folder " + words::inQuotes(typed_.folder) + ": " +
-                     error.message());
-  }
+  makeFolder(typed_.folder);
   DocumentWriter list = DocumentWriter::to("-");
   for (const Entry& document : documents::allDocuments) {
     std::optional<std::string> text;

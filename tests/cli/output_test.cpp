@@ -180,6 +180,19 @@ TEST_F(Output, AFolderThatMayNotBeWrittenStaysAsItIs) {
   EXPECT_EQ(namesIn(scratch.path()), Names{"document.txt"});
 }
 
+TEST_F(Output, AFolderThatTakesNoFilesIsNamedBeforeAnythingIsWritten) {
+  ASSERT_EQ(chmod(scratch.path().c_str(), 0555), 0);
+  const std::vector<std::vector<std::string>> commands = {
+      {"all"}, {"events", "--from", "720-01-01", "--for", "1 month", "--format", "calendarium"}};
+  for (std::vector<std::string> arguments : commands) {
+    arguments.insert(arguments.end(), {"--out", scratch.path()});
+    const Outcome outcome = run({.arguments = arguments, .asNobody = true});
+    expectNotWritten(outcome,
+                     "cannot write into the folder \"" + scratch.path() + "\": Permission denied");
+    EXPECT_EQ(outcome.out, "");
+  }
+}
+
 TEST_F(Output, AFileThatMayBeWrittenIsThoughItsFolderMayNot) {
   writeFile(file, std::string(100'000, 'x'));
   ASSERT_EQ(chmod(file.c_str(), 0666), 0);
