@@ -39,7 +39,7 @@ ExportNotice::ExportNotice(QWidget* parent)
 
   timeout_.setSingleShot(true);
   timeout_.setInterval(shown);
-  connect(&timeout_, &QTimer::timeout, this, [this] { say(QString()); });
+  connect(&timeout_, &QTimer::timeout, this, &ExportNotice::clear);
   connect(openFolder_, &QPushButton::clicked, this,
           [this] { QDesktopServices::openUrl(QUrl::fromLocalFile(folder_)); });
 }
@@ -65,8 +65,12 @@ void ExportNotice::showFailure(const QString& line) {
 
 void ExportNotice::dismissFailure() {
   if (isFailure_) {
-    say(QString());
+    clear();
   }
+}
+
+void ExportNotice::clear() {
+  say(QString());
 }
 
 void ExportNotice::say(const QString& line) {

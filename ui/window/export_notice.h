@@ -25,6 +25,8 @@ class ExportNotice final : public QWidget {
   void showFailure(const QString& line);
   /// The person has gone on to something else: a failure goes.
   void dismissFailure();
+  /// There is nothing to be said any more.
+  void clear();
 
  private:
   void say(const QString& line);

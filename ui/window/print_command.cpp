@@ -24,7 +24,6 @@ void PrintCommand::print(exports::OutputTab tab) {
   if (!content) {
     return;
   }
-  notice_.dismissFailure();
   const Order order{*content, QFileInfo(content->proposedName).completeBaseName(),
                     changedInputsRemark(model_)};
   if (QStandardPaths::findExecutable(QStringLiteral("lp")).isEmpty()) {
@@ -32,6 +31,7 @@ void PrintCommand::print(exports::OutputTab tab) {
     return;
   }
   isAsking_ = true;
+  notice_.showProgress(tr("Looking for printers …"));  // over a network that may take a while
   run(QStringLiteral("lpstat"), {QStringLiteral("-e")}, {},
       [this, order](const QString& names, const QString& failure) {
         const QStringList printers = names.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
@@ -50,6 +50,7 @@ void PrintCommand::print(exports::OutputTab tab) {
 
 void PrintCommand::askForPrinter(const Order& order, const QStringList& printers,
                                  const QString& usual) {
+  notice_.clear();
   auto* const sheet = new PrintSheet(printers, usual, &window_);
   connect(sheet, &QDialog::finished, this, [this] { isAsking_ = false; });
   connect(sheet, &QDialog::accepted, this,

@@ -90,6 +90,18 @@ TEST_F(Printing, NothingIsPrintedWhereThePersonCancels) {
   EXPECT_EQ(notice(), QString());
 }
 
+TEST_F(Printing, SaysThatItLooksForPrintersUntilItKnows) {
+  installPrinters();
+  install("lpstat",
+          "until [ -e answer ]; do sleep 0.01; done; [ \"$1\" = -e ] && echo Attic; exit 0\n");
+  askToPrint();
+  EXPECT_EQ(notice(), QStringLiteral("Looking for printers …"));
+  QFile answer(programs.filePath(QStringLiteral("answer")));
+  ASSERT_TRUE(answer.open(QIODevice::WriteOnly));
+  ASSERT_NE(sheet(), nullptr);
+  EXPECT_EQ(notice(), QString());
+}
+
 TEST_F(Printing, WithoutAPrintCommandItSaysSo) {
   askToPrint();
   EXPECT_EQ(notice(), QStringLiteral("Not printed: this computer has no print command (lp)"));
