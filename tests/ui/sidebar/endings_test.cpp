@@ -6,7 +6,9 @@
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QScrollArea>
+#include <algorithm>
 #include <functional>
+#include <iterator>
 #include <ostream>
 
 #include "tests/support/patience.h"
@@ -110,6 +112,15 @@ std::vector<Ending> leavingsOfEachKind() {
   return some;
 }
 
+/// With nothing in it, a field in an inactive window waits for what is to come.
+std::vector<Ending> endingsOfAnEmptyField() {
+  std::vector<Ending> some = leavingsOfEachKind();
+  std::ranges::copy_if(stayings, std::back_inserter(some), [](const Ending& ending) {
+    return ending.name != std::string("AnotherWindow");
+  });
+  return some;
+}
+
 std::vector<Ending> allEndings() {
   std::vector<Ending> all = leavings;
   all.insert(all.end(), stayings.begin(), stayings.end());
@@ -180,6 +191,20 @@ TEST_P(WhenItIsNotLeft, WhatIsRefusedStaysToBeMended) {
   EXPECT_FALSE(find<QLabel>(field.note)->text().isEmpty());
 }
 
+struct HoweverAnEmptyFieldIsEnded : Typing {};
+
+TEST_P(HoweverAnEmptyFieldIsEnded, TheValueInUseComesBackWithoutANote) {
+  const double before = field.inUse(model);
+  QWidget& widget = typeInto("");
+  const QString inUse = shownIn(widget);
+  QTest::keyClick(&widget, Qt::Key_Backspace);
+  ASSERT_EQ(shownIn(widget), QString());
+  ending.end(*this, widget);
+  EXPECT_EQ(field.inUse(model), before);
+  EXPECT_EQ(shownIn(widget), inUse);
+  EXPECT_EQ(find<QLabel>(field.note)->text(), QString());
+}
+
 std::string nameOf(const testing::TestParamInfo<std::tuple<Field, Ending>>& info) {
   return std::string(std::get<0>(info.param).name) + "_" + std::get<1>(info.param).name;
 }
@@ -194,6 +219,11 @@ INSTANTIATE_TEST_SUITE_P(Sidebar, WhenItIsLeft,
                          nameOf);
 INSTANTIATE_TEST_SUITE_P(Sidebar, WhenItIsNotLeft,
                          testing::Combine(testing::ValuesIn(fields), testing::ValuesIn(stayings)),
+                         nameOf);
+
+INSTANTIATE_TEST_SUITE_P(Sidebar, HoweverAnEmptyFieldIsEnded,
+                         testing::Combine(testing::ValuesIn(fields),
+                                          testing::ValuesIn(endingsOfAnEmptyField())),
                          nameOf);
 
 /// The keys of all menu entries but that of the manual, which is read while typing goes on.
