@@ -2,6 +2,7 @@
 #include <QAction>
 #include <QFileDialog>
 #include <QImage>
+#include <QLineEdit>
 #include <QMenu>
 #include <QTableWidget>
 
@@ -131,6 +132,21 @@ TEST_F(ChartsInTheWindow, TheMenuSavesAChartAsPng) {
   const QImage saved(path);
   EXPECT_EQ(saved.size(), QSize(1440, 760));
   EXPECT_EQ(saved.pixelColor(3, 3), QColor(Qt::white));
+}
+
+TEST_F(ChartsInTheWindow, TheMenuAsksForAFileOfEachForm) {
+  press("tab2");
+  for (const auto& [requested, suffix] :
+       {std::pair(&ChartView::svgRequested, ".svg"), std::pair(&ChartView::pdfRequested, ".pdf"),
+        std::pair(&ChartView::pngRequested, ".png")}) {
+    Q_EMIT(horoscope->*requested)();
+    auto* const dialog = find<QFileDialog>("saveDialog");
+    const QString name = dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->text();
+    EXPECT_TRUE(name.startsWith(QStringLiteral("Horoscope - "))) << name.toStdString();
+    EXPECT_TRUE(name.endsWith(QLatin1String(suffix))) << name.toStdString();
+    dialog->reject();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  }
 }
 
 }  // namespace
