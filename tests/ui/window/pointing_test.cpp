@@ -136,10 +136,11 @@ TEST_F(ChartsInTheWindow, TheMenuSavesAChartAsPng) {
 
 TEST_F(ChartsInTheWindow, TheMenuAsksForAFileOfEachForm) {
   press("tab2");
+  ChartView& chart = *horoscope;
   for (const auto& [requested, suffix] :
        {std::pair(&ChartView::svgRequested, ".svg"), std::pair(&ChartView::pdfRequested, ".pdf"),
         std::pair(&ChartView::pngRequested, ".png")}) {
-    Q_EMIT(horoscope->*requested)();
+    Q_EMIT(chart.*requested)();
     auto* const dialog = find<QFileDialog>("saveDialog");
     const QString name = dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->text();
     EXPECT_TRUE(name.startsWith(QStringLiteral("Horoscope - "))) << name.toStdString();
